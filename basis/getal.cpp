@@ -1,0 +1,189 @@
+#include "basis/getal.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstddef>
+
+#include "basis/fout.h"
+#include "basis/tekst.h"
+
+namespace murvane {
+
+namespace {
+
+constexpr int Cijfers = 15;
+
+const char* NietEindig(double waarde) {
+  if (std::isnan(waarde)) return "NaN";
+  return waarde < 0 ? "-INF" : "INF";
+}
+
+/// The 15 significant decimal digits of a finite number and the position of its decimal point: the value is
+/// 0.d1d2...d15 times ten to the power `punt`.
+struct Decimalen {
+  std::array<char, Cijfers> cijfers;
+  int punt;
+};
+
+Decimalen NaarDecimalen(double grootte) {
+  std::array<char, 32> buffer;  // "d.dddddddddddddde-308"
+  const auto einde =
+      std::to_chars(buffer.data(), buffer.data() + buffer.size(), grootte, std::chars_format::scientific, Cijfers - 1)
+          .ptr;
+  Decimalen uit{};
+  uit.cijfers[0] = buffer[0];
+  for (int i = 1; i < Cijfers; ++i) uit.cijfers[static_cast<std::size_t>(i)] = buffer[static_cast<std::size_t>(i) + 1];
+  const char* exponent = buffer.data() + Cijfers + 2;  // behind "d.dd...de"
+  if (*exponent == '+') ++exponent;
+  std::from_chars(exponent, einde, uit.punt);
+  ++uit.punt;
+  return uit;
+}
+
+/// Rounds to the first `n` digits, halves up (the sign is kept elsewhere), and blanks the rest to '0'. `n` may be
+/// 0 or less: then the whole number is at most a half of the last place kept. Carries into a new first digit.
+void RondAf(Decimalen& d, int n) {
+  if (n >= Cijfers) return;
+  bool op = n >= 0 && d.cijfers[static_cast<std::size_t>(n)] >= '5';
+  for (int i = n > 0 ? n : 0; i < Cijfers; ++i) d.cijfers[static_cast<std::size_t>(i)] = '0';
+  for (int i = n - 1; op && i >= 0; --i) {
+    char& cijfer = d.cijfers[static_cast<std::size_t>(i)];
+    op = cijfer == '9';
+    cijfer = op ? '0' : static_cast<char>(cijfer + 1);
+  }
+  if (op) {  // all kept digits were nines, or none was kept
+    d.cijfers[0] = '1';
+    ++d.punt;
+  }
+}
+
+bool IsCijfer(char c) { return c >= '0' && c <= '9'; }
+
+std::size_t SlaCijfersOver(std::string_view& rest) {
+  std::size_t n = 0;
+  while (n < rest.size() && IsCijfer(rest[n])) ++n;
+  rest.remove_prefix(n);
+  return n;
+}
+
+void SlaTekenOver(std::string_view& rest) {
+  if (!rest.empty() && (rest.front() == '+' || rest.front() == '-')) rest.remove_prefix(1);
+}
+
+bool HeeftExponent(std::string_view& rest) {
+  if (rest.empty()) return true;
+  if (rest.front() != 'e' && rest.front() != 'E') return false;
+  rest.remove_prefix(1);
+  SlaTekenOver(rest);
+  return SlaCijfersOver(rest) > 0 && rest.empty();
+}
+
+std::string MetPunt(std::string_view tekst) {
+  std::string uit(Trim(tekst));
+  if (const auto komma = uit.find(','); komma != std::string::npos) uit[komma] = '.';
+  return uit;
+}
+
+bool IsNumeriekMetPunt(std::string_view rest) {
+  SlaTekenOver(rest);
+  std::size_t cijfers = SlaCijfersOver(rest);
+  if (!rest.empty() && rest.front() == '.') {
+    rest.remove_prefix(1);
+    cijfers += SlaCijfersOver(rest);
+  }
+  return cijfers > 0 && HeeftExponent(rest);
+}
+
+/// For a numeric text outside the range of a double: whether it is too large, by the power of ten of its first
+/// digit that is not 0.
+bool TeGroot(std::string_view getal) {
+  const auto e = std::min(getal.find_first_of("eE"), getal.size());
+  const auto eerste = getal.find_first_of("123456789");
+  if (eerste >= e) return false;
+  const auto punt = std::min(getal.find('.'), e);
+  const auto plaats = static_cast<std::ptrdiff_t>(punt) - static_cast<std::ptrdiff_t>(eerste);
+  if (e == getal.size()) return plaats > 0;
+  const char* begin = getal.data() + e + 1;
+  if (*begin == '+') ++begin;
+  std::ptrdiff_t exponent = 0;
+  if (std::from_chars(begin, getal.data() + getal.size(), exponent).ec == std::errc::result_out_of_range)
+    return *begin != '-';
+  return plaats + exponent > 0;
+}
+
+}  // namespace
+
+void VoegOpmaakToe(std::string& uit, double waarde, Formaat formaat, char decimaal) {
+  if (!std::isfinite(waarde)) {
+    uit += NietEindig(waarde);
+    return;
+  }
+  const int decimalen = static_cast<int>(formaat);
+  Decimalen d = NaarDecimalen(std::fabs(waarde));
+  RondAf(d, d.punt + decimalen);
+  const auto cijfer = [&d](int plaats) {  // the digit at 10^-plaats-1 behind the decimal point
+    const int i = d.punt + plaats;
+    return i >= 0 && i < Cijfers ? d.cijfers[static_cast<std::size_t>(i)] : '0';
+  };
+  const std::size_t begin = uit.size();
+  bool nul = true;
+  const auto voegToe = [&](char c) {
+    nul = nul && c == '0';
+    uit += c;
+  };
+  if (d.punt <= 0) {
+    uit += '0';
+  } else {
+    for (int i = -d.punt; i < 0; ++i) voegToe(cijfer(i));
+  }
+  if (decimalen > 0) uit += decimaal;
+  for (int i = 0; i < decimalen; ++i) voegToe(cijfer(i));
+  if (waarde < 0 && !nul) uit.insert(begin, 1, '-');
+}
+
+std::string Opmaak(double waarde, Formaat formaat, char decimaal) {
+  std::string uit;
+  VoegOpmaakToe(uit, waarde, formaat, decimaal);
+  return uit;
+}
+
+std::string StandaardTekst(double waarde, char decimaal) {
+  if (!std::isfinite(waarde)) return NietEindig(waarde);
+  if (waarde == 0) return "0";
+  std::array<char, 32> buffer;
+  const auto einde =
+      std::to_chars(buffer.data(), buffer.data() + buffer.size(), waarde, std::chars_format::general, Cijfers).ptr;
+  std::string uit(buffer.data(), einde);
+  for (char& c : uit) {
+    if (c == '.') c = decimaal;
+    if (c == 'e') c = 'E';
+  }
+  return uit;
+}
+
+double RondEven(double waarde) {
+  const double onder = std::floor(waarde);
+  const double rest = waarde - onder;
+  if (rest != 0.5) return rest < 0.5 ? onder : onder + 1;
+  return std::fmod(onder, 2) == 0 ? onder : onder + 1;
+}
+
+bool IsNumeriek(std::string_view tekst) { return IsNumeriekMetPunt(MetPunt(tekst)); }
+
+double LeesGetal(std::string_view tekst) {
+  const std::string metPunt = MetPunt(tekst);
+  if (!IsNumeriekMetPunt(metPunt)) throw Fout(FoutNummer::GeenGetal);
+  const char* begin = metPunt.data();
+  const char* einde = begin + metPunt.size();
+  if (*begin == '+') ++begin;
+  double waarde = 0;
+  if (std::from_chars(begin, einde, waarde).ec == std::errc::result_out_of_range) {
+    if (TeGroot(metPunt)) throw Fout(FoutNummer::Overloop);
+    return *begin == '-' ? -0.0 : 0.0;  // the nearest double of a tiny number
+  }
+  return waarde;
+}
+
+}  // namespace murvane

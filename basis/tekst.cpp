@@ -1,0 +1,100 @@
+#include "basis/tekst.h"
+
+#include <cstdint>
+
+#include "basis/fout.h"
+
+namespace murvane {
+
+namespace {
+
+constexpr bool IsLeeg(char c) { return c == ' ' || c == '\0'; }
+
+/// Code points of the bytes 80 to 9F hexadecimal; elsewhere byte and code point are equal.
+constexpr std::array<char16_t, 32> HogeTekens = {
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+void VoegUtf8Toe(std::string& uit, char32_t punt) {
+  if (punt < 0x80) {
+    uit += static_cast<char>(punt);
+  } else if (punt < 0x800) {
+    uit += static_cast<char>(0xC0 | (punt >> 6));
+    uit += static_cast<char>(0x80 | (punt & 0x3F));
+  } else {
+    uit += static_cast<char>(0xE0 | (punt >> 12));
+    uit += static_cast<char>(0x80 | ((punt >> 6) & 0x3F));
+    uit += static_cast<char>(0x80 | (punt & 0x3F));
+  }
+}
+
+[[noreturn]] void GeenUtf8() { throw Fout(FoutNummer::OngeldigArgument, "De tekst is geen geldige UTF-8"); }
+
+/// Takes one code point off the front of `rest`; shortest forms only, no surrogates.
+char32_t NeemPunt(std::string_view& rest) {
+  const auto eerste = static_cast<unsigned char>(rest.front());
+  std::size_t n = 1;
+  char32_t punt = eerste;
+  char32_t kleinste = 0;
+  if (eerste >= 0xF0 && eerste < 0xF8) {
+    n = 4, punt = eerste & 0x07U, kleinste = 0x10000;
+  } else if (eerste >= 0xE0 && eerste < 0xF0) {
+    n = 3, punt = eerste & 0x0FU, kleinste = 0x800;
+  } else if (eerste >= 0xC0 && eerste < 0xE0) {
+    n = 2, punt = eerste & 0x1FU, kleinste = 0x80;
+  } else if (eerste >= 0x80) {
+    GeenUtf8();
+  }
+  if (rest.size() < n) GeenUtf8();
+  for (std::size_t i = 1; i < n; ++i) {
+    const auto c = static_cast<unsigned char>(rest[i]);
+    if ((c & 0xC0) != 0x80) GeenUtf8();
+    punt = (punt << 6) | (c & 0x3FU);
+  }
+  if (punt < kleinste || (punt >= 0xD800 && punt < 0xE000) || punt > 0x10FFFF) GeenUtf8();
+  rest.remove_prefix(n);
+  return punt;
+}
+
+char NaarByte(char32_t punt) {
+  if (punt < 0x80 || (punt >= 0xA0 && punt < 0x100)) return static_cast<char>(punt);
+  for (std::size_t i = 0; i < HogeTekens.size(); ++i) {
+    if (HogeTekens[i] == punt) return static_cast<char>(0x80 + i);
+  }
+  std::string teken;
+  VoegUtf8Toe(teken, punt > 0xFFFF ? char32_t{0xFFFD} : punt);
+  throw Fout(FoutNummer::OngeldigArgument, "Het teken '" + teken + "' kan niet in een tekst van het project staan");
+}
+
+}  // namespace
+
+std::string_view TrimRechts(std::string_view tekst) {
+  while (!tekst.empty() && IsLeeg(tekst.back())) tekst.remove_suffix(1);
+  return tekst;
+}
+
+std::string_view Trim(std::string_view tekst) {
+  tekst = TrimRechts(tekst);
+  while (!tekst.empty() && IsLeeg(tekst.front())) tekst.remove_prefix(1);
+  return tekst;
+}
+
+std::string NaarUtf8(std::string_view cp1252) {
+  std::string uit;
+  uit.reserve(cp1252.size() + cp1252.size() / 8);
+  for (const char teken : cp1252) {
+    const auto byte = static_cast<unsigned char>(teken);
+    VoegUtf8Toe(uit, byte >= 0x80 && byte < 0xA0 ? HogeTekens[byte - 0x80U] : byte);
+  }
+  return uit;
+}
+
+std::string NaarCp1252(std::string_view utf8) {
+  std::string uit;
+  uit.reserve(utf8.size());
+  while (!utf8.empty()) uit += NaarByte(NeemPunt(utf8));
+  return uit;
+}
+
+}  // namespace murvane

@@ -1,0 +1,262 @@
+#include "calc/elementen.h"
+
+#include <limits>
+#include <string>
+
+#include "basis/getal.h"
+#include "calc/rekenkunde.h"
+#include "calc/spectrum.h"
+
+namespace murvane {
+
+namespace {
+
+using Band = std::size_t;
+using BandRij = std::array<double, Banden>;
+
+// ---- report texts ----
+
+std::string RondTekst(double diameter, char decimaal) {
+  return "diam = " + StandaardTekst(diameter, decimaal) + " mm";
+}
+
+std::string RechtTekst(double hoogte, double breedte, char decimaal) {
+  return std::string("h×b = "_cp) + StandaardTekst(hoogte, decimaal) + std::string("×"_cp) +
+         StandaardTekst(breedte, decimaal) + " mm";
+}
+
+std::string MaatTekst(bool rond, double hoogte, double breedte, char decimaal) {
+  return rond ? RondTekst(hoogte, decimaal) : RechtTekst(hoogte, breedte, decimaal);
+}
+
+std::string DebietTekst(double debiet, char decimaal) {
+  return "q = " + StandaardTekst(debiet, decimaal) + std::string(" m³/s"_cp);
+}
+
+void ZetRijen(ElementTekstRijen& tekst, std::string_view een, std::string_view twee, std::string_view drie = {},
+              std::string_view vier = {}) {
+  tekst[0] = een, tekst[1] = twee, tekst[2] = drie, tekst[3] = vier;
+}
+
+// ---- size classes ----
+
+/// One row of an attenuation table: the values for sizes up to and including `tot` mm.
+struct Klasse {
+  double tot;
+  BandRij waarde;
+};
+
+constexpr double GeenGrens = std::numeric_limits<double>::infinity();
+
+const BandRij& InKlasse(const std::array<Klasse, 4>& tabel, double maat) {
+  std::size_t k = 0;
+  while (maat > tabel[k].tot) ++k;
+  return tabel[k].waarde;
+}
+
+// Attenuation of straight ducts, dB/m.
+constexpr std::array<Klasse, 4> KanaalRechtTabel = {{
+    {200, {0.6, 0.6, 0.4, 0.3, 0.3, 0.3, 0.3}},
+    {400, {0.6, 0.5, 0.4, 0.3, 0.2, 0.2, 0.2}},
+    {800, {0.5, 0.4, 0.3, 0.1, 0.1, 0.1, 0.1}},
+    {GeenGrens, {0.4, 0.3, 0.1, 0.1, 0.05, 0.05, 0.05}},
+}};
+constexpr std::array<Klasse, 4> KanaalRondTabel = {{
+    {200, {0.1, 0.1, 0.1, 0.1, 0.3, 0.3, 0.3}},
+    {400, {0.05, 0.1, 0.1, 0.1, 0.2, 0.2, 0.2}},
+    {800, {0.03, 0.06, 0.06, 0.1, 0.1, 0.1, 0.1}},
+    {GeenGrens, {0.03, 0.03, 0.03, 0.05, 0.05, 0.05, 0.05}},
+}};
+/// Flow noise of a straight duct relative to its overall level, dB.
+constexpr BandRij KanaalVorm = {-5, -6, -7, -8, -9, -10, -14};
+
+// Attenuation of bends, dB.
+constexpr std::array<Klasse, 4> BochtHaaksTabel = {{
+    {250, {0, 0, 0, 1, 5, 7, 5}},
+    {500, {0, 0, 1, 5, 7, 5, 3}},
+    {1000, {0, 1, 5, 7, 5, 3, 3}},
+    {GeenGrens, {1, 5, 7, 5, 3, 3, 3}},
+}};
+constexpr std::array<Klasse, 4> BochtRechtTabel = {{
+    {250, {0, 0, 0, 0, 1, 2, 3}},
+    {500, {0, 0, 0, 1, 2, 3, 3}},
+    {1000, {0, 0, 1, 2, 3, 3, 3}},
+    {GeenGrens, {0, 1, 2, 3, 3, 3, 3}},
+}};
+constexpr std::array<Klasse, 4> BochtRondTabel = {{
+    {125, {0, 0, 0, 0, 1, 2, 3}},
+    {250, {0, 0, 0, 1, 2, 3, 3}},
+    {500, {0, 0, 1, 2, 3, 3, 3}},
+    {GeenGrens, {0, 1, 2, 3, 3, 3, 3}},
+}};
+
+// ---- flow noise ----
+
+double NietNegatief(double niveau) { return Eindig(niveau) < 0 ? 0 : niveau; }
+
+/// Flow noise of outlets and dampers, from the pressure loss over them.
+void KlepRuis(ElementRec& e, double S) {
+  const double drukNiveau = 30 * Log10(e.Weerstand);
+  const double vlakNiveau = 10 * Log10(S);
+  for (Band b = 0; b < Banden; ++b) {
+    const double x = Deel(Frequentie[b] * 0.6 * e.Debiet, e.Weerstand * S);
+    const double K = RoosterKromme(x);
+    e.ruis[b] = NietNegatief(drukNiveau + 17 + vlakNiveau - K);
+  }
+  e.ruis[SomPlaats] = EnergetischeSom(e.ruis, true);
+}
+
+/// Factor of the speed-ratio term of a branch, by the ranges of BochtKromme.
+double AftakFactor(double x) {
+  if (x <= 1) return 32.5;
+  if (x <= 2) return 35;
+  if (x <= 3) return 37.5;
+  if (x <= 4) return 38.1;
+  if (x <= 6) return 40;
+  if (x <= 10) return 41.9;
+  if (x <= 15) return 43.8;
+  return 48.75;
+}
+
+/// End reflection of an outlet, dB, for the directivity factors that the method knows.
+double EindReflectie(int richting, double lg, double x) {
+  switch (richting) {
+    case 1: return x <= 50 ? -20 * lg + 40 : x <= 80 ? -15 * lg + 31.5 : -7.5 * lg + 17.25;
+    case 2: return x <= 40 ? -20 * lg + 37 : x <= 80 ? -11.667 * lg + 23.667 : -5 * lg + 11;
+    case 4: return x <= 30 ? -20 * lg + 34 : x <= 50 ? -13.6 * lg + 24.6 : -5 * lg + 10;
+    default:
+      return x <= 20   ? -20 * lg + 31
+             : x <= 30 ? -13.89 * lg + 23.06
+             : x <= 50 ? -9.09 * lg + 15.95
+                       : -2.5 * lg + 4.75;
+  }
+}
+
+constexpr bool KentRichting(int richting) {
+  return richting == 1 || richting == 2 || richting == 4 || richting == 8;
+}
+
+}  // namespace
+
+void ReKan(ElementRec& e, ElementTekstRijen& tekst, char decimaal) {
+  const bool rond = e.ElementType == elementtype::KanaalRond;
+  EisEindig({e.Hoogte, rond ? 0 : e.Breedte, e.Lengte, e.Debiet});
+  const double S = Oppervlak(e.Hoogte, e.Breedte, rond);
+  ZetRijen(tekst, MaatTekst(rond, e.Hoogte, e.Breedte, decimaal), DebietTekst(e.Debiet, decimaal),
+           "l = " + StandaardTekst(e.Lengte, decimaal) + " m");
+  const double v = Deel(e.Debiet, S);
+  if (e.Lengte < 0.5) {
+    e.demp.fill(0);
+    e.ruis.fill(0);
+    return;
+  }
+  const double L = 50 * Log10(v) + 7 + 10 * Log10(S);
+  for (Band b = 0; b < Banden; ++b) e.ruis[b] = Eindig(L + KanaalVorm[b]);
+  e.ruis[SomPlaats] = EnergetischeSom(e.ruis, true);
+  const double s = rond || e.Breedte <= e.Hoogte ? e.Hoogte : e.Breedte;
+  const BandRij& perMeter = InKlasse(rond ? KanaalRondTabel : KanaalRechtTabel, s);
+  for (Band b = 0; b < Banden; ++b) e.demp[b] = Eindig(e.Lengte * perMeter[b]);
+}
+
+void Rooster(ElementRec& e, const RuimteRec& ruimte, std::int16_t rekenType, ElementTekstRijen& tekst,
+             char decimaal) {
+  e.ElRAantal = ruimte.RAantal;
+  e.ElRDI = ruimte.RDI;
+  EisEindig({e.Hoogte, e.Breedte, e.Debiet, e.Snetto, e.Weerstand});
+  const bool rond = e.Breedte <= 0;
+  const double S = Oppervlak(e.Hoogte, e.Breedte, rond);
+  ZetRijen(tekst, MaatTekst(rond, e.Hoogte, e.Breedte, decimaal), DebietTekst(e.Debiet, decimaal),
+           "Seff = " + StandaardTekst(e.Snetto, decimaal) + std::string(" cm²"_cp),
+           "Dp = " + StandaardTekst(e.Weerstand, decimaal) + " Pa");
+  const double wortelS = Wortel(e.Snetto / 10000);
+  for (Band b = 0; b < Banden; ++b) {
+    const double x = Frequentie[b] * wortelS;
+    if (KentRichting(e.ElRDI)) e.demp[b] = EindReflectie(e.ElRDI, Log10(x), x);
+    e.demp[b] = NietNegatief(e.demp[b]);
+  }
+  if (rekenType == rekentype::Overspraak) return;
+  KlepRuis(e, S);
+}
+
+void Bocht(ElementRec& e, ElementTekstRijen& tekst, char decimaal) {
+  const bool rond = e.ElementType == elementtype::BochtRond;
+  const bool haaks = e.ElementType == elementtype::BochtHaaks;
+  EisEindig({e.Hoogte, rond ? 0 : e.Breedte, e.Debiet});
+  const double S = Oppervlak(e.Hoogte, e.Breedte, rond);
+  const double d = rond ? e.Hoogte : EquivDiameter(e.Hoogte, e.Breedte);
+  ZetRijen(tekst, MaatTekst(rond, e.Hoogte, e.Breedte, decimaal), DebietTekst(e.Debiet, decimaal));
+  const double v = Deel(e.Debiet, S);
+  const double maatNiveau = 30 * Log10(d / 1000);
+  const double snelheidNiveau = 50 * Log10(v);
+  for (Band b = 0; b < Banden; ++b) {
+    const double x = Deel(Frequentie[b] * d, v * 1000);
+    double K = BochtKromme(x);
+    if (haaks) K = K + 5;
+    e.ruis[b] = NietNegatief(BandBreedteNiveau()[b] + K + maatNiveau + snelheidNiveau);
+  }
+  e.ruis[SomPlaats] = EnergetischeSom(e.ruis, true);
+  const auto& tabel = rond ? BochtRondTabel : haaks ? BochtHaaksTabel : BochtRechtTabel;
+  const BandRij& demping = InKlasse(tabel, rond ? e.Hoogte : e.Breedte);
+  for (Band b = 0; b < Banden; ++b) e.demp[b] = demping[b];
+}
+
+void Aftak(ElementRec& e, ElementTekstRijen& tekst, char decimaal) {
+  const bool rond = e.ElementType == elementtype::AftakRond;
+  EisEindig({e.HAftak(), rond ? 0 : e.BAftak(), e.HHoofd, e.BHoofd, e.HDoor, e.BDoor, e.QAftak, e.Debiet, e.RAftak});
+  const double Sa = Oppervlak(e.HAftak(), e.BAftak(), rond);
+  const double d = rond ? e.HAftak() : EquivDiameter(e.HAftak(), e.BAftak());
+  const double Sh = Oppervlak(e.HHoofd, e.BHoofd, e.BHoofd <= 0);
+  const double Sd = Oppervlak(e.HDoor, e.BDoor, e.BDoor <= 0);
+  ZetRijen(tekst, MaatTekst(rond, e.HAftak(), e.BAftak(), decimaal), DebietTekst(e.QAftak, decimaal),
+           "r/da = " + StandaardTekst(e.RAftak, decimaal));
+  const double va = Deel(e.QAftak, Sa);
+  const double vh = Deel(e.Debiet, Sh);
+  const double afronding = 1 - e.RAftak / 0.15;
+  const double verhouding = Log10(Deel(vh, va));
+  const double maatNiveau = 30 * Log10(d / 1000);
+  const double snelheidNiveau = 50 * Log10(va);
+  for (Band b = 0; b < Banden; ++b) {
+    const double x = Deel(Frequentie[b] * d, va * 1000);
+    const double T = x <= 10 ? 6.4 - (x - 2) * 0.1875 : 4.9 - (x - 10) * 0.03;
+    const double R = afronding * T;
+    const double K = BochtKromme(x) + AftakFactor(x) * verhouding;
+    e.ruis[b] = NietNegatief(BandBreedteNiveau()[b] + K + maatNiveau + snelheidNiveau + R);
+  }
+  e.ruis[SomPlaats] = EnergetischeSom(e.ruis, true);
+  const bool rechtdoor = 0.8 * Sh < Sa && Sa <= Sh;
+  const double demping = rechtdoor ? 0 : -10 * Log10(Deel(Sa, Sa + Sd));
+  for (Band b = 0; b < Banden; ++b) e.demp[b] = demping;
+}
+
+void Drsnee(ElementRec& e, ElementTekstRijen& tekst, char decimaal) {
+  constexpr double Geluidsnelheid = 340;  // m/s
+  constexpr double Hoogstens = 8;         // dB
+  const bool rond = e.ElementType == elementtype::DrsneeRond;
+  EisEindig({e.H1Doorsnee(), rond ? 0 : e.B1Doorsnee(), e.H2Doorsnee(), e.B2Doorsnee(), e.LDoorsnee(), e.Debiet});
+  const double S1 = Oppervlak(e.H1Doorsnee(), e.B1Doorsnee(), rond);
+  const double S2 = Oppervlak(e.H2Doorsnee(), e.B2Doorsnee(), e.B2Doorsnee() <= 0);
+  ZetRijen(tekst, MaatTekst(rond, e.H2Doorsnee(), e.B2Doorsnee(), decimaal), DebietTekst(e.Debiet, decimaal),
+           "l = " + StandaardTekst(e.LDoorsnee(), decimaal) + " m");
+  double m = Deel(S2, S1);
+  if (S2 < S1) m = 1;
+  for (Band b = 0; b < Banden; ++b) {
+    const double x = Eindig(e.LDoorsnee() * Frequentie[b] / Geluidsnelheid);
+    double demping = 0;
+    if (x <= 0.5) demping = 10 * Log10(Deel((m + 1) * (m + 1), 4 * m)) * std::cos((x - 0.0025 * m + 0.06) * Pi);
+    demping = NietNegatief(demping);
+    e.demp[b] = demping > Hoogstens ? Hoogstens : demping;
+  }
+  e.ruis.fill(0);
+}
+
+void RegelKlep(ElementRec& e, ElementTekstRijen& tekst, char decimaal) {
+  EisEindig({e.Hoogte, e.Breedte, e.Debiet, e.Weerstand});
+  const bool rond = e.Breedte <= 0;
+  const double S = Oppervlak(e.Hoogte, e.Breedte, rond);
+  ZetRijen(tekst, MaatTekst(rond, e.Hoogte, e.Breedte, decimaal), DebietTekst(e.Debiet, decimaal),
+           "Dp = " + StandaardTekst(e.Weerstand, decimaal) + " Pa");
+  for (Band b = 0; b < Banden; ++b) e.demp[b] = 0;
+  KlepRuis(e, S);
+}
+
+}  // namespace murvane

@@ -1,0 +1,77 @@
+#include "calc/reken.h"
+
+#include <string>
+
+#include "calc/elementen.h"
+#include "calc/instraling.h"
+#include "calc/rekenkunde.h"
+#include "calc/ruimte.h"
+#include "calc/spectrum.h"
+#include "calc/uitstraal.h"
+
+namespace murvane {
+
+namespace {
+
+void RekenModel(Project& project, ElementRec& element, ElementTekstRijen& tekst, char decimaal) {
+  switch (element.ElementType) {
+    case elementtype::AftakRecht:
+    case elementtype::AftakRond: Aftak(element, tekst, decimaal); break;
+    case elementtype::BochtHaaks:
+    case elementtype::BochtRecht:
+    case elementtype::BochtRond: Bocht(element, tekst, decimaal); break;
+    case elementtype::DrsneeRecht:
+    case elementtype::DrsneeRond: Drsnee(element, tekst, decimaal); break;
+    case elementtype::KanaalRecht:
+    case elementtype::KanaalRond: ReKan(element, tekst, decimaal); break;
+    case elementtype::Klep: RegelKlep(element, tekst, decimaal); break;
+    case elementtype::Rooster:
+      Rooster(element, project.Ruimte, project.Kop.RekenType, tekst, decimaal);
+      break;
+    default: break;  // a catalogue element keeps the attenuation and noise that it was given
+  }
+}
+
+void RekenElement(Project& project, int i, Resultaten& r, char decimaal) {
+  const auto n = static_cast<std::size_t>(i);
+  ElementRec& element = project.Elementen[n];
+  r.HeeftInstraling[n] = Instraal(element);
+  for (auto& rij : r.ElementTekst[n]) rij = "";
+  RekenModel(project, element, r.ElementTekst[n], decimaal);
+  const std::int16_t type = project.Kop.RekenType;
+  if (type == rekentype::Installatiegeluid || type == rekentype::Geluidsuitstraling) TussenResult(project, i, r);
+}
+
+}  // namespace
+
+void TussenResult(const Project& project, int i, Resultaten& r) {
+  const auto n = static_cast<std::size_t>(i);
+  const ElementRec& element = project.Elementen[n];
+  const Spectrum& ervoor = i == 1 ? project.Fan.Lw : r.Subtotaal[n - 1];
+  Spectrum& niveau = r.Subtotaal[n];
+  double t = 0;
+  for (std::size_t b = 0; b < Banden; ++b) {
+    double s = Macht10((ervoor[b] - element.demp[b]) / 10);
+    if (element.ruis[b] != 0) s += Macht10(element.ruis[b] / 10);
+    if (element.Instraling[b] != 0) s += Macht10(element.Instraling[b] / 10);
+    niveau[b] = 10 * Log10(s);
+    if (niveau[b] != 0) t += Macht10((niveau[b] + AWeging[b]) / 10);
+  }
+  niveau[SomPlaats] = t == 0 ? 0 : 10 * Log10(t);
+}
+
+void Reken(Project& project, Resultaten& r, char decimaal) {
+  if (project.ElementCount > MaxElementen) throw Fout(FoutNummer::IndexBuitenBereik);
+  for (int i = 1; i <= project.ElementCount; ++i) {
+    try {
+      RekenElement(project, i, r, decimaal);
+    } catch (const Fout& fout) {
+      throw fout.MetPlaats("kanaalelement " + std::to_string(i));
+    }
+  }
+  UitStraal(project, r);
+  EindResult(project, r);
+  RuimteDemping(project, r);
+}
+
+}  // namespace murvane

@@ -1,0 +1,100 @@
+#include "catalogue/catfiles.h"
+
+#include "basis/bestand.h"
+#include "basis/fout.h"
+#include "basis/stroom.h"
+
+namespace murvane {
+
+namespace {
+
+// The field order of each record, once for reading and writing.
+
+template <typename Stap>
+void Velden(auto& rec, Stap stap)
+  requires requires { rec.CatNaam; }
+{
+  stap(rec.CatNaam), stap(rec.CatDemp), stap(rec.CatRuis), stap(rec.PerMeter), stap(rec.CatExtra);
+}
+
+template <typename Stap>
+void Velden(auto& rec, Stap stap)
+  requires requires { rec.SpecNaam; }
+{
+  stap(rec.SpecNaam), stap(rec.SpecWaarde);
+}
+
+template <typename Cat, typename Stap>
+void AlleVelden(Cat& catalogus, Stap stap) {
+  stap(catalogus.Aantal);
+  for (int k = 1; k <= catalogus.Aantal; ++k) {
+    if (k > MaxCatalogus) throw Fout(FoutNummer::IndexBuitenBereik);
+    Velden(catalogus.Records[static_cast<std::size_t>(k)], stap);
+  }
+}
+
+template <typename Cat>
+Cat UitBytes(std::string_view bytes) {
+  Cat catalogus;
+  Lezer lezer(bytes);
+  AlleVelden(catalogus, [&lezer](auto& veld) { lezer.Lees(veld); });
+  return catalogus;
+}
+
+template <typename Cat>
+std::string Bytes(const Cat& catalogus) {
+  std::string bytes;
+  Schrijver schrijver(bytes);
+  AlleVelden(catalogus, [&schrijver](const auto& veld) { schrijver.Schrijf(veld); });
+  return bytes;
+}
+
+/// More bytes than any catalogue has: what stands behind them need not be read.
+constexpr std::size_t MaxBytes = std::size_t{1} << 20;
+
+template <typename Cat>
+Cat LeesFile(const std::filesystem::path& pad) {
+  try {
+    return UitBytes<Cat>(LeesBestand(pad, MaxBytes));
+  } catch (const Fout& fout) {
+    throw fout.MetBestand(PadTekst(pad));
+  }
+}
+
+template <typename Cat>
+void SchrijfFile(const Cat& catalogus, const std::filesystem::path& pad) {
+  try {
+    VervangBestand(pad, Bytes(catalogus), Staart::Blijft);
+  } catch (const Fout& fout) {
+    throw fout.MetBestand(PadTekst(pad));
+  }
+}
+
+}  // namespace
+
+ElementCatalogus ElementenUitBytes(std::string_view bytes) { return UitBytes<ElementCatalogus>(bytes); }
+SpectrumCatalogus SpectraUitBytes(std::string_view bytes) { return UitBytes<SpectrumCatalogus>(bytes); }
+
+std::string CatalogusBytes(const ElementCatalogus& catalogus) { return Bytes(catalogus); }
+std::string CatalogusBytes(const SpectrumCatalogus& catalogus) { return Bytes(catalogus); }
+
+ElementCatalogus LeesElementen(const std::filesystem::path& pad) { return LeesFile<ElementCatalogus>(pad); }
+SpectrumCatalogus LeesSpectra(const std::filesystem::path& pad) { return LeesFile<SpectrumCatalogus>(pad); }
+
+void SchrijfCatalogus(const ElementCatalogus& catalogus, const std::filesystem::path& pad) {
+  SchrijfFile(catalogus, pad);
+}
+void SchrijfCatalogus(const SpectrumCatalogus& catalogus, const std::filesystem::path& pad) {
+  SchrijfFile(catalogus, pad);
+}
+
+Catalogi LeesCatalogi(const std::filesystem::path& map) {
+  Catalogi catalogi;
+  catalogi.CatElementen = LeesElementen(map / "Duct.dat");
+  catalogi.CatFans = LeesSpectra(map / "Fan.dat");
+  catalogi.CatRduct = LeesSpectra(map / "Rduct.dat");
+  catalogi.CatRplaf = LeesSpectra(map / "Rplaf.dat");
+  return catalogi;
+}
+
+}  // namespace murvane

@@ -1,0 +1,31 @@
+# Compiler settings that every target of ours gets through murvane_opties(target).
+
+find_program(CCACHE ccache)
+if(CCACHE AND NOT DEFINED CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+endif()
+
+add_library(murvane-opties INTERFACE)
+if(MSVC)
+  target_compile_options(murvane-opties INTERFACE /W4 /WX /utf-8 /fp:precise)
+else()
+  # Contracting a*b+c into one rounding would change the last bit of results between machines.
+  target_compile_options(murvane-opties INTERFACE
+    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror -ffp-contract=off)
+endif()
+if(MURVANE_SANITIZERS OR MURVANE_FUZZ)
+  target_compile_options(murvane-opties INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(murvane-opties INTERFACE -fsanitize=address,undefined)
+endif()
+if(MURVANE_FUZZ)
+  target_compile_options(murvane-opties INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+if(MURVANE_DEKKING)
+  target_compile_options(murvane-opties INTERFACE --coverage -O0)
+  target_link_options(murvane-opties INTERFACE --coverage)
+endif()
+
+function(murvane_opties doel)
+  target_link_libraries(${doel} PUBLIC $<BUILD_INTERFACE:murvane-opties>)
+endfunction()

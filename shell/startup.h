@@ -1,0 +1,25 @@
+#pragma once
+// What the program knows before it shows anything: its data directory, the decimal sign, the command line.
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace murvane {
+
+/// The name of the settings file, by which a data directory is known.
+inline constexpr const char* InstellingenNaam = "murvane.set";
+
+/// The directory of the settings and catalogues when none is named: the current directory when it holds a
+/// murvane.set, else the data directory that came with the program.
+[[nodiscard]] std::filesystem::path StandaardDataMap();
+
+/// The project file that a command line names, taken whole as one path, in double quotes or not (UTF-8 in and out).
+/// Empty unless its last three characters are "mrv" in any case.
+[[nodiscard]] std::string OpenBestandUit(std::string_view opdrachtregel);
+
+/// The decimal sign of the system's regional setting, ',' or '.'; a sign of more than one byte counts as '.'.
+/// Does not change the process locale.
+[[nodiscard]] char RegionaalDecimaalteken();
+
+}  // namespace murvane
