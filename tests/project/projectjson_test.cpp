@@ -145,28 +145,46 @@ std::string WaardeBytes(const Plek& plek) {
   return {};
 }
 
+/// The field with a value, as the only member of its record.
+std::string MetVeld(const Plek& plek, std::string_view waarde) {
+  std::string lid = "\"";
+  lid.append(plek.naam).append("\": ").append(waarde);
+  return In(plek.record, lid);
+}
+
 TEST(ProjectJson, EveryFieldHasItsNameAndItsPlaceInTheFile) {
   for (const Plek& plek : Plekken) {
     std::string verwacht = BytesVan(In(plek.record, ""));
     const std::string waarde = WaardeBytes(plek);
     verwacht.replace(plek.offset, waarde.size(), waarde);
-    const std::string naam = "\"" + std::string(plek.naam) + "\": ";
-    EXPECT_EQ(BytesVan(In(plek.record, naam + WaardeJson(plek))), verwacht) << naam;
+    EXPECT_EQ(BytesVan(MetVeld(plek, WaardeJson(plek))), verwacht) << plek.naam;
   }
+}
+
+/// What a field of this kind says of a value of another.
+const char* Weigering(Soort soort) {
+  switch (soort) {
+    case Soort::Tekst:
+      return "Geen tekst";
+    case Soort::Getal:
+      return "Geen geldig getal";
+    case Soort::Geheel:
+      return "Geen geheel getal van -32768 tot en met 32767";
+    case Soort::Spectrum:
+      return "Geen lijst";
+  }
+  return "";
 }
 
 TEST(ProjectJson, EveryFieldRefusesAnotherTypeWithItsPath) {
   for (const Plek& plek : Plekken) {
     std::string pad = plek.record;
     if (pad == "Elementen") pad += "[1]";
-    pad += (pad.empty() ? "" : ".") + std::string(plek.naam);
-    const char* const melding = plek.soort == Soort::Tekst   ? "Geen tekst"
-                                : plek.soort == Soort::Getal ? "Geen geldig getal"
-                                : plek.soort == Soort::Spectrum
-                                    ? "Geen lijst"
-                                    : "Geen geheel getal van -32768 tot en met 32767";
-    EXPECT_EQ(MeldingVan(In(plek.record, "\"" + std::string(plek.naam) + "\": true")),
-              "Fout 13 - " + std::string(melding) + " (" + pad + ").");
+    if (!pad.empty()) pad += ".";
+    pad += plek.naam;
+    std::string melding = "Fout 13 - ";
+    melding.append(Weigering(plek.soort)).append(" (").append(pad).append(").");
+    EXPECT_EQ(MeldingVan(MetVeld(plek, "true")), melding);
   }
 }
 
