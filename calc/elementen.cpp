@@ -171,7 +171,7 @@ void ReKan(ElementRec& e, ElementTekstRijen& tekst, char decimaal) {
 
 void Rooster(ElementRec& e, const RuimteRec& ruimte, std::int16_t rekenType, ElementTekstRijen& tekst,
              char decimaal) {
-  e.ElRAantal = ruimte.RAantal;
+  e.ElRAantal = Eindig(ruimte.RAantal);
   e.ElRDI = ruimte.RDI;
   EisEindig({e.Hoogte, e.Breedte, e.Debiet, e.Snetto, e.Weerstand});
   const bool rond = e.Breedte <= 0;
