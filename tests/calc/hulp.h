@@ -7,6 +7,8 @@
 #include <cmath>
 #include <limits>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "basis/fout.h"
 #include "calc/resultaten.h"
@@ -72,6 +74,60 @@ inline void VerwachtTekst(const ElementTekstRijen& rijen, const std::array<std::
 /// The bound that a table includes, and the nearest number above it.
 inline double NetBoven(double grens) {
   return std::nextafter(grens, Oneindig);
+}
+
+using Getalveld = double ElementRec::*;
+
+/// Each of these fields alone at not-a-number and at both infinities ends the model as Fout 6, and none of
+/// them gets into the element's results.
+template <typename Model>
+void VerwachtFout6Bij(const ElementRec& goed, const std::vector<Getalveld>& velden, Model&& model) {
+  ASSERT_EQ(FoutVan([&] {
+              ElementRec element = goed;
+              model(element);
+            }),
+            0);
+  for (std::size_t v = 0; v < velden.size(); ++v) {
+    for (const double waarde : NietEindig) {
+      ElementRec element = goed;
+      element.*velden[v] = waarde;
+      EXPECT_EQ(FoutVan([&] { model(element); }), 6) << "field " << v << " at " << waarde;
+      EXPECT_TRUE(IsEindig(element.demp) && IsEindig(element.ruis)) << "field " << v << " at " << waarde;
+    }
+  }
+}
+
+/// These fields play no part: whatever they hold, the results are the same.
+template <typename Model>
+void VerwachtOngelezen(const ElementRec& goed, const std::vector<Getalveld>& velden, Model&& model) {
+  ElementRec gewoon = goed;
+  model(gewoon);
+  for (std::size_t v = 0; v < velden.size(); ++v) {
+    for (const double waarde : {Nan, -Oneindig, 1234.5, 0.0}) {
+      ElementRec element = goed;
+      element.*velden[v] = waarde;
+      EXPECT_EQ(FoutVan([&] { model(element); }), 0) << "field " << v << " at " << waarde;
+      EXPECT_EQ(element.demp, gewoon.demp) << "field " << v;
+      EXPECT_EQ(element.ruis, gewoon.ruis) << "field " << v;
+    }
+  }
+}
+
+/// One value of one field and the Fout that the model raises for it.
+struct FoutRij {
+  Getalveld veld;
+  double waarde;
+  int fout;
+};
+
+template <typename Model>
+void VerwachtFouten(const ElementRec& goed, const std::vector<FoutRij>& rijen, Model&& model) {
+  for (std::size_t r = 0; r < rijen.size(); ++r) {
+    ElementRec element = goed;
+    element.*rijen[r].veld = rijen[r].waarde;
+    EXPECT_EQ(FoutVan([&] { model(element); }), rijen[r].fout) << "row " << r;
+    EXPECT_TRUE(IsEindig(element.demp) && IsEindig(element.ruis)) << "row " << r;
+  }
 }
 
 }  // namespace murvane::proef
