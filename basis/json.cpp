@@ -139,7 +139,7 @@ class Bouwer {
       throw Fout(FoutNummer::OngeldigArgument, "Dubbele sleutel " + Tussen(sleutel),
                  Plaats(open_.size() - 1));
     }
-    std::get<JsonWaarde::Object>(open_.back().waarde->inhoud).emplace_back(std::move(sleutel), JsonWaarde());
+    std::get<JsonWaarde::Object>(open_.back().waarde->inhoud).emplace_back().first = std::move(sleutel);
     return true;
   }
 
