@@ -33,8 +33,8 @@ std::string DebietTekst(double debiet, char decimaal) {
   return "q = " + StandaardTekst(debiet, decimaal) + std::string(" m³/s"_cp);
 }
 
-void ZetRijen(ElementTekstRijen& tekst, std::string_view een, std::string_view twee, std::string_view drie = {},
-              std::string_view vier = {}) {
+void ZetRijen(ElementTekstRijen& tekst, std::string_view een, std::string_view twee,
+              std::string_view drie = {}, std::string_view vier = {}) {
   tekst[0] = een, tekst[1] = twee, tekst[2] = drie, tekst[3] = vier;
 }
 
@@ -92,18 +92,26 @@ constexpr std::array<Klasse, 4> BochtRondTabel = {{
 
 // ---- flow noise ----
 
-double NietNegatief(double niveau) { return Eindig(niveau) < 0 ? 0 : niveau; }
+double NietNegatief(double niveau) {
+  return Eindig(niveau) < 0 ? 0 : niveau;
+}
 
 /// Flow noise of outlets and dampers, from the pressure loss over them.
 void KlepRuis(ElementRec& e, double S) {
+  BandRij K{};  // before the logarithms below: a pressure loss of 0 has to fail as a division
+  for (Band b = 0; b < Banden; ++b)
+    K[b] = RoosterKromme(Deel(Frequentie[b] * 0.6 * e.Debiet, e.Weerstand * S));
   const double drukNiveau = 30 * Log10(e.Weerstand);
   const double vlakNiveau = 10 * Log10(S);
-  for (Band b = 0; b < Banden; ++b) {
-    const double x = Deel(Frequentie[b] * 0.6 * e.Debiet, e.Weerstand * S);
-    const double K = RoosterKromme(x);
-    e.ruis[b] = NietNegatief(drukNiveau + 17 + vlakNiveau - K);
-  }
+  for (Band b = 0; b < Banden; ++b) e.ruis[b] = NietNegatief(drukNiveau + 17 + vlakNiveau - K[b]);
   e.ruis[SomPlaats] = EnergetischeSom(e.ruis, true);
+}
+
+/// The Strouhal-type number per band of a bend or branch of diameter d (mm) at air speed v (m/s).
+BandRij Strouhal(double d, double v) {
+  BandRij uit{};
+  for (Band b = 0; b < Banden; ++b) uit[b] = Deel(Frequentie[b] * d, v * 1000);
+  return uit;
 }
 
 /// Factor of the speed-ratio term of a branch, by the ranges of BochtKromme.
@@ -121,9 +129,12 @@ double AftakFactor(double x) {
 /// End reflection of an outlet, dB, for the directivity factors that the method knows.
 double EindReflectie(int richting, double lg, double x) {
   switch (richting) {
-    case 1: return x <= 50 ? -20 * lg + 40 : x <= 80 ? -15 * lg + 31.5 : -7.5 * lg + 17.25;
-    case 2: return x <= 40 ? -20 * lg + 37 : x <= 80 ? -11.667 * lg + 23.667 : -5 * lg + 11;
-    case 4: return x <= 30 ? -20 * lg + 34 : x <= 50 ? -13.6 * lg + 24.6 : -5 * lg + 10;
+    case 1:
+      return x <= 50 ? -20 * lg + 40 : x <= 80 ? -15 * lg + 31.5 : -7.5 * lg + 17.25;
+    case 2:
+      return x <= 40 ? -20 * lg + 37 : x <= 80 ? -11.667 * lg + 23.667 : -5 * lg + 11;
+    case 4:
+      return x <= 30 ? -20 * lg + 34 : x <= 50 ? -13.6 * lg + 24.6 : -5 * lg + 10;
     default:
       return x <= 20   ? -20 * lg + 31
              : x <= 30 ? -13.89 * lg + 23.06
@@ -160,7 +171,7 @@ void ReKan(ElementRec& e, ElementTekstRijen& tekst, char decimaal) {
 
 void Rooster(ElementRec& e, const RuimteRec& ruimte, std::int16_t rekenType, ElementTekstRijen& tekst,
              char decimaal) {
-  e.ElRAantal = ruimte.RAantal;
+  e.ElRAantal = Eindig(ruimte.RAantal);
   e.ElRDI = ruimte.RDI;
   EisEindig({e.Hoogte, e.Breedte, e.Debiet, e.Snetto, e.Weerstand});
   const bool rond = e.Breedte <= 0;
@@ -186,11 +197,11 @@ void Bocht(ElementRec& e, ElementTekstRijen& tekst, char decimaal) {
   const double d = rond ? e.Hoogte : EquivDiameter(e.Hoogte, e.Breedte);
   ZetRijen(tekst, MaatTekst(rond, e.Hoogte, e.Breedte, decimaal), DebietTekst(e.Debiet, decimaal));
   const double v = Deel(e.Debiet, S);
+  const BandRij strouhal = Strouhal(d, v);  // before the logarithms: a speed of 0 has to fail as a division
   const double maatNiveau = 30 * Log10(d / 1000);
   const double snelheidNiveau = 50 * Log10(v);
   for (Band b = 0; b < Banden; ++b) {
-    const double x = Deel(Frequentie[b] * d, v * 1000);
-    double K = BochtKromme(x);
+    double K = BochtKromme(strouhal[b]);
     if (haaks) K = K + 5;
     e.ruis[b] = NietNegatief(BandBreedteNiveau()[b] + K + maatNiveau + snelheidNiveau);
   }
@@ -202,7 +213,8 @@ void Bocht(ElementRec& e, ElementTekstRijen& tekst, char decimaal) {
 
 void Aftak(ElementRec& e, ElementTekstRijen& tekst, char decimaal) {
   const bool rond = e.ElementType == elementtype::AftakRond;
-  EisEindig({e.HAftak(), rond ? 0 : e.BAftak(), e.HHoofd, e.BHoofd, e.HDoor, e.BDoor, e.QAftak, e.Debiet, e.RAftak});
+  EisEindig({e.HAftak(), rond ? 0 : e.BAftak(), e.HHoofd, e.BHoofd, e.HDoor, e.BDoor, e.QAftak, e.Debiet,
+             e.RAftak});
   const double Sa = Oppervlak(e.HAftak(), e.BAftak(), rond);
   const double d = rond ? e.HAftak() : EquivDiameter(e.HAftak(), e.BAftak());
   const double Sh = Oppervlak(e.HHoofd, e.BHoofd, e.BHoofd <= 0);
@@ -211,12 +223,13 @@ void Aftak(ElementRec& e, ElementTekstRijen& tekst, char decimaal) {
            "r/da = " + StandaardTekst(e.RAftak, decimaal));
   const double va = Deel(e.QAftak, Sa);
   const double vh = Deel(e.Debiet, Sh);
+  const BandRij strouhal = Strouhal(d, va);
   const double afronding = 1 - e.RAftak / 0.15;
   const double verhouding = Log10(Deel(vh, va));
   const double maatNiveau = 30 * Log10(d / 1000);
   const double snelheidNiveau = 50 * Log10(va);
   for (Band b = 0; b < Banden; ++b) {
-    const double x = Deel(Frequentie[b] * d, va * 1000);
+    const double x = strouhal[b];
     const double T = x <= 10 ? 6.4 - (x - 2) * 0.1875 : 4.9 - (x - 10) * 0.03;
     const double R = afronding * T;
     const double K = BochtKromme(x) + AftakFactor(x) * verhouding;
@@ -232,7 +245,8 @@ void Drsnee(ElementRec& e, ElementTekstRijen& tekst, char decimaal) {
   constexpr double Geluidsnelheid = 340;  // m/s
   constexpr double Hoogstens = 8;         // dB
   const bool rond = e.ElementType == elementtype::DrsneeRond;
-  EisEindig({e.H1Doorsnee(), rond ? 0 : e.B1Doorsnee(), e.H2Doorsnee(), e.B2Doorsnee(), e.LDoorsnee(), e.Debiet});
+  EisEindig(
+      {e.H1Doorsnee(), rond ? 0 : e.B1Doorsnee(), e.H2Doorsnee(), e.B2Doorsnee(), e.LDoorsnee(), e.Debiet});
   const double S1 = Oppervlak(e.H1Doorsnee(), e.B1Doorsnee(), rond);
   const double S2 = Oppervlak(e.H2Doorsnee(), e.B2Doorsnee(), e.B2Doorsnee() <= 0);
   ZetRijen(tekst, MaatTekst(rond, e.H2Doorsnee(), e.B2Doorsnee(), decimaal), DebietTekst(e.Debiet, decimaal),
@@ -242,7 +256,8 @@ void Drsnee(ElementRec& e, ElementTekstRijen& tekst, char decimaal) {
   for (Band b = 0; b < Banden; ++b) {
     const double x = Eindig(e.LDoorsnee() * Frequentie[b] / Geluidsnelheid);
     double demping = 0;
-    if (x <= 0.5) demping = 10 * Log10(Deel((m + 1) * (m + 1), 4 * m)) * std::cos((x - 0.0025 * m + 0.06) * Pi);
+    if (x <= 0.5)
+      demping = 10 * Log10(Deel((m + 1) * (m + 1), 4 * m)) * std::cos((x - 0.0025 * m + 0.06) * Pi);
     demping = NietNegatief(demping);
     e.demp[b] = demping > Hoogstens ? Hoogstens : demping;
   }
