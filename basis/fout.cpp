@@ -8,9 +8,11 @@ const char* Beschrijving(FoutNummer nummer) {
   switch (nummer) {
     case FoutNummer::OngeldigArgument: return "Ongeldig argument";
     case FoutNummer::Overloop: return "Overloop: een getal is te groot of onbepaald";
+    case FoutNummer::OnvoldoendeGeheugen: return "Onvoldoende geheugen";
     case FoutNummer::IndexBuitenBereik: return "Index buiten het bereik";
     case FoutNummer::DelingDoorNul: return "Deling door nul";
     case FoutNummer::GeenGetal: return "Geen geldig getal";
+    case FoutNummer::InterneFout: return "Interne fout";
     case FoutNummer::OngeldigeBestandsnaam: return "Ongeldige bestandsnaam";
     case FoutNummer::BestandNietGevonden: return "Bestand niet gevonden";
     case FoutNummer::SchijfVol: return "Schijf vol";
