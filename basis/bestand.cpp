@@ -1,7 +1,7 @@
 #include "basis/bestand.h"
 
-#include <cerrno>
 #include <algorithm>
+#include <cerrno>
 #include <optional>
 #include <system_error>
 
@@ -33,9 +33,11 @@ FoutNummer NummerVan(int code, const fs::path& pad) {
       const fs::path map = pad.has_parent_path() ? pad.parent_path() : fs::path(".");
       return fs::is_directory(map, geen) ? FoutNummer::BestandNietGevonden : FoutNummer::PadNietGevonden;
     }
-    case ENOTDIR: return FoutNummer::PadNietGevonden;
+    case ENOTDIR:
+      return FoutNummer::PadNietGevonden;
     case ENAMETOOLONG:
-    case EINVAL: return FoutNummer::OngeldigeBestandsnaam;
+    case EINVAL:
+      return FoutNummer::OngeldigeBestandsnaam;
     case ENOSPC:
     case EFBIG:
 #ifdef EDQUOT
@@ -43,8 +45,10 @@ FoutNummer NummerVan(int code, const fs::path& pad) {
 #endif
       return FoutNummer::SchijfVol;
     case EACCES:
-    case EPERM: return FoutNummer::GeenToestemming;
-    default: return FoutNummer::PadToegang;
+    case EPERM:
+      return FoutNummer::GeenToestemming;
+    default:
+      return FoutNummer::PadToegang;
   }
 }
 
@@ -67,19 +71,33 @@ long long Lees(int nummer, char* naar, std::size_t n) {
 long long Schrijf(int nummer, const char* van, std::size_t n) {
   return _write(nummer, van, static_cast<unsigned>(std::min<std::size_t>(n, 1U << 20)));
 }
-int Sluit(int nummer) { return _close(nummer); }
-int Leeg(int nummer) { return _commit(nummer); }
+int Sluit(int nummer) {
+  return _close(nummer);
+}
+int Leeg(int nummer) {
+  return _commit(nummer);
+}
 constexpr int OpenLezen = _O_RDONLY;
 constexpr int OpenSchrijven = _O_WRONLY;
 constexpr int OpenNieuw = _O_WRONLY | _O_CREAT | _O_EXCL;
 
 #else
 
-int Open(const fs::path& pad, int vlaggen) { return ::open(pad.c_str(), vlaggen | O_CLOEXEC, 0666); }
-ssize_t Lees(int nummer, char* naar, std::size_t n) { return ::read(nummer, naar, n); }
-ssize_t Schrijf(int nummer, const char* van, std::size_t n) { return ::write(nummer, van, n); }
-int Sluit(int nummer) { return ::close(nummer); }
-int Leeg(int nummer) { return ::fsync(nummer); }
+int Open(const fs::path& pad, int vlaggen) {
+  return ::open(pad.c_str(), vlaggen | O_CLOEXEC, 0666);
+}
+ssize_t Lees(int nummer, char* naar, std::size_t n) {
+  return ::read(nummer, naar, n);
+}
+ssize_t Schrijf(int nummer, const char* van, std::size_t n) {
+  return ::write(nummer, van, n);
+}
+int Sluit(int nummer) {
+  return ::close(nummer);
+}
+int Leeg(int nummer) {
+  return ::fsync(nummer);
+}
 constexpr int OpenLezen = O_RDONLY;
 constexpr int OpenSchrijven = O_WRONLY;
 constexpr int OpenNieuw = O_WRONLY | O_CREAT | O_EXCL;
@@ -187,7 +205,9 @@ int Buurbestand::HernoemNaar(const fs::path& doel) {
   return 0;
 }
 
-int NeemRechtenOver(const fs::path&, int) { return 0; }  // the directory's rules give a file its rights here
+int NeemRechtenOver(const fs::path&, int) {
+  return 0;
+}  // the directory's rules give a file its rights here
 
 #else
 
@@ -205,7 +225,8 @@ int NeemRechtenOver(const fs::path& oud, int nummer) {
   struct stat was {};
   if (::stat(oud.c_str(), &was) != 0) return errno == ENOENT ? 0 : errno;
   // The owner can be kept only by a privileged user; the group perhaps. What is refused changes nothing.
-  if (::fchown(nummer, was.st_uid, was.st_gid) != 0 && ::fchown(nummer, static_cast<uid_t>(-1), was.st_gid) != 0)
+  if (::fchown(nummer, was.st_uid, was.st_gid) != 0 &&
+      ::fchown(nummer, static_cast<uid_t>(-1), was.st_gid) != 0)
     errno = 0;
   return ::fchmod(nummer, was.st_mode & 07777) == 0 ? 0 : errno;
 }
@@ -270,7 +291,8 @@ void VervangBestand(const fs::path& pad, std::string_view bytes, Staart staart) 
       EisSchrijfbaar(doel);
       if (staart == Staart::Blijft) oud = LeesBestand(doel);
     }
-    const auto rest = oud.size() > bytes.size() ? std::string_view(oud).substr(bytes.size()) : std::string_view();
+    const auto rest =
+        oud.size() > bytes.size() ? std::string_view(oud).substr(bytes.size()) : std::string_view();
     VervangDoel(doel, bytes, rest);
   } catch (const Fout& fout) {
     throw Fout(fout.Nummer(), Beschrijving(fout.Nummer()), {}, PadTekst(pad));
@@ -282,7 +304,9 @@ std::string PadTekst(const fs::path& pad) {
   return {tekst.begin(), tekst.end()};
 }
 
-fs::path PadVan(std::string_view utf8) { return {std::u8string(utf8.begin(), utf8.end())}; }
+fs::path PadVan(std::string_view utf8) {
+  return {std::u8string(utf8.begin(), utf8.end())};
+}
 
 fs::path ProgrammaMap() {
 #ifdef _WIN32

@@ -9,19 +9,22 @@
 namespace murvane {
 
 /// At most the first `hoogstens` bytes of a file. Fout 53 when it does not exist, 76 when its directory does
-/// not, 70 without permission, 75 for any other failure (a directory, a broken disk); the Fout names the file.
-[[nodiscard]] std::string LeesBestand(const std::filesystem::path& pad, std::size_t hoogstens = std::string::npos);
+/// not, 70 without permission, 75 for any other failure (a directory, a broken disk); the Fout names the
+/// file.
+[[nodiscard]] std::string LeesBestand(const std::filesystem::path& pad,
+                                      std::size_t hoogstens = std::string::npos);
 
 /// What becomes of the bytes of an existing longer file behind the new ones.
 enum class Staart { Vervalt, Blijft };
 
 /// Gives the file these bytes: written beside it, flushed to disk and renamed over it, so that a failure or a
 /// crash at any moment leaves the old file whole. Permissions, owner (where allowed) and symbolic links stay.
-/// With Staart::Blijft an existing longer file keeps its length and its old bytes behind the new ones. What is
-/// not a regular file (a terminal, a pipe) is written to directly. Fout 61 on a full disk or quota, 70 without
-/// permission, 76 when the directory does not exist, 52 for an impossible name, 75 for any other failure; the
-/// Fout names the file.
-void VervangBestand(const std::filesystem::path& pad, std::string_view bytes, Staart staart = Staart::Vervalt);
+/// With Staart::Blijft an existing longer file keeps its length and its old bytes behind the new ones. What
+/// is not a regular file (a terminal, a pipe) is written to directly. Fout 61 on a full disk or quota, 70
+/// without permission, 76 when the directory does not exist, 52 for an impossible name, 75 for any other
+/// failure; the Fout names the file.
+void VervangBestand(const std::filesystem::path& pad, std::string_view bytes,
+                    Staart staart = Staart::Vervalt);
 
 /// The path as UTF-8, for messages.
 [[nodiscard]] std::string PadTekst(const std::filesystem::path& pad);

@@ -6,21 +6,36 @@ namespace murvane {
 
 const char* Beschrijving(FoutNummer nummer) {
   switch (nummer) {
-    case FoutNummer::OngeldigArgument: return "Ongeldig argument";
-    case FoutNummer::Overloop: return "Overloop: een getal is te groot of onbepaald";
-    case FoutNummer::OnvoldoendeGeheugen: return "Onvoldoende geheugen";
-    case FoutNummer::IndexBuitenBereik: return "Index buiten het bereik";
-    case FoutNummer::DelingDoorNul: return "Deling door nul";
-    case FoutNummer::GeenGetal: return "Geen geldig getal";
-    case FoutNummer::InterneFout: return "Interne fout";
-    case FoutNummer::OngeldigeBestandsnaam: return "Ongeldige bestandsnaam";
-    case FoutNummer::BestandNietGevonden: return "Bestand niet gevonden";
-    case FoutNummer::SchijfVol: return "Schijf vol";
-    case FoutNummer::VoorbijEinde: return "Het bestand eindigt te vroeg";
-    case FoutNummer::GeenToestemming: return "Geen toestemming";
-    case FoutNummer::PadToegang: return "Geen toegang tot het bestand of de map";
-    case FoutNummer::PadNietGevonden: return "Map niet gevonden";
-    case FoutNummer::DialoogGeannuleerd: return "Dialoog geannuleerd";
+    case FoutNummer::OngeldigArgument:
+      return "Ongeldig argument";
+    case FoutNummer::Overloop:
+      return "Overloop: een getal is te groot of onbepaald";
+    case FoutNummer::OnvoldoendeGeheugen:
+      return "Onvoldoende geheugen";
+    case FoutNummer::IndexBuitenBereik:
+      return "Index buiten het bereik";
+    case FoutNummer::DelingDoorNul:
+      return "Deling door nul";
+    case FoutNummer::GeenGetal:
+      return "Geen geldig getal";
+    case FoutNummer::InterneFout:
+      return "Interne fout";
+    case FoutNummer::OngeldigeBestandsnaam:
+      return "Ongeldige bestandsnaam";
+    case FoutNummer::BestandNietGevonden:
+      return "Bestand niet gevonden";
+    case FoutNummer::SchijfVol:
+      return "Schijf vol";
+    case FoutNummer::VoorbijEinde:
+      return "Het bestand eindigt te vroeg";
+    case FoutNummer::GeenToestemming:
+      return "Geen toestemming";
+    case FoutNummer::PadToegang:
+      return "Geen toegang tot het bestand of de map";
+    case FoutNummer::PadNietGevonden:
+      return "Map niet gevonden";
+    case FoutNummer::DialoogGeannuleerd:
+      return "Dialoog geannuleerd";
   }
   return "Onbekende fout";
 }

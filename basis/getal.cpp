@@ -29,12 +29,13 @@ struct Decimalen {
 
 Decimalen NaarDecimalen(double grootte) {
   std::array<char, 32> buffer;  // "d.dddddddddddddde-308"
-  const auto einde =
-      std::to_chars(buffer.data(), buffer.data() + buffer.size(), grootte, std::chars_format::scientific, Cijfers - 1)
-          .ptr;
+  const auto einde = std::to_chars(buffer.data(), buffer.data() + buffer.size(), grootte,
+                                   std::chars_format::scientific, Cijfers - 1)
+                         .ptr;
   Decimalen uit{};
   uit.cijfers[0] = buffer[0];
-  for (int i = 1; i < Cijfers; ++i) uit.cijfers[static_cast<std::size_t>(i)] = buffer[static_cast<std::size_t>(i) + 1];
+  for (int i = 1; i < Cijfers; ++i)
+    uit.cijfers[static_cast<std::size_t>(i)] = buffer[static_cast<std::size_t>(i) + 1];
   const char* exponent = buffer.data() + Cijfers + 2;  // behind "d.dd...de"
   if (*exponent == '+') ++exponent;
   std::from_chars(exponent, einde, uit.punt);
@@ -42,8 +43,9 @@ Decimalen NaarDecimalen(double grootte) {
   return uit;
 }
 
-/// Rounds to the first `n` digits, halves up (the sign is kept elsewhere), and blanks the rest to '0'. `n` may be
-/// 0 or less: then the whole number is at most a half of the last place kept. Carries into a new first digit.
+/// Rounds to the first `n` digits, halves up (the sign is kept elsewhere), and blanks the rest to '0'. `n`
+/// may be 0 or less: then the whole number is at most a half of the last place kept. Carries into a new first
+/// digit.
 void RondAf(Decimalen& d, int n) {
   if (n >= Cijfers) return;
   bool op = n >= 0 && d.cijfers[static_cast<std::size_t>(n)] >= '5';
@@ -59,7 +61,9 @@ void RondAf(Decimalen& d, int n) {
   }
 }
 
-bool IsCijfer(char c) { return c >= '0' && c <= '9'; }
+bool IsCijfer(char c) {
+  return c >= '0' && c <= '9';
+}
 
 std::size_t SlaCijfersOver(std::string_view& rest) {
   std::size_t n = 0;
@@ -96,8 +100,8 @@ bool IsNumeriekMetPunt(std::string_view rest) {
   return cijfers > 0 && HeeftExponent(rest);
 }
 
-/// For a numeric text outside the range of a double: whether it is too large, by the power of ten of its first
-/// digit that is not 0.
+/// For a numeric text outside the range of a double: whether it is too large, by the power of ten of its
+/// first digit that is not 0.
 bool TeGroot(std::string_view getal) {
   const auto e = std::min(getal.find_first_of("eE"), getal.size());
   const auto eerste = getal.find_first_of("123456789");
@@ -154,7 +158,8 @@ std::string StandaardTekst(double waarde, char decimaal) {
   if (waarde == 0) return "0";
   std::array<char, 32> buffer;
   const auto einde =
-      std::to_chars(buffer.data(), buffer.data() + buffer.size(), waarde, std::chars_format::general, Cijfers).ptr;
+      std::to_chars(buffer.data(), buffer.data() + buffer.size(), waarde, std::chars_format::general, Cijfers)
+          .ptr;
   std::string uit(buffer.data(), einde);
   for (char& c : uit) {
     if (c == '.') c = decimaal;
@@ -170,7 +175,9 @@ double RondEven(double waarde) {
   return std::fmod(onder, 2) == 0 ? onder : onder + 1;
 }
 
-bool IsNumeriek(std::string_view tekst) { return IsNumeriekMetPunt(MetPunt(tekst)); }
+bool IsNumeriek(std::string_view tekst) {
+  return IsNumeriekMetPunt(MetPunt(tekst));
+}
 
 double LeesGetal(std::string_view tekst) {
   const std::string metPunt = MetPunt(tekst);

@@ -32,8 +32,8 @@ void VoegOpmaakToe(std::string& uit, double waarde, Formaat formaat, char decima
 /// with at most one point (at least one digit), and an optional exponent.
 [[nodiscard]] bool IsNumeriek(std::string_view tekst);
 
-/// The value of a numeric text; comma and point both act as decimal sign. Fout 13 when the text is not numeric,
-/// Fout 6 when its value is too large for a double.
+/// The value of a numeric text; comma and point both act as decimal sign. Fout 13 when the text is not
+/// numeric, Fout 6 when its value is too large for a double.
 [[nodiscard]] double LeesGetal(std::string_view tekst);
 
 }  // namespace murvane

@@ -29,7 +29,9 @@ class Lezer {
   void Lees(Tekst<N>& tekst) {
     std::memcpy(tekst.Bytes().data(), Bytes(N).data(), N);
   }
-  void Lees(std::int16_t& getal) { getal = std::bit_cast<std::int16_t>(static_cast<std::uint16_t>(Klein(2))); }
+  void Lees(std::int16_t& getal) {
+    getal = std::bit_cast<std::int16_t>(static_cast<std::uint16_t>(Klein(2)));
+  }
   void Lees(double& getal) { getal = std::bit_cast<double>(Klein(8)); }
   template <typename T, std::size_t N>
   void Lees(std::array<T, N>& rij) {
@@ -64,9 +66,11 @@ class Schrijver {
   void Schrijf(const std::array<T, N>& rij) {
     for (const T& waarde : rij) Schrijf(waarde);
   }
-  /// A variable-length text. Fout 5 when it is longer than 65535 characters, which its length field cannot hold.
+  /// A variable-length text. Fout 5 when it is longer than 65535 characters, which its length field cannot
+  /// hold.
   void Schrijf(const std::string& tekst) {
-    if (tekst.size() > 0xFFFF) throw Fout(FoutNummer::OngeldigArgument, "De tekst is langer dan 65535 tekens");
+    if (tekst.size() > 0xFFFF)
+      throw Fout(FoutNummer::OngeldigArgument, "De tekst is langer dan 65535 tekens");
     Klein(tekst.size(), 2);
     uit_.append(tekst);
   }

@@ -8,7 +8,9 @@ namespace murvane {
 
 namespace {
 
-constexpr bool IsLeeg(char c) { return c == ' ' || c == '\0'; }
+constexpr bool IsLeeg(char c) {
+  return c == ' ' || c == '\0';
+}
 
 /// Code points of the bytes 80 to 9F hexadecimal; elsewhere byte and code point are equal.
 constexpr std::array<char16_t, 32> HogeTekens = {
@@ -29,7 +31,9 @@ void VoegUtf8Toe(std::string& uit, char32_t punt) {
   }
 }
 
-[[noreturn]] void GeenUtf8() { throw Fout(FoutNummer::OngeldigArgument, "De tekst is geen geldige UTF-8"); }
+[[noreturn]] void GeenUtf8() {
+  throw Fout(FoutNummer::OngeldigArgument, "De tekst is geen geldige UTF-8");
+}
 
 /// Takes one code point off the front of `rest`; shortest forms only, no surrogates.
 char32_t NeemPunt(std::string_view& rest) {
@@ -64,7 +68,8 @@ char NaarByte(char32_t punt) {
   }
   std::string teken;
   VoegUtf8Toe(teken, punt > 0xFFFF ? char32_t{0xFFFD} : punt);
-  throw Fout(FoutNummer::OngeldigArgument, "Het teken '" + teken + "' kan niet in een tekst van het project staan");
+  throw Fout(FoutNummer::OngeldigArgument,
+             "Het teken '" + teken + "' kan niet in een tekst van het project staan");
 }
 
 }  // namespace

@@ -53,8 +53,8 @@ class Tekst {
 
 namespace intern {
 
-/// A UTF-8 literal whose non-ASCII characters are all below U+0100 and above U+009F, where the code page equals
-/// Unicode; anything else does not compile.
+/// A UTF-8 literal whose non-ASCII characters are all below U+0100 and above U+009F, where the code page
+/// equals Unicode; anything else does not compile.
 template <std::size_t N>
 struct CpLiteraal {
   std::array<char, N> tekens{};

@@ -33,8 +33,8 @@ std::string DebietTekst(double debiet, char decimaal) {
   return "q = " + StandaardTekst(debiet, decimaal) + std::string(" m³/s"_cp);
 }
 
-void ZetRijen(ElementTekstRijen& tekst, std::string_view een, std::string_view twee, std::string_view drie = {},
-              std::string_view vier = {}) {
+void ZetRijen(ElementTekstRijen& tekst, std::string_view een, std::string_view twee,
+              std::string_view drie = {}, std::string_view vier = {}) {
   tekst[0] = een, tekst[1] = twee, tekst[2] = drie, tekst[3] = vier;
 }
 
@@ -92,7 +92,9 @@ constexpr std::array<Klasse, 4> BochtRondTabel = {{
 
 // ---- flow noise ----
 
-double NietNegatief(double niveau) { return Eindig(niveau) < 0 ? 0 : niveau; }
+double NietNegatief(double niveau) {
+  return Eindig(niveau) < 0 ? 0 : niveau;
+}
 
 /// Flow noise of outlets and dampers, from the pressure loss over them.
 void KlepRuis(ElementRec& e, double S) {
@@ -121,9 +123,12 @@ double AftakFactor(double x) {
 /// End reflection of an outlet, dB, for the directivity factors that the method knows.
 double EindReflectie(int richting, double lg, double x) {
   switch (richting) {
-    case 1: return x <= 50 ? -20 * lg + 40 : x <= 80 ? -15 * lg + 31.5 : -7.5 * lg + 17.25;
-    case 2: return x <= 40 ? -20 * lg + 37 : x <= 80 ? -11.667 * lg + 23.667 : -5 * lg + 11;
-    case 4: return x <= 30 ? -20 * lg + 34 : x <= 50 ? -13.6 * lg + 24.6 : -5 * lg + 10;
+    case 1:
+      return x <= 50 ? -20 * lg + 40 : x <= 80 ? -15 * lg + 31.5 : -7.5 * lg + 17.25;
+    case 2:
+      return x <= 40 ? -20 * lg + 37 : x <= 80 ? -11.667 * lg + 23.667 : -5 * lg + 11;
+    case 4:
+      return x <= 30 ? -20 * lg + 34 : x <= 50 ? -13.6 * lg + 24.6 : -5 * lg + 10;
     default:
       return x <= 20   ? -20 * lg + 31
              : x <= 30 ? -13.89 * lg + 23.06
@@ -202,7 +207,8 @@ void Bocht(ElementRec& e, ElementTekstRijen& tekst, char decimaal) {
 
 void Aftak(ElementRec& e, ElementTekstRijen& tekst, char decimaal) {
   const bool rond = e.ElementType == elementtype::AftakRond;
-  EisEindig({e.HAftak(), rond ? 0 : e.BAftak(), e.HHoofd, e.BHoofd, e.HDoor, e.BDoor, e.QAftak, e.Debiet, e.RAftak});
+  EisEindig({e.HAftak(), rond ? 0 : e.BAftak(), e.HHoofd, e.BHoofd, e.HDoor, e.BDoor, e.QAftak, e.Debiet,
+             e.RAftak});
   const double Sa = Oppervlak(e.HAftak(), e.BAftak(), rond);
   const double d = rond ? e.HAftak() : EquivDiameter(e.HAftak(), e.BAftak());
   const double Sh = Oppervlak(e.HHoofd, e.BHoofd, e.BHoofd <= 0);
@@ -232,7 +238,8 @@ void Drsnee(ElementRec& e, ElementTekstRijen& tekst, char decimaal) {
   constexpr double Geluidsnelheid = 340;  // m/s
   constexpr double Hoogstens = 8;         // dB
   const bool rond = e.ElementType == elementtype::DrsneeRond;
-  EisEindig({e.H1Doorsnee(), rond ? 0 : e.B1Doorsnee(), e.H2Doorsnee(), e.B2Doorsnee(), e.LDoorsnee(), e.Debiet});
+  EisEindig(
+      {e.H1Doorsnee(), rond ? 0 : e.B1Doorsnee(), e.H2Doorsnee(), e.B2Doorsnee(), e.LDoorsnee(), e.Debiet});
   const double S1 = Oppervlak(e.H1Doorsnee(), e.B1Doorsnee(), rond);
   const double S2 = Oppervlak(e.H2Doorsnee(), e.B2Doorsnee(), e.B2Doorsnee() <= 0);
   ZetRijen(tekst, MaatTekst(rond, e.H2Doorsnee(), e.B2Doorsnee(), decimaal), DebietTekst(e.Debiet, decimaal),
@@ -242,7 +249,8 @@ void Drsnee(ElementRec& e, ElementTekstRijen& tekst, char decimaal) {
   for (Band b = 0; b < Banden; ++b) {
     const double x = Eindig(e.LDoorsnee() * Frequentie[b] / Geluidsnelheid);
     double demping = 0;
-    if (x <= 0.5) demping = 10 * Log10(Deel((m + 1) * (m + 1), 4 * m)) * std::cos((x - 0.0025 * m + 0.06) * Pi);
+    if (x <= 0.5)
+      demping = 10 * Log10(Deel((m + 1) * (m + 1), 4 * m)) * std::cos((x - 0.0025 * m + 0.06) * Pi);
     demping = NietNegatief(demping);
     e.demp[b] = demping > Hoogstens ? Hoogstens : demping;
   }

@@ -18,10 +18,14 @@ const FanSoort& Soort(std::int16_t fanType) {
   static constexpr FanSoort Achterwaarts = {{-9, -8, -7, -12, -17, -22, -27}, 5};
   static constexpr FanSoort Voorwaarts = {{-2, -7, -12, -17, -22, -27, -32}, 3};
   switch (fanType) {
-    case fantype::Axiaal: return Axiaal;
-    case fantype::CentrifugaalVoorwaarts: return Voorwaarts;
-    case fantype::CentrifugaalAchterwaarts: return Achterwaarts;
-    default: throw Fout(FoutNummer::IndexBuitenBereik);
+    case fantype::Axiaal:
+      return Axiaal;
+    case fantype::CentrifugaalVoorwaarts:
+      return Voorwaarts;
+    case fantype::CentrifugaalAchterwaarts:
+      return Achterwaarts;
+    default:
+      throw Fout(FoutNummer::IndexBuitenBereik);
   }
 }
 

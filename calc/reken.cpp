@@ -16,19 +16,30 @@ namespace {
 void RekenModel(Project& project, ElementRec& element, ElementTekstRijen& tekst, char decimaal) {
   switch (element.ElementType) {
     case elementtype::AftakRecht:
-    case elementtype::AftakRond: Aftak(element, tekst, decimaal); break;
+    case elementtype::AftakRond:
+      Aftak(element, tekst, decimaal);
+      break;
     case elementtype::BochtHaaks:
     case elementtype::BochtRecht:
-    case elementtype::BochtRond: Bocht(element, tekst, decimaal); break;
+    case elementtype::BochtRond:
+      Bocht(element, tekst, decimaal);
+      break;
     case elementtype::DrsneeRecht:
-    case elementtype::DrsneeRond: Drsnee(element, tekst, decimaal); break;
+    case elementtype::DrsneeRond:
+      Drsnee(element, tekst, decimaal);
+      break;
     case elementtype::KanaalRecht:
-    case elementtype::KanaalRond: ReKan(element, tekst, decimaal); break;
-    case elementtype::Klep: RegelKlep(element, tekst, decimaal); break;
+    case elementtype::KanaalRond:
+      ReKan(element, tekst, decimaal);
+      break;
+    case elementtype::Klep:
+      RegelKlep(element, tekst, decimaal);
+      break;
     case elementtype::Rooster:
       Rooster(element, project.Ruimte, project.Kop.RekenType, tekst, decimaal);
       break;
-    default: break;  // a catalogue element keeps the attenuation and noise that it was given
+    default:
+      break;  // a catalogue element keeps the attenuation and noise that it was given
   }
 }
 
@@ -39,7 +50,8 @@ void RekenElement(Project& project, int i, Resultaten& r, char decimaal) {
   for (auto& rij : r.ElementTekst[n]) rij = "";
   RekenModel(project, element, r.ElementTekst[n], decimaal);
   const std::int16_t type = project.Kop.RekenType;
-  if (type == rekentype::Installatiegeluid || type == rekentype::Geluidsuitstraling) TussenResult(project, i, r);
+  if (type == rekentype::Installatiegeluid || type == rekentype::Geluidsuitstraling)
+    TussenResult(project, i, r);
 }
 
 }  // namespace

@@ -33,11 +33,17 @@ inline double Ln(double x) {
   return std::log(Eindig(x));
 }
 
-inline double Log10(double x) { return Ln(x) / std::numbers::ln10; }
-inline double Log2(double x) { return Ln(x) / std::numbers::ln2; }
+inline double Log10(double x) {
+  return Ln(x) / std::numbers::ln10;
+}
+inline double Log2(double x) {
+  return Ln(x) / std::numbers::ln2;
+}
 
 /// 10 to the power y; Fout 6 when it is too large.
-inline double Macht10(double y) { return Eindig(std::pow(10.0, Eindig(y))); }
+inline double Macht10(double y) {
+  return Eindig(std::pow(10.0, Eindig(y)));
+}
 
 /// Square root; Fout 5 of a negative number.
 inline double Wortel(double x) {

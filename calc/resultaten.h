@@ -1,5 +1,6 @@
 #pragma once
-// The results of a run. They outlive it; a run writes what its calculation type calls for and leaves the rest.
+// The results of a run. They outlive it; a run writes what its calculation type calls for and leaves the
+// rest.
 
 #include <array>
 #include <vector>
@@ -9,7 +10,8 @@
 
 namespace murvane {
 
-/// The four side texts of an element in the report: beside its attenuation, self-noise, break-in and subtotal.
+/// The four side texts of an element in the report: beside its attenuation, self-noise, break-in and
+/// subtotal.
 using ElementTekstRijen = std::array<Tekst<20>, 4>;
 
 struct Resultaten {
@@ -19,10 +21,10 @@ struct Resultaten {
   std::vector<bool> HeeftInstraling = std::vector<bool>(MaxElementen + 1);  ///< it has a calculated break-in
 
   // Sound power, dB.
-  Spectrum LwKanaalwand{};    ///< through duct wall and ceiling
-  Spectrum LwEind{};          ///< at the end of the chain
-  Spectrum FanNaDemping{};    ///< the fan's, behind the system's attenuation
-  Spectrum SysteemGeluid{};   ///< the system's own noise at the end of the chain
+  Spectrum LwKanaalwand{};   ///< through duct wall and ceiling
+  Spectrum LwEind{};         ///< at the end of the chain
+  Spectrum FanNaDemping{};   ///< the fan's, behind the system's attenuation
+  Spectrum SysteemGeluid{};  ///< the system's own noise at the end of the chain
   // Attenuation, dB.
   Spectrum SysteemDemping{};     ///< sum over the elements
   Spectrum OverspraakDemping{};  ///< between two rooms

@@ -12,7 +12,9 @@ bool MetFan(const Project& project) {
          project.Kop.RekenType == rekentype::Geluidsuitstraling;
 }
 
-double NulWaarNegatief(double niveau) { return niveau < 0 ? 0 : niveau; }
+double NulWaarNegatief(double niveau) {
+  return niveau < 0 ? 0 : niveau;
+}
 
 }  // namespace
 
@@ -79,7 +81,8 @@ void RuimteDemping(const Project& project, Resultaten& r) {
   r.LpGalmveld.fill(0);
   r.LpEenMeter.fill(0);
   r.OverspraakDemping.fill(0);
-  if (project.ElementCount < 0 || project.ElementCount > MaxElementen) throw Fout(FoutNummer::IndexBuitenBereik);
+  if (project.ElementCount < 0 || project.ElementCount > MaxElementen)
+    throw Fout(FoutNummer::IndexBuitenBereik);
   const ElementRec& eerste = project.Elementen[1];
   const double S1 = Oppervlak(eerste.Hoogte, eerste.Breedte, eerste.Breedte == 0);
   const RuimteRec& ruimte = project.Ruimte;

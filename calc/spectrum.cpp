@@ -18,7 +18,9 @@ double Oppervlak(double h, double b, bool rond) {
   return Eindig(rond ? (h / 2000) * Pi * (h / 2000) : (h / 1000) * (b / 1000));
 }
 
-double EquivDiameter(double h, double b) { return Wortel(4 * h * b / Pi); }
+double EquivDiameter(double h, double b) {
+  return Wortel(4 * h * b / Pi);
+}
 
 double BochtKromme(double x) {
   const double lg = Log10(x);

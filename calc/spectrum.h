@@ -33,7 +33,8 @@ inline constexpr std::array<std::string_view, 8> BandLabel = {"   63 ", "  125 "
 /// Diameter of the circle with the area of a rectangle h x b; all mm. Fout 5 when h·b is negative.
 [[nodiscard]] double EquivDiameter(double h, double b);
 
-/// Flow-noise curve of bends and branches, dB, of the Strouhal number x > 0; pieces include their upper bound.
+/// Flow-noise curve of bends and branches, dB, of the Strouhal number x > 0; pieces include their upper
+/// bound.
 [[nodiscard]] double BochtKromme(double x);
 
 /// Flow-noise curve of outlets and dampers, dB, of x > 0; pieces include their upper bound.

@@ -13,8 +13,8 @@ constexpr double KleinsteIsolatie = 3;  // dB
 double WandVerhouding(const ElementRec& e) {
   EisEindig({e.Hoogte, e.Breedte, e.Lengte});
   const bool rond = e.Breedte == 0;
-  const double Sw = rond ? (Pi + Pi) * e.Hoogte / 2000 * e.Lengte
-                         : 2 * (e.Hoogte / 1000 + e.Breedte / 1000) * e.Lengte;
+  const double Sw =
+      rond ? (Pi + Pi) * e.Hoogte / 2000 * e.Lengte : 2 * (e.Hoogte / 1000 + e.Breedte / 1000) * e.Lengte;
   const double Sa = rond ? e.Hoogte * Pi / 2000 * e.Hoogte / 2000 : e.Breedte / 1000 * e.Hoogte / 1000;
   return 10 * Log10(Deel(Sw, Sa));
 }
@@ -37,7 +37,8 @@ void DoorWandEnPlafond(const Project& project, std::size_t n, Resultaten& r) {
 void UitStraal(const Project& project, Resultaten& r) {
   r.LwEind.fill(0);
   r.LwKanaalwand.fill(0);
-  if (project.ElementCount < 0 || project.ElementCount > MaxElementen) throw Fout(FoutNummer::IndexBuitenBereik);
+  if (project.ElementCount < 0 || project.ElementCount > MaxElementen)
+    throw Fout(FoutNummer::IndexBuitenBereik);
   const auto n = static_cast<std::size_t>(project.ElementCount);
   if (project.Kop.RekenType == rekentype::Installatiegeluid) {
     for (std::size_t b = 0; b < Banden; ++b) r.LwEind[b] = r.Subtotaal[n][b];

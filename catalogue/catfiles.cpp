@@ -11,18 +11,16 @@ namespace {
 // The field order of each record, once for reading and writing.
 
 template <typename Stap>
-void Velden(auto& rec, Stap stap)
-  requires requires { rec.CatNaam; }
-{
-  stap(rec.CatNaam), stap(rec.CatDemp), stap(rec.CatRuis), stap(rec.PerMeter), stap(rec.CatExtra);
+void Velden(auto& rec, Stap stap) requires requires {
+  rec.CatNaam;
 }
+{ stap(rec.CatNaam), stap(rec.CatDemp), stap(rec.CatRuis), stap(rec.PerMeter), stap(rec.CatExtra); }
 
 template <typename Stap>
-void Velden(auto& rec, Stap stap)
-  requires requires { rec.SpecNaam; }
-{
-  stap(rec.SpecNaam), stap(rec.SpecWaarde);
+void Velden(auto& rec, Stap stap) requires requires {
+  rec.SpecNaam;
 }
+{ stap(rec.SpecNaam), stap(rec.SpecWaarde); }
 
 template <typename Cat, typename Stap>
 void AlleVelden(Cat& catalogus, Stap stap) {
@@ -72,14 +70,26 @@ void SchrijfFile(const Cat& catalogus, const std::filesystem::path& pad) {
 
 }  // namespace
 
-ElementCatalogus ElementenUitBytes(std::string_view bytes) { return UitBytes<ElementCatalogus>(bytes); }
-SpectrumCatalogus SpectraUitBytes(std::string_view bytes) { return UitBytes<SpectrumCatalogus>(bytes); }
+ElementCatalogus ElementenUitBytes(std::string_view bytes) {
+  return UitBytes<ElementCatalogus>(bytes);
+}
+SpectrumCatalogus SpectraUitBytes(std::string_view bytes) {
+  return UitBytes<SpectrumCatalogus>(bytes);
+}
 
-std::string CatalogusBytes(const ElementCatalogus& catalogus) { return Bytes(catalogus); }
-std::string CatalogusBytes(const SpectrumCatalogus& catalogus) { return Bytes(catalogus); }
+std::string CatalogusBytes(const ElementCatalogus& catalogus) {
+  return Bytes(catalogus);
+}
+std::string CatalogusBytes(const SpectrumCatalogus& catalogus) {
+  return Bytes(catalogus);
+}
 
-ElementCatalogus LeesElementen(const std::filesystem::path& pad) { return LeesFile<ElementCatalogus>(pad); }
-SpectrumCatalogus LeesSpectra(const std::filesystem::path& pad) { return LeesFile<SpectrumCatalogus>(pad); }
+ElementCatalogus LeesElementen(const std::filesystem::path& pad) {
+  return LeesFile<ElementCatalogus>(pad);
+}
+SpectrumCatalogus LeesSpectra(const std::filesystem::path& pad) {
+  return LeesFile<SpectrumCatalogus>(pad);
+}
 
 void SchrijfCatalogus(const ElementCatalogus& catalogus, const std::filesystem::path& pad) {
   SchrijfFile(catalogus, pad);

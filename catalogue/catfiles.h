@@ -12,8 +12,9 @@
 
 namespace murvane {
 
-inline constexpr int MaxCatalogus = 500;        ///< highest record number of a catalogue
-inline constexpr int IngebouwdeElementen = 11;  ///< the first records of Duct.dat, one for each built-in element type
+inline constexpr int MaxCatalogus = 500;  ///< highest record number of a catalogue
+inline constexpr int IngebouwdeElementen =
+    11;  ///< the first records of Duct.dat, one for each built-in element type
 
 /// A record of Duct.dat.
 struct CatElementRec {
@@ -30,8 +31,8 @@ struct SpectrumRec {
   Spectrum SpecWaarde{};  ///< slot 7: in Fan.dat the dB(A) sum, elsewhere what the file holds
 };
 
-/// One catalogue: records 1 to Aantal are in use; slot 0 exists and stays unused. The file's count is kept as it
-/// was read, also when it is negative.
+/// One catalogue: records 1 to Aantal are in use; slot 0 exists and stays unused. The file's count is kept as
+/// it was read, also when it is negative.
 template <typename Rec>
 struct Catalogus {
   std::int16_t Aantal = 0;
@@ -49,8 +50,8 @@ struct Catalogi {
   SpectrumCatalogus CatRplaf;     ///< Rplaf.dat
 };
 
-/// The catalogue of a file image; what stands behind its last record is ignored. Fout 62 when it ends too early,
-/// Fout 9 when its count is above 500 and it does hold 500 records; a count of 0 or below reads none.
+/// The catalogue of a file image; what stands behind its last record is ignored. Fout 62 when it ends too
+/// early, Fout 9 when its count is above 500 and it does hold 500 records; a count of 0 or below reads none.
 [[nodiscard]] ElementCatalogus ElementenUitBytes(std::string_view bytes);
 [[nodiscard]] SpectrumCatalogus SpectraUitBytes(std::string_view bytes);
 
@@ -58,8 +59,8 @@ struct Catalogi {
 [[nodiscard]] std::string CatalogusBytes(const ElementCatalogus& catalogus);
 [[nodiscard]] std::string CatalogusBytes(const SpectrumCatalogus& catalogus);
 
-/// Reading and saving one file; an existing longer file keeps its length and its old bytes behind the last record.
-/// Failures of LeesBestand, VervangBestand and of the images, with the file's name.
+/// Reading and saving one file; an existing longer file keeps its length and its old bytes behind the last
+/// record. Failures of LeesBestand, VervangBestand and of the images, with the file's name.
 [[nodiscard]] ElementCatalogus LeesElementen(const std::filesystem::path& pad);
 [[nodiscard]] SpectrumCatalogus LeesSpectra(const std::filesystem::path& pad);
 void SchrijfCatalogus(const ElementCatalogus& catalogus, const std::filesystem::path& pad);

@@ -1,7 +1,8 @@
 #pragma once
 // A catalogue as JSON and back, without loss: {"CatElementen": [...]} or the list "CatFans", "CatRduct" or
-// "CatRplaf" of records with their own field names; texts and numbers as in a project's JSON. A count that is not
-// the number of records stands beside the list as "AantalElementen", "AantalFans", "AantalRduct" or "AantalRplaf".
+// "CatRplaf" of records with their own field names; texts and numbers as in a project's JSON. A count that is
+// not the number of records stands beside the list as "AantalElementen", "AantalFans", "AantalRduct" or
+// "AantalRplaf".
 
 #include <string>
 #include <string_view>

@@ -31,9 +31,10 @@ struct Validatie {
   std::string_view ToolTip;  ///< Windows-1252; empty when valid
 };
 
-/// Checks and normalises the text of one field. A numeric text is clamped to its limits in silence and shown in its
-/// display format; an empty numeric field counts as 0, an empty date field as `vandaag` (dd-mm-yyyy); a field of
-/// plain text is trimmed. Fout 6 for a numeric text too large for a double.
-[[nodiscard]] Validatie ValiDate(std::string_view tekst, const VeldRegel& regel, std::string_view vandaag, char decimaal);
+/// Checks and normalises the text of one field. A numeric text is clamped to its limits in silence and shown
+/// in its display format; an empty numeric field counts as 0, an empty date field as `vandaag` (dd-mm-yyyy);
+/// a field of plain text is trimmed. Fout 6 for a numeric text too large for a double.
+[[nodiscard]] Validatie ValiDate(std::string_view tekst, const VeldRegel& regel, std::string_view vandaag,
+                                 char decimaal);
 
 }  // namespace murvane

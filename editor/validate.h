@@ -1,6 +1,6 @@
 #pragma once
-// The checks before a run: the contents of the input fields go into the records, then the project is judged rule by
-// rule. Neither needs a window.
+// The checks before a run: the contents of the input fields go into the records, then the project is judged
+// rule by rule. Neither needs a window.
 
 #include <array>
 #include <optional>
@@ -12,19 +12,20 @@ namespace murvane {
 
 /// The texts of the fields that a run takes over, Windows-1252.
 struct ProjectInvoer {
-  std::string txtProNaam, txtProNum, txtMyDate, txtOmschrijving, txtToelichting1, txtToelichting2, txtToelichting3;
+  std::string txtProNaam, txtProNum, txtMyDate, txtOmschrijving, txtToelichting1, txtToelichting2,
+      txtToelichting3;
   std::string txtSpectrum;
   std::array<std::string, Banden> txtLw;
   std::string txtRBreedte, txtRHoogte, txtRLengte, txtRDI, txtRNR, txtRNagalm, txtRAantal;
 };
 
-/// The fields as the project window shows them after opening the project: texts trimmed, numbers in their display
-/// formats.
+/// The fields as the project window shows them after opening the project: texts trimmed, numbers in their
+/// display formats.
 [[nodiscard]] ProjectInvoer InvoerVan(const Project& project, char decimaal);
 
-/// Takes the fields over into the records, works out Lw's dB(A) sum and hands flow and section down the chain.
-/// Fout 13 for a band of txtLw that is not a number; Fout 6 for one that is too large or for a field that shows a
-/// stored value that is infinite or not a number.
+/// Takes the fields over into the records, works out Lw's dB(A) sum and hands flow and section down the
+/// chain. Fout 13 for a band of txtLw that is not a number; Fout 6 for one that is too large or for a field
+/// that shows a stored value that is infinite or not a number.
 void NeemOver(Project& project, const ProjectInvoer& invoer, char decimaal);
 
 /// The tabs of the project window, in their order.

@@ -9,9 +9,9 @@
 
 namespace murvane {
 
-/// The project of a file image; what stands behind its logical end is ignored. Fout 62 when the image ends too
-/// early, Fout 9 when its element count is above 500 and the image does hold 500 elements. A negative count
-/// reads no elements and stays as it is.
+/// The project of a file image; what stands behind its logical end is ignored. Fout 62 when the image ends
+/// too early, Fout 9 when its element count is above 500 and the image does hold 500 elements. A negative
+/// count reads no elements and stays as it is.
 [[nodiscard]] Project ProjectUitBytes(std::string_view bytes);
 
 /// The file image up to its logical end. Fout 9 for an ElementCount above 500, Fout 5 for a room text above
@@ -21,9 +21,9 @@ namespace murvane {
 /// Reads a project file; failures of LeesBestand and ProjectUitBytes, with the file's name.
 [[nodiscard]] Project LeesProject(const std::filesystem::path& pad);
 
-/// Saves a project so that at no moment half a file stands there. An existing longer file keeps its length and
-/// its old bytes behind the new logical end. Fout 52 unless the name's last three characters are exactly "mrv";
-/// failures of VervangBestand.
+/// Saves a project so that at no moment half a file stands there. An existing longer file keeps its length
+/// and its old bytes behind the new logical end. Fout 52 unless the name's last three characters are exactly
+/// "mrv"; failures of VervangBestand.
 void SchrijfProject(const Project& project, const std::filesystem::path& pad);
 
 }  // namespace murvane

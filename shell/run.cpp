@@ -4,8 +4,9 @@
 
 namespace murvane {
 
-std::optional<Bevinding> VoerUit(Project& project, const ProjectInvoer& invoer, const Tekst<35>& gebruikersnaam,
-                                 char decimaal, Resultaten& resultaten, Rapport& rapport) {
+std::optional<Bevinding> VoerUit(Project& project, const ProjectInvoer& invoer,
+                                 const Tekst<35>& gebruikersnaam, char decimaal, Resultaten& resultaten,
+                                 Rapport& rapport) {
   if (auto bevinding = CheckIt(project, invoer, decimaal)) return bevinding;
   Reken(project, resultaten, decimaal);
   Afdruk(project, resultaten, gebruikersnaam, decimaal, rapport);

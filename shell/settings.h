@@ -14,21 +14,23 @@ namespace murvane {
 inline constexpr std::string_view StandaardGebruiker = "..Gebruikersnaam..";
 
 struct Instellingen {
-  std::string LettertypeNaam;        ///< report font
-  std::int16_t LetterGrootte = 0;    ///< points
-  std::int16_t KopStijl = 0;         ///< style of the page header, from 1
-  std::int16_t BlokBovenStijl = 0;   ///< style of the upper text block, from 1
-  std::int16_t BlokOnderStijl = 0;   ///< style of the lower text block, from 1
+  std::string LettertypeNaam;                    ///< report font
+  std::int16_t LetterGrootte = 0;                ///< points
+  std::int16_t KopStijl = 0;                     ///< style of the page header, from 1
+  std::int16_t BlokBovenStijl = 0;               ///< style of the upper text block, from 1
+  std::int16_t BlokOnderStijl = 0;               ///< style of the lower text block, from 1
   Tekst<35> GebruikerLabel{StandaardGebruiker};  ///< user name for labels: its first "&" doubled
   Tekst<35> Gebruikersnaam{StandaardGebruiker};  ///< user name as printed
 };
 
-/// The settings of a file image. Lines end with CR LF or LF; a number line holds one integer with blanks around it,
-/// empty counts as 0, what follows a blank behind the number is passed over. Fout 62 for fewer than seven lines,
-/// 13 for text in a number line, 6 for a number outside -32768 to 32767; the Fout's place is the line.
+/// The settings of a file image. Lines end with CR LF or LF; a number line holds one integer with blanks
+/// around it, empty counts as 0, what follows a blank behind the number is passed over. Fout 62 for fewer
+/// than seven lines, 13 for text in a number line, 6 for a number outside -32768 to 32767; the Fout's place
+/// is the line.
 [[nodiscard]] Instellingen InstellingenUitBytes(std::string_view bytes);
 
-/// The file image: seven lines ended by CR LF, numbers with one blank behind them and a blank or minus before them.
+/// The file image: seven lines ended by CR LF, numbers with one blank behind them and a blank or minus before
+/// them.
 [[nodiscard]] std::string InstellingenBytes(const Instellingen& instellingen);
 
 /// Reading and writing the file; failures of LeesBestand and VervangBestand, with the file's name.

@@ -14,8 +14,8 @@ inline constexpr const char* InstellingenNaam = "murvane.set";
 /// murvane.set, else the data directory that came with the program.
 [[nodiscard]] std::filesystem::path StandaardDataMap();
 
-/// The project file that a command line names, taken whole as one path, in double quotes or not (UTF-8 in and out).
-/// Empty unless its last three characters are "mrv" in any case.
+/// The project file that a command line names, taken whole as one path, in double quotes or not (UTF-8 in and
+/// out). Empty unless its last three characters are "mrv" in any case.
 [[nodiscard]] std::string OpenBestandUit(std::string_view opdrachtregel);
 
 /// The decimal sign of the system's regional setting, ',' or '.'; a sign of more than one byte counts as '.'.

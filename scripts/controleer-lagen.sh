@@ -1,0 +1,36 @@
+#!/usr/bin/env bash
+# Holds the sources against the house rules: which folder may include which, no toolkit outside the windows, no
+# process locale or unchecked number conversion in the core.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+fouten=0
+meld() { echo "$1" >&2; fouten=1; }
+
+declare -A mag=(
+  [basis]="basis"
+  [project]="basis project"
+  [calc]="basis project calc"
+  [catalogue]="basis project calc catalogue"
+  [editor]="basis project calc catalogue editor"
+  [estimators]="basis calc project estimators"
+  [reports]="basis project calc reports"
+  [shell]="basis project calc catalogue editor estimators reports shell"
+  [cli]="basis project calc catalogue editor estimators reports shell cli"
+)
+for map in "${!mag[@]}"; do
+  while IFS=: read -r bestand regel; do
+    [ -n "$bestand" ] || continue
+    doel=$(sed -E 's/.*"([a-z]+)\/.*/\1/' <<< "$regel")
+    [[ " ${mag[$map]} " == *" $doel "* ]] || meld "$bestand: $map mag $doel niet gebruiken"
+  done < <(grep -rHE '^#include "[a-z]+/' --include='*.h' --include='*.cpp' "$map" || true)
+done
+
+kern=$(find basis project calc catalogue editor estimators reports shell \( -name '*.h' -o -name '*.cpp' \) \
+  ! -name 'frm*' ! -name 'MDI*' ! -name 'vensters*')
+# shellcheck disable=SC2086
+if grep -nE '^#include <Q' $kern; then meld "De kern gebruikt geen vensterbibliotheek."; fi
+# shellcheck disable=SC2086
+if grep -nE '\b(setlocale|strtod|atof|stod|sscanf|s?n?printf)\(' $kern; then
+  meld "De kern rekent getallen alleen om met basis/getal en std::to_chars en std::from_chars."
+fi
+exit $fouten
