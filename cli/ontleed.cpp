@@ -1,6 +1,6 @@
 #include "cli/ontleed.h"
 
-#include <CLI/App.hpp>
+#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <charconv>
 #include <string_view>
@@ -50,13 +50,17 @@ CliOpties VoegOptiesToe(CLI::App& app, Opdracht opdracht) {
   return uit;
 }
 
-/// The parser lets "--prn=" swallow the next argument, which the user did not mean.
-void WeigerLegeWaarden(Opdracht opdracht, const std::vector<std::string>& argumenten) {
+/// The parser lets "--prn=" swallow the next argument, and takes "--help=nee" for --help.
+void ControleerGelijktekens(Opdracht opdracht, const std::vector<std::string>& argumenten) {
   for (const std::string_view argument : argumenten) {
     if (argument == "--") return;
-    if (!IsOptie(argument) || argument.back() != '=') continue;
-    const OptieRegel* optie = ZoekOptie(opdracht, argument.substr(0, argument.size() - 1));
-    if (optie != nullptr && !optie->Argument.empty()) Ontbreekt(*optie);
+    const std::size_t gelijk = argument.find('=');
+    if (!IsOptie(argument) || gelijk == std::string_view::npos) continue;
+    const OptieRegel* optie = ZoekOptie(opdracht, argument.substr(0, gelijk));
+    if (optie == nullptr) continue;
+    if (optie->Argument.empty())
+      throw Gebruiksfout("Bij " + std::string(argument.substr(0, gelijk)) + " hoort geen waarde.");
+    if (gelijk + 1 == argument.size()) Ontbreekt(*optie);
   }
 }
 
@@ -162,6 +166,7 @@ Opdracht NeemOpdracht(std::vector<std::string>& argumenten) {
   if (woord == argumenten.end()) return Opdracht::Programma;
   const bool tweede = woord + 1 != argumenten.end();
   for (const OpdrachtRegel& regel : Opdrachten) {
+    if (regel.Code == Opdracht::Programma) continue;
     const bool een = *woord == regel.Naam;
     if (!een && !(tweede && *woord + " " + woord[1] == regel.Naam)) continue;
     argumenten.erase(woord, woord + (een ? 1 : 2));
@@ -176,7 +181,7 @@ Keuzes Ontleed(Opdracht opdracht, const std::vector<std::string>& argumenten) {
   app.allow_extras();
   app.allow_windows_style_options(false);
   const CliOpties opties = VoegOptiesToe(app, opdracht);
-  WeigerLegeWaarden(opdracht, argumenten);
+  ControleerGelijktekens(opdracht, argumenten);
   LaatOntleden(app, opdracht, opties, argumenten);
   Keuzes keuzes;
   keuzes.Wat = opdracht;

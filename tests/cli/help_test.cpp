@@ -30,12 +30,13 @@ std::string Vloeiend(const std::string& tekst) {
 }
 
 std::size_t Tekens(std::string_view utf8) {
-  return static_cast<std::size_t>(
-      std::count_if(utf8.begin(), utf8.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
+  return static_cast<std::size_t>(std::count_if(
+      utf8.begin(), utf8.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
 }
 
 TEST(Help, TheTableStandsInTheOrderOfItsCodes) {
-  for (std::size_t i = 0; i < Opdrachten.size(); ++i) EXPECT_EQ(static_cast<std::size_t>(Opdrachten[i].Code), i);
+  for (std::size_t i = 0; i < Opdrachten.size(); ++i)
+    EXPECT_EQ(static_cast<std::size_t>(Opdrachten[i].Code), i);
   for (std::size_t i = 0; i < Opties.size(); ++i) EXPECT_EQ(static_cast<std::size_t>(Opties[i].Code), i);
 }
 
@@ -69,14 +70,20 @@ TEST(Help, OfTheProgramListsEveryCommandAndTheExitStatuses) {
   const std::string tekst = Vloeiend(Draai({"--help"}).Uit);
   for (const OpdrachtRegel& regel : Opdrachten)
     EXPECT_THAT(tekst, HasSubstr(std::string(regel.Naam) + " " + std::string(regel.Kort)));
-  EXPECT_THAT(tekst, HasSubstr("Eindstatus: 0 klaar, 1 fout, 2 afgekeurd door de controle, 64 verkeerd gebruik."));
+  EXPECT_THAT(tekst,
+              HasSubstr("Eindstatus: 0 klaar, 1 fout, 2 afgekeurd door de controle, 64 verkeerd gebruik."));
 }
 
-TEST(Help, OfHalfACommandIsThatOfTheProgram) { EXPECT_EQ(Draai({"catalogus", "--help"}).Uit, Draai({"--help"}).Uit); }
+TEST(Help, OfHalfACommandIsThatOfTheProgram) {
+  EXPECT_EQ(Draai({"catalogus", "--help"}).Uit, Draai({"--help"}).Uit);
+}
 
 TEST(Help, GoesBeforeWhateverElseIsWrong) {
-  for (const std::vector<std::string>& fout : std::vector<std::vector<std::string>>{
-           {"--help"}, {"--help", "--onbekend"}, {"x.mrv", "--taken", "nul", "-h"}, {"--json", "-", "--help", "--prn", "-"}}) {
+  for (const std::vector<std::string>& fout :
+       std::vector<std::vector<std::string>>{{"--help"},
+                                             {"--help", "--onbekend"},
+                                             {"x.mrv", "--taken", "nul", "-h"},
+                                             {"--json", "-", "--help", "--prn", "-"}}) {
     std::vector<std::string> argumenten{"reken"};
     argumenten.insert(argumenten.end(), fout.begin(), fout.end());
     EXPECT_EQ(Draai(argumenten).Code, 0);
@@ -95,7 +102,8 @@ TEST(Help, StaysWithinTheWidthOfATerminal) {
 }
 
 TEST(Help, RequiredOptionsStandInTheUsageLine) {
-  EXPECT_THAT(HelpTekst(Opdracht::Maak), HasSubstr("Gebruik: murvane-cli maak PROJECT.json -o BESTAND [OPTIES]\n"));
+  EXPECT_THAT(HelpTekst(Opdracht::Maak),
+              HasSubstr("Gebruik: murvane-cli maak PROJECT.json -o BESTAND [OPTIES]\n"));
   EXPECT_THAT(HelpTekst(Opdracht::Reken), HasSubstr("Gebruik: murvane-cli reken PROJECT.mrv... [OPTIES]\n"));
   EXPECT_THAT(HelpTekst(Opdracht::Programma), HasSubstr("Gebruik: murvane-cli OPDRACHT [OPTIES]\n"));
 }

@@ -25,7 +25,8 @@ class Proefmap {
  public:
   Proefmap() {
     for (int i = 0; map_.empty(); ++i) {
-      const auto map = std::filesystem::temp_directory_path() / PadVan("murvane cli é ü " + std::to_string(i));
+      const auto map =
+          std::filesystem::temp_directory_path() / PadVan("murvane cli é ü " + std::to_string(i));
       if (std::filesystem::create_directory(map)) map_ = map;
     }
     Instellingen instellingen;
@@ -55,7 +56,9 @@ class Proefmap {
     std::ofstream(map_ / PadVan(naam), std::ios::binary) << bytes;
     return *this / naam;
   }
-  [[nodiscard]] bool Heeft(std::string_view naam) const { return std::filesystem::exists(map_ / PadVan(naam)); }
+  [[nodiscard]] bool Heeft(std::string_view naam) const {
+    return std::filesystem::exists(map_ / PadVan(naam));
+  }
   [[nodiscard]] std::string Lees(std::string_view naam) const { return LeesBestand(map_ / PadVan(naam)); }
 
  private:
@@ -63,7 +66,8 @@ class Proefmap {
 };
 
 /// A duct and an outlet to a room, complete: it passes the checks and its run ends well.
-inline Project GoedProject(std::string_view naam = "Proefproject", std::int16_t type = rekentype::Installatiegeluid) {
+inline Project GoedProject(std::string_view naam = "Proefproject",
+                           std::int16_t type = rekentype::Installatiegeluid) {
   Project project;
   project.Kop.ProNaam = naam;
   project.Kop.RekenType = type;

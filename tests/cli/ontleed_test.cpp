@@ -46,19 +46,33 @@ const Verkeerd Gevallen[] = {
     {{"reken", "x.mrv", "--decimaal"}, "Achter --decimaal ontbreekt punt|komma.", "reken "},
     {{"reken", "x.mrv", "--uit", "u", "--taken"}, "Achter --taken ontbreekt AANTAL.", "reken "},
     {{"reken", "x.mrv", "--prn", "a", "--prn", "b"}, "Optie --prn staat er meer dan één keer.", "reken "},
-    {{"reken", "x.mrv", "--help=nee"}, "Een optie heeft een onverwachte waarde.", "reken "},
-    {{"reken", "x.mrv", "--decimaal", "dubbel"}, "--decimaal vraagt punt of komma, niet \"dubbel\".", "reken "},
+    {{"reken", "x.mrv", "--help=nee"}, "Bij --help hoort geen waarde.", "reken "},
+    {{"reken", "x.mrv", "--decimaal", "dubbel"},
+     "--decimaal vraagt punt of komma, niet \"dubbel\".",
+     "reken "},
     {{"reken", "x.mrv", "--decimaal", ","}, "--decimaal vraagt punt of komma, niet \",\".", "reken "},
-    {{"reken", "x.mrv", "--uit", "u", "--taken", "0"}, "--taken vraagt een geheel getal vanaf 1, niet \"0\".", "reken "},
-    {{"reken", "x.mrv", "--uit", "u", "--taken", "-1"}, "--taken vraagt een geheel getal vanaf 1, niet \"-1\".", "reken "},
-    {{"reken", "x.mrv", "--uit", "u", "--taken", "2x"}, "--taken vraagt een geheel getal vanaf 1, niet \"2x\".", "reken "},
-    {{"reken", "x.mrv", "--uit", "u", "--taken", "1.5"}, "--taken vraagt een geheel getal vanaf 1, niet \"1.5\".", "reken "},
+    {{"reken", "x.mrv", "--uit", "u", "--taken", "0"},
+     "--taken vraagt een geheel getal vanaf 1, niet \"0\".",
+     "reken "},
+    {{"reken", "x.mrv", "--uit", "u", "--taken", "-1"},
+     "--taken vraagt een geheel getal vanaf 1, niet \"-1\".",
+     "reken "},
+    {{"reken", "x.mrv", "--uit", "u", "--taken", "2x"},
+     "--taken vraagt een geheel getal vanaf 1, niet \"2x\".",
+     "reken "},
+    {{"reken", "x.mrv", "--uit", "u", "--taken", "1.5"},
+     "--taken vraagt een geheel getal vanaf 1, niet \"1.5\".",
+     "reken "},
     {{"reken", "x.mrv", "--uit", "u", "--taken", "99999999999"},
      "--taken vraagt een geheel getal vanaf 1, niet \"99999999999\".",
      "reken "},
     {{"reken", "x.mrv", "--taken", "2"}, "--taken gaat alleen samen met --uit.", "reken "},
-    {{"reken", "x.mrv", "--prn", "-", "--json", "-"}, "--prn en --json kunnen niet allebei naar de standaarduitvoer.", "reken "},
-    {{"reken", "x.mrv", "--prn", "a b", "--json", "./a b"}, "--prn en --json noemen hetzelfde bestand.", "reken "},
+    {{"reken", "x.mrv", "--prn", "-", "--json", "-"},
+     "--prn en --json kunnen niet allebei naar de standaarduitvoer.",
+     "reken "},
+    {{"reken", "x.mrv", "--prn", "a b", "--json", "./a b"},
+     "--prn en --json noemen hetzelfde bestand.",
+     "reken "},
     {{"reken", "x.mrv", "--prn", "a", "--uit", "u"}, "--prn en --json gaan niet samen met --uit.", "reken "},
     {{"reken", "x.mrv", "--json", "a", "--uit", "u"}, "--prn en --json gaan niet samen met --uit.", "reken "},
     {{"reken", "x.mrv", "y.mrv", "--prn", "a"},
@@ -132,7 +146,8 @@ TEST(Ontleed, TakesEveryOptionWithAValueInBothForms) {
 }
 
 TEST(Ontleed, OptionsMayStandBeforeTheCommandAndBetweenTheFiles) {
-  const Keuzes keuzes = OntleedRegel({"--decimaal", "punt", "--data=d", "reken", "a.mrv", "--uit", "u", "b.mrv"});
+  const Keuzes keuzes =
+      OntleedRegel({"--decimaal", "punt", "--data=d", "reken", "a.mrv", "--uit", "u", "b.mrv"});
   EXPECT_EQ(keuzes.Wat, Opdracht::Reken);
   EXPECT_EQ(keuzes.Bestanden, (Woorden{"a.mrv", "b.mrv"}));
   EXPECT_EQ(keuzes.Waarde(Optie::Decimaal), "punt");
@@ -161,7 +176,8 @@ TEST(Ontleed, ADashAloneIsAValue) {
 TEST(Ontleed, NoMessageHoldsAWordOfTheLibraries) {
   for (const Verkeerd& geval : Gevallen) {
     const std::string err = Draai(geval.Argumenten).Err;
-    for (const char* woord : {"required", "expected", "missing", "following", "option ", "could", "TEXT", "value", "Error"})
+    for (const char* woord :
+         {"required", "expected", "missing", "following", "option ", "could", "TEXT", "value", "Error"})
       EXPECT_THAT(err, testing::Not(testing::HasSubstr(woord)));
   }
 }

@@ -16,7 +16,8 @@
 namespace murvane::clitest {
 namespace {
 
-std::vector<std::string> Meldingen(std::size_t aantal, unsigned taken, const std::function<Werk()>& nieuwWerk) {
+std::vector<std::string> Meldingen(std::size_t aantal, unsigned taken,
+                                   const std::function<Werk()>& nieuwWerk) {
   std::vector<std::string> uit;
   VerdeelWerk(aantal, taken, nieuwWerk, [&uit](const Uitslag& uitslag) { uit.push_back(uitslag.Melding); });
   return uit;
@@ -34,11 +35,14 @@ Werk Nummer() {
 
 TEST(Ploeg, DoesEveryFileOnceAndTellsInOrder) {
   for (const unsigned taken : {1U, 2U, 8U, 100U}) {
-    for (const std::size_t aantal : {0U, 1U, 7U, 500U}) EXPECT_EQ(Meldingen(aantal, taken, Nummer), Nummers(aantal));
+    for (const std::size_t aantal : {0U, 1U, 7U, 500U})
+      EXPECT_EQ(Meldingen(aantal, taken, Nummer), Nummers(aantal));
   }
 }
 
-TEST(Ploeg, NoneAskedForIsOne) { EXPECT_EQ(Meldingen(3, 0, Nummer), Nummers(3)); }
+TEST(Ploeg, NoneAskedForIsOne) {
+  EXPECT_EQ(Meldingen(3, 0, Nummer), Nummers(3));
+}
 
 TEST(Ploeg, ALaterFileThatIsReadyFirstWaitsWithItsMessage) {
   std::promise<void> klaar;
@@ -73,7 +77,8 @@ TEST(Ploeg, WhatAThreadThrowsComesOutAtTheCaller) {
       return {};
     };
   };
-  for (const unsigned taken : {1U, 4U}) EXPECT_THROW((void)Meldingen(20, taken, geenGeheugen), std::bad_alloc);
+  for (const unsigned taken : {1U, 4U})
+    EXPECT_THROW((void)Meldingen(20, taken, geenGeheugen), std::bad_alloc);
 }
 
 TEST(Ploeg, WhatTheReceiverThrowsStopsTheWork) {

@@ -21,7 +21,8 @@ using testing::StartsWith;
 Project VreemdProject() {
   Project project = GoedProject("\x81 \"\\\x9D\x80");
   project.Kop.ProNum = Tekst<12>();
-  project.Fan.Lw = {-0.0, std::nan(""), std::numeric_limits<double>::infinity(), -INFINITY, 5e-324, 1.7e308, 0.1, 1.0 / 3};
+  project.Fan.Lw = {-0.0, std::nan(""), std::numeric_limits<double>::infinity(), -INFINITY, 5e-324, 1.7e308,
+                    0.1,  1.0 / 3};
   project.Fan.FanType = -32768;
   project.Ruimte.RkanaalNaam = std::string("a\0b ", 4);
   project.Ruimte.RplafondNaam = std::string(300, '\xE9');
@@ -92,8 +93,8 @@ TEST(Toon, NeverOverwritesTheProjectThatItReads) {
 
 TEST(Maak, TakesHandwrittenJson) {
   const Proefmap map;
-  const std::string json =
-      map.ZetBytes(R"({"ProjectRec": {"ProNaam": "Café", "RekenType": 1}, "Elementen": [{"LDoorsnee": 2.5}]})", "é.json");
+  const std::string json = map.ZetBytes(
+      R"({"ProjectRec": {"ProNaam": "Café", "RekenType": 1}, "Elementen": [{"LDoorsnee": 2.5}]})", "é.json");
   EXPECT_EQ(Draai({"maak", json, "-o", map / "é.mrv"}).Code, 0);
   const Project project = LeesProject(PadVan(map / "é.mrv"));
   EXPECT_EQ(project.Kop.ProNaam.Getrimd(), "Café"_cp);
@@ -166,7 +167,8 @@ constexpr Soortnaam Soorten[] = {{"Duct.dat", "kanaalelementen", "CatElementen"}
                                  {"RPlaf.Dat", "plafonds", "CatRplaf"}};
 
 std::string BytesVan(const Soortnaam& soort) {
-  return std::string(soort.Sleutel) == "CatElementen" ? CatalogusBytes(Elementen()) : CatalogusBytes(Spectra());
+  return std::string(soort.Sleutel) == "CatElementen" ? CatalogusBytes(Elementen())
+                                                      : CatalogusBytes(Spectra());
 }
 
 TEST(Catalogus, TheNameOfTheFileTellsItsKindInAnyCase) {
@@ -183,7 +185,8 @@ TEST(Catalogus, TheOptionTellsTheKindAndGoesBeforeTheName) {
   const Proefmap map;
   for (const Soortnaam& soort : Soorten) {
     for (const char* naam : {"eigen é.dat", "Duct.dat", "Fan.dat"}) {
-      const Afloop afloop = Draai({"catalogus", "toon", map.ZetBytes(BytesVan(soort), naam), "--soort", soort.Soort});
+      const Afloop afloop =
+          Draai({"catalogus", "toon", map.ZetBytes(BytesVan(soort), naam), "--soort", soort.Soort});
       EXPECT_EQ(afloop.Code, 0) << naam;
       EXPECT_THAT(afloop.Uit, HasSubstr("\"" + std::string(soort.Sleutel) + "\""));
     }
@@ -194,7 +197,8 @@ TEST(Catalogus, TheLengthTellsTheKindWhenNothingElseDoes) {
   const Proefmap map;
   EXPECT_THAT(Draai({"catalogus", "toon", map.ZetBytes(CatalogusBytes(Elementen()), "x.dat")}).Uit,
               HasSubstr("\"CatElementen\""));
-  EXPECT_THAT(Draai({"catalogus", "toon", map.ZetBytes(CatalogusBytes(Spectra()), "x.dat")}).Uit, HasSubstr("\"CatFans\""));
+  EXPECT_THAT(Draai({"catalogus", "toon", map.ZetBytes(CatalogusBytes(Spectra()), "x.dat")}).Uit,
+              HasSubstr("\"CatFans\""));
 }
 
 TEST(Catalogus, AKindThatCannotBeToldIsAskedFor) {
@@ -205,9 +209,11 @@ TEST(Catalogus, AKindThatCannotBeToldIsAskedFor) {
     const Afloop afloop = Draai({"catalogus", "toon", naam});
     EXPECT_EQ(afloop.Code, 64);
     EXPECT_EQ(afloop.Uit, "");
-    EXPECT_EQ(afloop.Err,
-              naam + ": de soort catalogus blijkt niet uit het bestand; geef --soort kanaalelementen, ventilatoren, "
-                     "luchtkanalen of plafonds.\nHulp: murvane-cli catalogus toon --help\n");
+    EXPECT_EQ(
+        afloop.Err,
+        naam +
+            ": de soort catalogus blijkt niet uit het bestand; geef --soort kanaalelementen, ventilatoren, "
+            "luchtkanalen of plafonds.\nHulp: murvane-cli catalogus toon --help\n");
     EXPECT_EQ(Draai({"catalogus", "toon", naam, "--soort", "plafonds"}).Code, 0);
   }
 }
@@ -236,11 +242,15 @@ TEST(Catalogus, FaultsNameTheFileThatTheyAreOf) {
   const std::string leeg = map.ZetBytes("x", "x.dat");
   const std::string goed = map.ZetBytes(CatalogusBytes(Spectra()), "Rduct.dat");
   const std::string json = map.ZetBytes(R"({"CatRamen": []})", "ramen.json");
-  EXPECT_EQ(Draai({"catalogus", "toon", map / "weg.dat"}).Err, map / "weg.dat" + ": Fout 53 - Bestand niet gevonden.\n");
-  EXPECT_THAT(Draai({"catalogus", "toon", kort}).Err, StartsWith(kort + ": Fout 62 - Het bestand eindigt te vroeg"));
-  EXPECT_THAT(Draai({"catalogus", "toon", leeg}).Err, StartsWith(leeg + ": Fout 62 - Het bestand eindigt te vroeg"));
+  EXPECT_EQ(Draai({"catalogus", "toon", map / "weg.dat"}).Err,
+            map / "weg.dat" + ": Fout 53 - Bestand niet gevonden.\n");
+  EXPECT_THAT(Draai({"catalogus", "toon", kort}).Err,
+              StartsWith(kort + ": Fout 62 - Het bestand eindigt te vroeg"));
+  EXPECT_THAT(Draai({"catalogus", "toon", leeg}).Err,
+              StartsWith(leeg + ": Fout 62 - Het bestand eindigt te vroeg"));
   EXPECT_EQ(Draai({"catalogus", "toon", leeg}).Code, 1);
-  EXPECT_EQ(Draai({"catalogus", "toon", goed, "-o", map / "weg/x"}).Err, map / "weg/x" + ": Fout 76 - Map niet gevonden.\n");
+  EXPECT_EQ(Draai({"catalogus", "toon", goed, "-o", map / "weg/x"}).Err,
+            map / "weg/x" + ": Fout 76 - Map niet gevonden.\n");
   EXPECT_EQ(Draai({"catalogus", "toon", goed, "-o", goed}).Code, 64);
   EXPECT_EQ(map.Lees("Rduct.dat"), CatalogusBytes(Spectra()));
   const Afloop maak = Draai({"catalogus", "maak", json, "-o", map / "u.dat"});

@@ -27,7 +27,8 @@ struct Kern {
 
   explicit Kern(Project project, char decimaal = ',') : HetProject(std::move(project)) {
     const ProjectInvoer invoer = InvoerVan(HetProject, decimaal);
-    EXPECT_FALSE(VoerUit(HetProject, invoer, "Bureau één"_cp, decimaal, HetResultaat, HetRapport).has_value());
+    EXPECT_FALSE(
+        VoerUit(HetProject, invoer, "Bureau één"_cp, decimaal, HetResultaat, HetRapport).has_value());
   }
   [[nodiscard]] std::string Blokken() const {
     const Rapport& r = HetRapport;
@@ -144,7 +145,8 @@ TEST(RekenOpdracht, AFaultIsItsNumberWithTheFileAndStatus1) {
 
 TEST(RekenOpdracht, TakesTheExtensionInAnyCase) {
   const Proefmap map;
-  for (const char* naam : {"a.MRV", "b.mRv", "cmrv"}) EXPECT_EQ(Reken(map, {map.Zet(GoedProject(), naam)}).Code, 0);
+  for (const char* naam : {"a.MRV", "b.mRv", "cmrv"})
+    EXPECT_EQ(Reken(map, {map.Zet(GoedProject(), naam)}).Code, 0);
 }
 
 TEST(RekenOpdracht, OneBadProjectDoesNotStopTheOthers) {
@@ -179,7 +181,8 @@ TEST(RekenOpdracht, WithoutSettingsNothingIsCalculated) {
   const Proefmap map;
   const std::string naam = map.Zet(GoedProject(), "a.mrv");
   std::filesystem::create_directory(PadVan(map / "lege map"));
-  for (const std::vector<std::string>& erbij : std::vector<std::vector<std::string>>{{}, {"--uit", map / "u"}}) {
+  for (const std::vector<std::string>& erbij :
+       std::vector<std::vector<std::string>>{{}, {"--uit", map / "u"}}) {
     std::vector<std::string> argumenten{"reken", naam, "--data", map / "lege map"};
     argumenten.insert(argumenten.end(), erbij.begin(), erbij.end());
     const Afloop afloop = Draai(argumenten);
@@ -203,7 +206,8 @@ TEST(RekenOpdracht, UnwritableOutputIsAFaultOfThatFile) {
   const Proefmap map;
   const std::string naam = map.Zet(GoedProject(), "a.mrv");
   std::filesystem::create_directory(PadVan(map / "map"));
-  EXPECT_EQ(Reken(map, {naam, "--prn", map / "weg/a.prn"}).Err, map / "weg/a.prn" + ": Fout 76 - Map niet gevonden.\n");
+  EXPECT_EQ(Reken(map, {naam, "--prn", map / "weg/a.prn"}).Err,
+            map / "weg/a.prn" + ": Fout 76 - Map niet gevonden.\n");
   EXPECT_EQ(Reken(map, {naam, "--json", map / "map"}).Err,
             map / "map" + ": Fout 75 - Geen toegang tot het bestand of de map.\n");
   EXPECT_EQ(Reken(map, {naam, "--json", map / "map"}).Code, 1);
@@ -220,7 +224,8 @@ TEST(RekenOpdracht, NeverOverwritesTheProjectThatItReads) {
   for (const char* optie : {"--prn", "--json"}) {
     const Afloop afloop = Reken(map, {naam, optie, map / "./a.mrv"});
     EXPECT_EQ(afloop.Code, 64);
-    EXPECT_EQ(afloop.Err, map / "./a.mrv" + " is het bestand dat wordt gelezen en zou worden overschreven.\n" +
+    EXPECT_EQ(afloop.Err, map / "./a.mrv" +
+                              " is het bestand dat wordt gelezen en zou worden overschreven.\n" +
                               "Hulp: murvane-cli reken --help\n");
   }
   EXPECT_EQ(map.Lees("a.mrv"), ProjectBytes(GoedProject()));
@@ -251,8 +256,10 @@ TEST(Standaarduitvoer, AFaultOfItGoesBeforeARefusal) {
   Dicht dicht;
   std::ostream uit(&dicht);
   std::ostringstream err;
-  EXPECT_EQ(VoerOpdrachtUit({"controleer", map.Zet(GoedProject(), "a.mrv"), map.Zet(ZonderElementen(), "b.mrv")}, uit, err),
-            1);
+  EXPECT_EQ(
+      VoerOpdrachtUit({"controleer", map.Zet(GoedProject(), "a.mrv"), map.Zet(ZonderElementen(), "b.mrv")},
+                      uit, err),
+      1);
 }
 
 TEST(ControleerOpdracht, TellsOfEveryProjectHowItIs) {
@@ -291,20 +298,22 @@ class Partij : public testing::Test {
         namen.push_back(map_.Zet(ZonderElementen(), naam));
         verwacht_ += namen.back() + ": Geen kanaalelementen ingevoerd\n";
       } else {
-        namen.push_back(map_.Zet(GoedProject("P" + std::to_string(i), static_cast<std::int16_t>(i % 3 == 0 ? 3 : 1)), naam));
+        namen.push_back(map_.Zet(
+            GoedProject("P" + std::to_string(i), static_cast<std::int16_t>(i % 3 == 0 ? 3 : 1)), naam));
         goed_.push_back("project é " + std::to_string(i));
       }
     }
     return namen;
   }
-  Afloop Draai(std::vector<std::string> namen, const std::string& map, const std::string& taken, bool terminal = false) {
+  Afloop Draai(std::vector<std::string> namen, const std::string& map, const std::string& taken,
+               bool terminal = false) {
     namen.insert(namen.end(), {"--uit", map_ / map});
     if (!taken.empty()) namen.insert(namen.end(), {"--taken", taken});
     return Reken(map_, namen, terminal);
   }
 
   Proefmap map_;
-  std::string verwacht_;            ///< messages in the order of the command line
+  std::string verwacht_;           ///< messages in the order of the command line
   std::vector<std::string> goed_;  ///< base names that give files
 };
 
@@ -321,8 +330,10 @@ TEST_F(Partij, GivesTheSameFilesAndMessagesWithAnyNumberOfThreads) {
       if (bestand.is_regular_file()) ++bestanden;
     EXPECT_EQ(bestanden, 2 * goed_.size());
     for (const std::string& naam : goed_) {
-      EXPECT_EQ(map_.Lees(map + "/" + naam + ".prn"), Reken(map_, {map_ / (naam + ".mrv"), "--prn", "-"}).Uit);
-      EXPECT_EQ(map_.Lees(map + "/" + naam + ".json"), Reken(map_, {map_ / (naam + ".mrv"), "--json", "-"}).Uit);
+      EXPECT_EQ(map_.Lees(map + "/" + naam + ".prn"),
+                Reken(map_, {map_ / (naam + ".mrv"), "--prn", "-"}).Uit);
+      EXPECT_EQ(map_.Lees(map + "/" + naam + ".json"),
+                Reken(map_, {map_ / (naam + ".mrv"), "--json", "-"}).Uit);
     }
   }
 }
@@ -344,16 +355,18 @@ TEST_F(Partij, EqualBaseNamesAreRefusedBeforeAnythingIsWritten) {
     const Afloop afloop = Draai(namen, "u", "2");
     EXPECT_EQ(afloop.Code, 64);
     EXPECT_EQ(afloop.Uit, "");
-    EXPECT_EQ(afloop.Err, een + " en " + namen.back() +
-                              " geven allebei naam é.prn en naam é.json; geef ze verschillende namen of een eigen map.\n"
-                              "Hulp: murvane-cli reken --help\n");
+    EXPECT_EQ(afloop.Err,
+              een + " en " + namen.back() +
+                  " geven allebei naam é.prn en naam é.json; geef ze verschillende namen of een eigen map.\n"
+                  "Hulp: murvane-cli reken --help\n");
     EXPECT_FALSE(map_.Heeft("u"));
   }
 }
 
 TEST_F(Partij, NamesThatDifferOnlyInCaseAreTheirOwnFiles) {
 #ifndef _WIN32
-  EXPECT_EQ(Draai({map_.Zet(GoedProject(), "Naam.mrv"), map_.Zet(GoedProject(), "naam.mrv")}, "u", "2").Code, 0);
+  EXPECT_EQ(Draai({map_.Zet(GoedProject(), "Naam.mrv"), map_.Zet(GoedProject(), "naam.mrv")}, "u", "2").Code,
+            0);
   EXPECT_TRUE(map_.Heeft("u/Naam.prn") && map_.Heeft("u/naam.prn"));
 #endif
 }
