@@ -42,7 +42,10 @@ bool ZelfdeBestand(const std::string& een, const std::string& ander) {
   std::error_code geen;
   if (fs::exists(a, geen) && fs::exists(b, geen))
     return fs::is_regular_file(a, geen) && fs::equivalent(a, b, geen);
-  return fs::weakly_canonical(a, geen) == fs::weakly_canonical(b, geen);
+  const auto volledig = [&geen](const fs::path& pad) {
+    return fs::weakly_canonical(fs::absolute(pad, geen), geen);
+  };
+  return volledig(a) == volledig(b);
 }
 
 void WeigerOverschrijven(const std::string& invoer, const std::string& uitvoer) {
