@@ -114,7 +114,7 @@ bool TeGroot(std::string_view getal) {
   std::ptrdiff_t exponent = 0;
   if (std::from_chars(begin, getal.data() + getal.size(), exponent).ec == std::errc::result_out_of_range)
     return *begin != '-';
-  return plaats + exponent > 0;
+  return exponent > -plaats;
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <charconv>
 #include <cmath>
 #include <limits>
 #include <nlohmann/json.hpp>
@@ -139,7 +140,7 @@ class Bouwer {
       throw Fout(FoutNummer::OngeldigArgument, "Dubbele sleutel " + Tussen(sleutel),
                  Plaats(open_.size() - 1));
     }
-    std::get<JsonWaarde::Object>(open_.back().waarde->inhoud).emplace_back(std::move(sleutel), JsonWaarde());
+    std::get<JsonWaarde::Object>(open_.back().waarde->inhoud).emplace_back().first = std::move(sleutel);
     return true;
   }
 

@@ -5,7 +5,6 @@
 // bits.
 
 #include <array>
-#include <charconv>
 #include <concepts>
 #include <cstddef>
 #include <cstdint>

@@ -98,14 +98,20 @@ double NietNegatief(double niveau) {
 
 /// Flow noise of outlets and dampers, from the pressure loss over them.
 void KlepRuis(ElementRec& e, double S) {
+  BandRij K{};  // before the logarithms below: a pressure loss of 0 has to fail as a division
+  for (Band b = 0; b < Banden; ++b)
+    K[b] = RoosterKromme(Deel(Frequentie[b] * 0.6 * e.Debiet, e.Weerstand * S));
   const double drukNiveau = 30 * Log10(e.Weerstand);
   const double vlakNiveau = 10 * Log10(S);
-  for (Band b = 0; b < Banden; ++b) {
-    const double x = Deel(Frequentie[b] * 0.6 * e.Debiet, e.Weerstand * S);
-    const double K = RoosterKromme(x);
-    e.ruis[b] = NietNegatief(drukNiveau + 17 + vlakNiveau - K);
-  }
+  for (Band b = 0; b < Banden; ++b) e.ruis[b] = NietNegatief(drukNiveau + 17 + vlakNiveau - K[b]);
   e.ruis[SomPlaats] = EnergetischeSom(e.ruis, true);
+}
+
+/// The Strouhal-type number per band of a bend or branch of diameter d (mm) at air speed v (m/s).
+BandRij Strouhal(double d, double v) {
+  BandRij uit{};
+  for (Band b = 0; b < Banden; ++b) uit[b] = Deel(Frequentie[b] * d, v * 1000);
+  return uit;
 }
 
 /// Factor of the speed-ratio term of a branch, by the ranges of BochtKromme.
@@ -165,7 +171,7 @@ void ReKan(ElementRec& e, ElementTekstRijen& tekst, char decimaal) {
 
 void Rooster(ElementRec& e, const RuimteRec& ruimte, std::int16_t rekenType, ElementTekstRijen& tekst,
              char decimaal) {
-  e.ElRAantal = ruimte.RAantal;
+  e.ElRAantal = Eindig(ruimte.RAantal);
   e.ElRDI = ruimte.RDI;
   EisEindig({e.Hoogte, e.Breedte, e.Debiet, e.Snetto, e.Weerstand});
   const bool rond = e.Breedte <= 0;
@@ -191,11 +197,11 @@ void Bocht(ElementRec& e, ElementTekstRijen& tekst, char decimaal) {
   const double d = rond ? e.Hoogte : EquivDiameter(e.Hoogte, e.Breedte);
   ZetRijen(tekst, MaatTekst(rond, e.Hoogte, e.Breedte, decimaal), DebietTekst(e.Debiet, decimaal));
   const double v = Deel(e.Debiet, S);
+  const BandRij strouhal = Strouhal(d, v);  // before the logarithms: a speed of 0 has to fail as a division
   const double maatNiveau = 30 * Log10(d / 1000);
   const double snelheidNiveau = 50 * Log10(v);
   for (Band b = 0; b < Banden; ++b) {
-    const double x = Deel(Frequentie[b] * d, v * 1000);
-    double K = BochtKromme(x);
+    double K = BochtKromme(strouhal[b]);
     if (haaks) K = K + 5;
     e.ruis[b] = NietNegatief(BandBreedteNiveau()[b] + K + maatNiveau + snelheidNiveau);
   }
@@ -217,12 +223,13 @@ void Aftak(ElementRec& e, ElementTekstRijen& tekst, char decimaal) {
            "r/da = " + StandaardTekst(e.RAftak, decimaal));
   const double va = Deel(e.QAftak, Sa);
   const double vh = Deel(e.Debiet, Sh);
+  const BandRij strouhal = Strouhal(d, va);
   const double afronding = 1 - e.RAftak / 0.15;
   const double verhouding = Log10(Deel(vh, va));
   const double maatNiveau = 30 * Log10(d / 1000);
   const double snelheidNiveau = 50 * Log10(va);
   for (Band b = 0; b < Banden; ++b) {
-    const double x = Deel(Frequentie[b] * d, va * 1000);
+    const double x = strouhal[b];
     const double T = x <= 10 ? 6.4 - (x - 2) * 0.1875 : 4.9 - (x - 10) * 0.03;
     const double R = afronding * T;
     const double K = BochtKromme(x) + AftakFactor(x) * verhouding;

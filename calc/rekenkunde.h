@@ -27,10 +27,10 @@ inline double Deel(double a, double b) {
   return Eindig(a / Eindig(b));
 }
 
-/// ln x; Fout 5 when x is 0 or less, Fout 6 when it is infinite or not a number.
+/// ln x; Fout 6 when x is infinite or not a number, Fout 5 when it is 0 or less.
 inline double Ln(double x) {
-  if (x <= 0) throw Fout(FoutNummer::OngeldigArgument);
-  return std::log(Eindig(x));
+  if (Eindig(x) <= 0) throw Fout(FoutNummer::OngeldigArgument);
+  return std::log(x);
 }
 
 inline double Log10(double x) {
@@ -45,10 +45,10 @@ inline double Macht10(double y) {
   return Eindig(std::pow(10.0, Eindig(y)));
 }
 
-/// Square root; Fout 5 of a negative number.
+/// Square root; Fout 6 when x is infinite or not a number, Fout 5 when it is negative.
 inline double Wortel(double x) {
-  if (x < 0) throw Fout(FoutNummer::OngeldigArgument);
-  return std::sqrt(Eindig(x));
+  if (Eindig(x) < 0) throw Fout(FoutNummer::OngeldigArgument);
+  return std::sqrt(x);
 }
 
 }  // namespace murvane

@@ -86,11 +86,11 @@ void RuimteDemping(const Project& project, Resultaten& r) {
   const ElementRec& eerste = project.Elementen[1];
   const double S1 = Oppervlak(eerste.Hoogte, eerste.Breedte, eerste.Breedte == 0);
   const RuimteRec& ruimte = project.Ruimte;
-  const double V = ruimte.RBreedte * ruimte.RHoogte * ruimte.RLengte;
-  const double T = ruimte.RNagalm == 0 ? 1E-20 : ruimte.RNagalm;
+  const double V = Eindig(ruimte.RBreedte * ruimte.RHoogte * ruimte.RLengte);
+  const double T = ruimte.RNagalm == 0 ? 1E-20 : Eindig(ruimte.RNagalm);
   const std::int16_t type = project.Kop.RekenType;
   const bool vrij = project.VrijVeld == 1 && type != rekentype::Overspraak;
-  const double A = vrij ? 1E+20 : Eindig(V / (6 * T));
+  const double A = vrij ? 1E+20 : Deel(V, 6 * T);
   const double N = vrij ? 1 : ruimte.RAantal;
   if (type == rekentype::Installatiegeluid) PerRooster(project, A, N, r);
   if (type == rekentype::Geluidsuitstraling) PerKanaalwand(project, A, r);
