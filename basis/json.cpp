@@ -140,7 +140,7 @@ class Bouwer {
       throw Fout(FoutNummer::OngeldigArgument, "Dubbele sleutel " + Tussen(sleutel),
                  Plaats(open_.size() - 1));
     }
-    std::get<JsonWaarde::Object>(open_.back().waarde->inhoud).emplace_back().first = std::move(sleutel);
+    std::get<JsonWaarde::Object>(open_.back().waarde->inhoud).emplace_back().sleutel = std::move(sleutel);
     return true;
   }
 
@@ -162,7 +162,7 @@ class Bouwer {
   JsonWaarde& Volgende() {
     if (open_.empty()) return *top_;
     auto& inhoud = open_.back().waarde->inhoud;
-    if (auto* object = std::get_if<JsonWaarde::Object>(&inhoud)) return object->back().second;
+    if (auto* object = std::get_if<JsonWaarde::Object>(&inhoud)) return object->back().waarde;
     return std::get<JsonWaarde::Lijst>(inhoud).emplace_back();
   }
 
@@ -194,7 +194,7 @@ class Bouwer {
     for (std::size_t i = 0; i < diepte; ++i) {
       const auto& inhoud = open_[i].waarde->inhoud;
       if (const auto* object = std::get_if<JsonWaarde::Object>(&inhoud)) {
-        plaats = LidPlaats(plaats, object->back().first);
+        plaats = LidPlaats(plaats, object->back().sleutel);
       } else {
         plaats = ItemPlaats(plaats, std::get<JsonWaarde::Lijst>(inhoud).size());
       }
@@ -363,9 +363,9 @@ JsonObject::JsonObject(const JsonVeld& veld)
 
 std::optional<JsonVeld> JsonObject::Neem(std::string_view sleutel) {
   for (std::size_t i = 0; i < leden_->size(); ++i) {
-    if ((*leden_)[i].first != sleutel) continue;
+    if ((*leden_)[i].sleutel != sleutel) continue;
     genomen_[i] = true;
-    return JsonVeld((*leden_)[i].second, LidPlaats(plaats_, sleutel));
+    return JsonVeld((*leden_)[i].waarde, LidPlaats(plaats_, sleutel));
   }
   return {};
 }
@@ -378,7 +378,7 @@ JsonObject JsonObject::Deel(std::string_view sleutel) {
 void JsonObject::Klaar() const {
   for (std::size_t i = 0; i < leden_->size(); ++i) {
     if (genomen_[i]) continue;
-    throw Fout(FoutNummer::OngeldigArgument, "Onbekende sleutel " + Tussen((*leden_)[i].first), plaats_);
+    throw Fout(FoutNummer::OngeldigArgument, "Onbekende sleutel " + Tussen((*leden_)[i].sleutel), plaats_);
   }
 }
 

@@ -91,9 +91,16 @@ class JsonSchrijver {
 /// A JSON value as read. Texts and keys are still UTF-8; the members of an object stand in the order of the
 /// file and no key comes twice.
 struct JsonWaarde {
+  struct Lid;
   using Lijst = std::vector<JsonWaarde>;
-  using Object = std::vector<std::pair<std::string, JsonWaarde>>;
-  std::variant<std::nullptr_t, bool, double, std::string, Lijst, Object> inhoud = nullptr;
+  using Object = std::vector<Lid>;
+  std::variant<std::nullptr_t, bool, double, std::string, Lijst, Object> inhoud;
+};
+
+/// A member of an object.
+struct JsonWaarde::Lid {
+  std::string sleutel;
+  JsonWaarde waarde;
 };
 
 /// Reads a JSON text. Fout 5 for what is not JSON (with line and column), for a key that comes twice in one

@@ -159,16 +159,16 @@ TEST(LeesJson, ReadsEveryKindOfValue) {
   const JsonWaarde waarde = LeesJson(" {\"a\" : [1, -2.5e1, true, null, \"\\u20ac\\n\"],\r\n\t\"b\":{}} ");
   const auto& leden = std::get<JsonWaarde::Object>(waarde.inhoud);
   ASSERT_EQ(leden.size(), 2U);
-  EXPECT_EQ(leden[0].first, "a");
-  const auto& lijst = std::get<JsonWaarde::Lijst>(leden[0].second.inhoud);
+  EXPECT_EQ(leden[0].sleutel, "a");
+  const auto& lijst = std::get<JsonWaarde::Lijst>(leden[0].waarde.inhoud);
   ASSERT_EQ(lijst.size(), 5U);
   EXPECT_EQ(std::get<double>(lijst[0].inhoud), 1);
   EXPECT_EQ(std::get<double>(lijst[1].inhoud), -25);
   EXPECT_TRUE(std::get<bool>(lijst[2].inhoud));
   EXPECT_TRUE(std::holds_alternative<std::nullptr_t>(lijst[3].inhoud));
   EXPECT_EQ(std::get<std::string>(lijst[4].inhoud), "€\n");
-  EXPECT_EQ(leden[1].first, "b");
-  EXPECT_TRUE(std::get<JsonWaarde::Object>(leden[1].second.inhoud).empty());
+  EXPECT_EQ(leden[1].sleutel, "b");
+  EXPECT_TRUE(std::get<JsonWaarde::Object>(leden[1].waarde.inhoud).empty());
 }
 
 TEST(LeesJson, ReadsNumbersOfEverySizeAlike) {

@@ -134,7 +134,7 @@ TEST(CatalogusJson, AnyFileComesBackByteForByte) {
   std::mt19937_64 toeval(20240519);
   for (const auto& s : Soorten) {
     const std::size_t record = s.soort == CatalogusSoort::Kanaalelementen ? 290 : 144;
-    for (const std::size_t aantal : {0, 1, 2, 11, 60, 500}) {
+    for (const std::size_t aantal : {0U, 1U, 2U, 11U, 60U, 500U}) {
       std::string bytes = {static_cast<char>(aantal & 0xFF), static_cast<char>(aantal >> 8)};
       for (std::size_t i = 0; i < aantal * record; ++i) bytes += static_cast<char>(toeval() & 0xFF);
       const std::string json = CatalogusNaarJson(UitBytes(s.soort, bytes));

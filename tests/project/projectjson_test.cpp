@@ -235,7 +235,8 @@ TEST(ProjectJson, BothNamesOfASharedFieldMaySayTheSame) {
   } paren[] = {{"Lengte", "LDoorsnee"},  {"Hoogte", "HAftak"},     {"Breedte", "BAftak"},
                {"HHoofd", "H1Doorsnee"}, {"BHoofd", "B1Doorsnee"}, {"HDoor", "H2Doorsnee"},
                {"BDoor", "B2Doorsnee"}};
-  for (const auto& [eerste, tweede] : paren) {
+  for (const auto& paar : paren) {
+    const std::string eerste = paar.eerste, tweede = paar.tweede;
     const auto beide = [&](const char* a, const char* b) {
       return std::string("{\"Elementen\": [{\"") + eerste + "\": " + a + ", \"" + tweede + "\": " + b + "}]}";
     };

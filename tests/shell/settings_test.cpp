@@ -1,7 +1,6 @@
 #include "shell/settings.h"
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <filesystem>
 #include <functional>
@@ -10,23 +9,18 @@
 
 #include "basis/bestand.h"
 #include "basis/fout.h"
+#include "tests/hulp/bestanden.h"
 
 namespace murvane {
 namespace {
 
 namespace fs = std::filesystem;
 
-/// A fresh directory with blanks and accents in its name, removed at the end.
 class InstellingenBestand : public testing::Test {
  protected:
-  InstellingenBestand() {
-    std::string naam = (fs::temp_directory_path() / "murvane één map XXXXXX").string();
-    map_ = mkdtemp(naam.data());
-  }
-  ~InstellingenBestand() override { fs::remove_all(map_); }
   [[nodiscard]] fs::path Pad() const { return map_ / "murvane.set"; }
 
-  fs::path map_;
+  proef::TijdelijkeMap map_;
 };
 
 std::string Vul(std::string tekst) {
@@ -230,14 +224,14 @@ TEST(Instellingen, RoundTripByteForByte) {
 }
 
 TEST_F(InstellingenBestand, IsReadAndReplacedWhole) {
-  VervangBestand(Pad(), Voorbeeld + "a long old tail\r\n");
+  proef::Schrijf(Pad(), Voorbeeld + "a long old tail\r\n");
   Instellingen instellingen = LeesInstellingen(Pad());
   EXPECT_EQ(instellingen.Gebruikersnaam.Getrimd(), "Jansen & Co");
   SchrijfInstellingen(instellingen, Pad());
-  EXPECT_EQ(LeesBestand(Pad()), Voorbeeld);
+  EXPECT_EQ(proef::Lees(Pad()), Voorbeeld);
   fs::remove(Pad());
   SchrijfInstellingen(instellingen, Pad());
-  EXPECT_EQ(LeesBestand(Pad()), Voorbeeld);
+  EXPECT_EQ(proef::Lees(Pad()), Voorbeeld);
 }
 
 TEST_F(InstellingenBestand, NamesTheFileInEveryFault) {
@@ -252,7 +246,7 @@ TEST_F(InstellingenBestand, NamesTheFileInEveryFault) {
                {"F\nx\n", FoutNummer::GeenGetal},
                {"F\n99999\n", FoutNummer::Overloop}};
   for (const auto& rij : rijen) {
-    VervangBestand(Pad(), rij.bytes);
+    proef::Schrijf(Pad(), rij.bytes);
     fout = Vang([&] { (void)LeesInstellingen(Pad()); });
     EXPECT_EQ(fout.nummer, rij.nummer);
     EXPECT_EQ(fout.bestand, naam);
@@ -263,7 +257,7 @@ TEST_F(InstellingenBestand, NamesTheFileInEveryFault) {
 }
 
 TEST_F(InstellingenBestand, OfAbsurdSizeIsNotReadWhole) {
-  VervangBestand(Pad(), std::string(3'000'000, 'x') + "\n1\n1\n1\n1\nL\nN\n");
+  proef::Schrijf(Pad(), std::string(3'000'000, 'x') + "\n1\n1\n1\n1\nL\nN\n");
   EXPECT_EQ(Vang([&] { (void)LeesInstellingen(Pad()); }).nummer, FoutNummer::VoorbijEinde);
 }
 

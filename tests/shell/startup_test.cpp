@@ -1,7 +1,6 @@
 #include "shell/startup.h"
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <clocale>
 #include <cstdlib>
@@ -11,7 +10,7 @@
 #include <string>
 
 #include "basis/bestand.h"
-#include "basis/getal.h"
+#include "tests/hulp/bestanden.h"
 
 namespace murvane {
 namespace {
@@ -20,20 +19,17 @@ namespace fs = std::filesystem;
 
 class Startmap : public testing::Test {
  protected:
-  Startmap() : vorige_(fs::current_path()) {
-    std::string naam = (fs::temp_directory_path() / "murvane stárt map XXXXXX").string();
-    map_ = fs::canonical(mkdtemp(naam.data()));
+  Startmap() {
     for (const char* deel : {"werk", "usr/bin/data", "usr/share/murvane/data"})
       fs::create_directories(map_ / deel);
   }
-  ~Startmap() override {
-    fs::current_path(vorige_);
-    fs::remove_all(map_);
-  }
-  void ZetInstellingen(const char* map) const { VervangBestand(map_ / map / "murvane.set", ""); }
+  ~Startmap() override { fs::current_path(vorige_); }
+  void ZetInstellingen(const char* map) const { proef::Schrijf(map_ / map / "murvane.set", ""); }
   [[nodiscard]] fs::path DataMap() const { return DataMapVan(map_ / "werk", map_ / "usr/bin"); }
 
-  fs::path vorige_, map_;
+  fs::path vorige_ = fs::current_path();
+  proef::TijdelijkeMap tijdelijk_;
+  fs::path map_ = fs::canonical(tijdelijk_.Pad());  // as the system tells the current directory
 };
 
 TEST_F(Startmap, DataIsFirstSoughtHereThenByTheProgramThenInItsShare) {
@@ -140,7 +136,7 @@ class Regios : public Startmap {
  protected:
   void Maak(const std::string& naam, const std::string& teken) const {
     const std::string bron = (map_ / naam).string();
-    VervangBestand(bron, "LC_NUMERIC\ndecimal_point \"" + teken +
+    proef::Schrijf(bron, "LC_NUMERIC\ndecimal_point \"" + teken +
                              "\"\nthousands_sep \"\"\ngrouping -1\nEND LC_NUMERIC\n");
     // Its exit status tells of the categories that are not there; what counts is the file that it makes.
     const std::string opdracht =
