@@ -3,9 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <iterator>
-
 #include <algorithm>
+#include <iterator>
 
 #include "tests/cli/hulp.h"
 
