@@ -6,11 +6,12 @@ cd "$(dirname "$0")/.."
 seconden=${1:-30}
 
 bestook_een() {
-  local doel=$1 seconden=$2 werk
+  local doel=$1 seconden=$2 werk woorden=()
   werk=build/fuzz/corpus/$doel
   mkdir -p "$werk" "fuzz/gevonden/$doel"
-  if ! build/fuzz/bin/"$doel" -max_total_time="$seconden" -timeout=10 -rss_limit_mb=2048 -print_final_stats=1 \
-      -artifact_prefix="fuzz/gevonden/$doel/" "$werk" "fuzz/corpus/$doel" "fuzz/gevonden/$doel" \
+  case "$doel" in *json) woorden=(-dict=fuzz/json.dict) ;; esac
+  if ! build/fuzz/bin/"$doel" -max_total_time="$seconden" -timeout=10 -max_len=100000 -rss_limit_mb=2048 -print_final_stats=1 \
+      "${woorden[@]}" -artifact_prefix="fuzz/gevonden/$doel/" "$werk" "fuzz/corpus/$doel" "fuzz/gevonden/$doel" \
       > "build/fuzz/$doel.log" 2>&1; then
     echo "$doel: GEVONDEN"
     tail -n 60 "build/fuzz/$doel.log"
