@@ -116,7 +116,7 @@ TEST(EindResult, RefusesFieldsThatAreNotFinite) {
       EXPECT_EQ(FoutVan([&] { EindResult(p, r); }), 6) << waarde << ", type " << type;
       EXPECT_TRUE(IsEindig(r.SysteemDemping));
     }
-    for (const std::size_t slot : {0, 6, 7}) {
+    for (const std::size_t slot : {0U, 6U, 7U}) {
       Project p = Kamer(1);
       p.Fan.Lw[slot] = waarde;
       Resultaten r = Oud();
