@@ -9,8 +9,8 @@
 namespace murvane {
 
 /// At most the first `hoogstens` bytes of a file. Fout 53 when it does not exist, 76 when its directory does
-/// not, 70 without permission, 75 for any other failure (a directory, a broken disk); the Fout names the
-/// file.
+/// not, 70 without permission, 52 for an impossible name, 75 for any other failure (a directory, a broken
+/// disk, links that go round); the Fout names the file.
 [[nodiscard]] std::string LeesBestand(const std::filesystem::path& pad,
                                       std::size_t hoogstens = std::string::npos);
 
@@ -18,11 +18,14 @@ namespace murvane {
 enum class Staart { Vervalt, Blijft };
 
 /// Gives the file these bytes: written beside it, flushed to disk and renamed over it, so that a failure or a
-/// crash at any moment leaves the old file whole. Permissions, owner (where allowed) and symbolic links stay.
-/// With Staart::Blijft an existing longer file keeps its length and its old bytes behind the new ones. What
-/// is not a regular file (a terminal, a pipe) is written to directly. Fout 61 on a full disk or quota, 70
-/// without permission, 76 when the directory does not exist, 52 for an impossible name, 75 for any other
-/// failure; the Fout names the file.
+/// crash at any moment leaves the old file whole. Permissions, owner and group (where allowed) and symbolic
+/// links stay; a second name of the same file (a hard link) keeps the old bytes. A new file gets the
+/// permissions of any new file. With Staart::Blijft an existing longer file keeps its length and its old
+/// bytes behind the new ones. What is not a regular file (a terminal, a pipe) is written to directly. Fout 61
+/// on a full disk or quota, 70 without permission to the file or its directory, 76 when the directory does
+/// not exist, 52 for an impossible name, 75 for any other failure (a directory, a broken disk, links that go
+/// round); the Fout names the file as it was given. A failure leaves nothing beside the file, a killed
+/// program at most one file `~murvane-*`.
 void VervangBestand(const std::filesystem::path& pad, std::string_view bytes,
                     Staart staart = Staart::Vervalt);
 

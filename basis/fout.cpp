@@ -10,12 +10,16 @@ const char* Beschrijving(FoutNummer nummer) {
       return "Ongeldig argument";
     case FoutNummer::Overloop:
       return "Overloop: een getal is te groot of onbepaald";
+    case FoutNummer::OnvoldoendeGeheugen:
+      return "Onvoldoende geheugen";
     case FoutNummer::IndexBuitenBereik:
       return "Index buiten het bereik";
     case FoutNummer::DelingDoorNul:
       return "Deling door nul";
     case FoutNummer::GeenGetal:
       return "Geen geldig getal";
+    case FoutNummer::InterneFout:
+      return "Interne fout";
     case FoutNummer::OngeldigeBestandsnaam:
       return "Ongeldige bestandsnaam";
     case FoutNummer::BestandNietGevonden:

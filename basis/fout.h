@@ -9,11 +9,13 @@
 namespace murvane {
 
 enum class FoutNummer : int {
-  OngeldigArgument = 5,   ///< logarithm of zero or less, root of a negative number
-  Overloop = 6,           ///< a result, or a number met, is infinite or not a number
+  OngeldigArgument = 5,  ///< logarithm of zero or less, root of a negative number
+  Overloop = 6,          ///< a result, or a number met, is infinite or not a number
+  OnvoldoendeGeheugen = 7,
   IndexBuitenBereik = 9,  ///< a count above the size of its array
   DelingDoorNul = 11,
-  GeenGetal = 13,  ///< a text or a JSON value that should be a number and is not
+  GeenGetal = 13,    ///< a text or a JSON value that should be a number and is not
+  InterneFout = 51,  ///< what should not happen
   OngeldigeBestandsnaam = 52,
   BestandNietGevonden = 53,
   SchijfVol = 61,

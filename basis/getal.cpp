@@ -61,6 +61,63 @@ void RondAf(Decimalen& d, int n) {
   }
 }
 
+/// Powers of ten by the number of decimals of a format.
+constexpr std::array<double, 3> Schaal = {1, 10, 100};
+/// Up to here a scaled number is off by less than 1E-5, by its multiplication and by the rounding to 15
+/// digits together. Farther from a half than that, neither can change to which side it rounds, and
+/// whole-number arithmetic gives its digits. That is nearly every number; the others take the long way.
+constexpr double SnelTot = 1e9;
+constexpr double HalveMarge = 1e-4;
+
+/// The number in a display format at the end of `blanco`, whose characters are blanks; where it begins. Null
+/// when its rounding has to be looked at digit by digit.
+char* SchrijfSnel(std::array<char, 32>& blanco, double waarde, int decimalen, char decimaal) {
+  const double t = std::fabs(waarde) * Schaal[static_cast<std::size_t>(decimalen)];
+  if (!(t < SnelTot)) return nullptr;  // so too for not-a-number
+  auto n = static_cast<std::uint32_t>(t);
+  const double rest = t - n;
+  if (std::fabs(rest - 0.5) <= HalveMarge) return nullptr;
+  if (rest > 0.5) ++n;
+  const bool min = waarde < 0 && n != 0;
+  char* p = blanco.data() + blanco.size();
+  for (int i = 0; i < decimalen; ++i, n /= 10) *--p = static_cast<char>('0' + n % 10);
+  if (decimalen > 0) *--p = decimaal;
+  do {
+    *--p = static_cast<char>('0' + n % 10);
+    n /= 10;
+  } while (n != 0);
+  if (min) *--p = '-';
+  return p;
+}
+
+/// The rule of the display formats as it stands, digit by digit.
+void VoegAfgerondToe(std::string& uit, double waarde, int decimalen, char decimaal) {
+  if (!std::isfinite(waarde)) {
+    uit += NietEindig(waarde);
+    return;
+  }
+  Decimalen d = NaarDecimalen(std::fabs(waarde));
+  RondAf(d, d.punt + decimalen);
+  const auto cijfer = [&d](int plaats) {  // the digit at 10^-plaats-1 behind the decimal point
+    const int i = d.punt + plaats;
+    return i >= 0 && i < Cijfers ? d.cijfers[static_cast<std::size_t>(i)] : '0';
+  };
+  const std::size_t begin = uit.size();
+  bool nul = true;
+  const auto voegToe = [&](char c) {
+    nul = nul && c == '0';
+    uit += c;
+  };
+  if (d.punt <= 0) {
+    uit += '0';
+  } else {
+    for (int i = -d.punt; i < 0; ++i) voegToe(cijfer(i));
+  }
+  if (decimalen > 0) uit += decimaal;
+  for (int i = 0; i < decimalen; ++i) voegToe(cijfer(i));
+  if (waarde < 0 && !nul) uit.insert(begin, 1, '-');
+}
+
 bool IsCijfer(char c) {
   return c >= '0' && c <= '9';
 }
@@ -119,32 +176,24 @@ bool TeGroot(std::string_view getal) {
 
 }  // namespace
 
-void VoegOpmaakToe(std::string& uit, double waarde, Formaat formaat, char decimaal) {
-  if (!std::isfinite(waarde)) {
-    uit += NietEindig(waarde);
+void VoegRechtsToe(std::string& uit, double waarde, Formaat formaat, std::size_t breedte, char decimaal) {
+  const int decimalen = static_cast<int>(formaat);
+  std::array<char, 32> buffer;
+  buffer.fill(' ');
+  const char* const einde = buffer.data() + buffer.size();
+  if (const char* begin = SchrijfSnel(buffer, waarde, decimalen, decimaal);
+      begin && breedte <= buffer.size()) {
+    uit.append(std::min(begin, einde - breedte), einde);
     return;
   }
-  const int decimalen = static_cast<int>(formaat);
-  Decimalen d = NaarDecimalen(std::fabs(waarde));
-  RondAf(d, d.punt + decimalen);
-  const auto cijfer = [&d](int plaats) {  // the digit at 10^-plaats-1 behind the decimal point
-    const int i = d.punt + plaats;
-    return i >= 0 && i < Cijfers ? d.cijfers[static_cast<std::size_t>(i)] : '0';
-  };
   const std::size_t begin = uit.size();
-  bool nul = true;
-  const auto voegToe = [&](char c) {
-    nul = nul && c == '0';
-    uit += c;
-  };
-  if (d.punt <= 0) {
-    uit += '0';
-  } else {
-    for (int i = -d.punt; i < 0; ++i) voegToe(cijfer(i));
-  }
-  if (decimalen > 0) uit += decimaal;
-  for (int i = 0; i < decimalen; ++i) voegToe(cijfer(i));
-  if (waarde < 0 && !nul) uit.insert(begin, 1, '-');
+  VoegAfgerondToe(uit, waarde, decimalen, decimaal);
+  const std::size_t lengte = uit.size() - begin;
+  if (lengte < breedte) uit.insert(begin, breedte - lengte, ' ');
+}
+
+void VoegOpmaakToe(std::string& uit, double waarde, Formaat formaat, char decimaal) {
+  VoegRechtsToe(uit, waarde, formaat, 0, decimaal);
 }
 
 std::string Opmaak(double waarde, Formaat formaat, char decimaal) {

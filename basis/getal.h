@@ -2,6 +2,7 @@
 // Number formats: how a double becomes text on screen and on paper, and how typed text becomes a double.
 // The decimal sign is always handed in; nothing here looks at the process locale.
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -21,6 +22,8 @@ enum class Formaat : std::uint8_t {
 [[nodiscard]] std::string Opmaak(double waarde, Formaat formaat, char decimaal);
 /// The same, appended to `uit`.
 void VoegOpmaakToe(std::string& uit, double waarde, Formaat formaat, char decimaal);
+/// The same, with blanks in front up to `breedte` characters; a longer text is not cut.
+void VoegRechtsToe(std::string& uit, double waarde, Formaat formaat, std::size_t breedte, char decimaal);
 
 /// The default text form: at most 15 significant digits, no trailing zeros (as %.15G), e.g. "0.125", "1E+20".
 [[nodiscard]] std::string StandaardTekst(double waarde, char decimaal);

@@ -3,31 +3,19 @@
 #include "basis/bestand.h"
 #include "basis/fout.h"
 #include "basis/stroom.h"
+#include "catalogue/velden.h"
 
 namespace murvane {
 
 namespace {
-
-// The field order of each record, once for reading and writing.
-
-template <typename Stap>
-void Velden(auto& rec, Stap stap) requires requires {
-  rec.CatNaam;
-}
-{ stap(rec.CatNaam), stap(rec.CatDemp), stap(rec.CatRuis), stap(rec.PerMeter), stap(rec.CatExtra); }
-
-template <typename Stap>
-void Velden(auto& rec, Stap stap) requires requires {
-  rec.SpecNaam;
-}
-{ stap(rec.SpecNaam), stap(rec.SpecWaarde); }
 
 template <typename Cat, typename Stap>
 void AlleVelden(Cat& catalogus, Stap stap) {
   stap(catalogus.Aantal);
   for (int k = 1; k <= catalogus.Aantal; ++k) {
     if (k > MaxCatalogus) throw Fout(FoutNummer::IndexBuitenBereik);
-    Velden(catalogus.Records[static_cast<std::size_t>(k)], stap);
+    CatalogusVelden(catalogus.Records[static_cast<std::size_t>(k)],
+                    [&stap](std::string_view, auto& veld) { stap(veld); });
   }
 }
 

@@ -20,9 +20,10 @@ struct CatalogusInhoud {
   std::variant<ElementCatalogus, SpectrumCatalogus> Inhoud;
 };
 
+/// The kinds but the first hold a SpectrumCatalogus. Fout 9 for a count above 500.
 [[nodiscard]] std::string CatalogusNaarJson(const CatalogusInhoud& catalogus);
 
-/// Absent fields are 0 or blank. Faults as ProjectUitJson.
+/// Absent fields are 0 or blank. Faults as ProjectUitJson, and Fout 5 without exactly one of the four lists.
 [[nodiscard]] CatalogusInhoud CatalogusUitJson(std::string_view json);
 
 }  // namespace murvane

@@ -13,7 +13,7 @@ enum class VeldSoort { Tekst, Numeriek, Datum, Hoofdletters, KleineLetters };
 
 /// The rule of one input field. `Onder` and `Boven` apply to numeric fields only.
 struct VeldRegel {
-  std::string_view Naam;  ///< the control's name, without an index
+  std::string_view Naam;  ///< the control's name; an index only where the rules differ by it (txtfan)
   VeldSoort Soort;
   double Onder;
   double Boven;

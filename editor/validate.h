@@ -25,7 +25,8 @@ struct ProjectInvoer {
 
 /// Takes the fields over into the records, works out Lw's dB(A) sum and hands flow and section down the
 /// chain. Fout 13 for a band of txtLw that is not a number; Fout 6 for one that is too large or for a field
-/// that shows a stored value that is infinite or not a number.
+/// that shows a stored value that is infinite or not a number; Fout 9 for an ElementCount above 500. A fault
+/// leaves the project as it was.
 void NeemOver(Project& project, const ProjectInvoer& invoer, char decimaal);
 
 /// The tabs of the project window, in their order.
@@ -40,6 +41,7 @@ struct Bevinding {
 };
 
 /// Judges the records by the rules of a run; nothing when the project may be calculated. Changes nothing.
+/// Fout 9 for an ElementCount above 500.
 [[nodiscard]] std::optional<Bevinding> Beoordeel(const Project& project);
 
 /// Both steps: takes the fields over, then judges.

@@ -18,6 +18,7 @@ declare -A mag=(
   [cli]="basis project calc catalogue editor estimators reports shell cli"
 )
 for map in "${!mag[@]}"; do
+  [ -d "$map" ] || continue  # a folder without files yet is absent from a fresh clone
   while IFS=: read -r bestand regel; do
     [ -n "$bestand" ] || continue
     doel=$(sed -E 's/.*"([a-z]+)\/.*/\1/' <<< "$regel")
@@ -25,7 +26,11 @@ for map in "${!mag[@]}"; do
   done < <(grep -rHE '^#include "[a-z]+/' --include='*.h' --include='*.cpp' "$map" || true)
 done
 
-kern=$(find basis project calc catalogue editor estimators reports shell \( -name '*.h' -o -name '*.cpp' \) \
+mappen=()
+for map in basis project calc catalogue editor estimators reports shell; do
+  if [ -d "$map" ]; then mappen+=("$map"); fi
+done
+kern=$(find "${mappen[@]}" \( -name '*.h' -o -name '*.cpp' \) \
   ! -name 'frm*' ! -name 'MDI*' ! -name 'vensters*')
 # shellcheck disable=SC2086
 if grep -nE '^#include <Q' $kern; then meld "De kern gebruikt geen vensterbibliotheek."; fi

@@ -13,6 +13,10 @@ inline constexpr const char* InstellingenNaam = "murvane.set";
 /// The directory of the settings and catalogues when none is named: the current directory when it holds a
 /// murvane.set, else the data directory that came with the program.
 [[nodiscard]] std::filesystem::path StandaardDataMap();
+/// The rule behind it: the first of the current directory, "data" in the program's directory and
+/// "../share/murvane/data" beside it that holds the settings file; the program's "data" when none does.
+[[nodiscard]] std::filesystem::path DataMapVan(const std::filesystem::path& huidigeMap,
+                                               const std::filesystem::path& programmaMap);
 
 /// The project file that a command line names, taken whole as one path, in double quotes or not (UTF-8 in and
 /// out). Empty unless its last three characters are "mrv" in any case.

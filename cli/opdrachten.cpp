@@ -1,0 +1,78 @@
+#include "cli/opdrachten.h"
+
+#include <ostream>
+
+#include "basis/fout.h"
+#include "cli/help.h"
+#include "shell/startup.h"
+#include "versie.h"
+
+namespace murvane {
+
+namespace {
+
+int Voer(const Keuzes& keuzes, Kanalen& kanalen) {
+  switch (keuzes.Wat) {
+    case Opdracht::Programma:
+      break;
+    case Opdracht::Reken:
+      return VoerReken(keuzes, kanalen);
+    case Opdracht::Controleer:
+      return VoerControleer(keuzes, kanalen);
+    case Opdracht::Toon:
+      return VoerToon(keuzes, kanalen);
+    case Opdracht::Maak:
+      return VoerMaak(keuzes, kanalen);
+    case Opdracht::CatalogusToon:
+      return VoerCatalogusToon(keuzes, kanalen);
+    case Opdracht::CatalogusMaak:
+      return VoerCatalogusMaak(keuzes, kanalen);
+  }
+  return status::Klaar;
+}
+
+int OntleedEnVoer(Opdracht opdracht, const std::vector<std::string>& argumenten, Kanalen& kanalen) {
+  const Keuzes keuzes = Ontleed(opdracht, argumenten);
+  if (keuzes.Heeft(Optie::Help)) {
+    kanalen.uit << HelpTekst(opdracht);
+  } else if (keuzes.Heeft(Optie::Versie)) {
+    kanalen.uit << "MurVane " << VersieTekst << "\n";
+  } else {
+    return Voer(keuzes, kanalen);
+  }
+  return status::Klaar;
+}
+
+/// Results that did not arrive are a fault, whatever the command itself made of it.
+void EisGeschreven(std::ostream& uit) {
+  if (!uit.flush())
+    throw Fout(FoutNummer::SchijfVol, "Schijf vol of uitvoer gesloten", {}, "standaarduitvoer");
+}
+
+}  // namespace
+
+int VoerOpdrachtUit(std::vector<std::string> argumenten, std::ostream& uit, std::ostream& err,
+                    bool terminal) {
+  Kanalen kanalen{uit, err, terminal};
+  Opdracht opdracht = Opdracht::Programma;
+  Uitslag uitslag = Bewaakt("murvane-cli", [&] {
+    opdracht = NeemOpdracht(argumenten);
+    return Uitslag{OntleedEnVoer(opdracht, argumenten, kanalen), {}};
+  });
+  if (uitslag.Status == status::VerkeerdGebruik) uitslag.Melding += "\n" + HelpVerwijzing(opdracht);
+  Meld(uitslag, kanalen);
+  const Uitslag geschreven = Bewaakt("murvane-cli", [&uit] {
+    EisGeschreven(uit);
+    return Uitslag{};
+  });
+  Meld(geschreven, kanalen);
+  return Zwaarste(uitslag.Status, geschreven.Status);
+}
+
+char Decimaalteken(const Keuzes& keuzes) {
+  const auto& keuze = keuzes.Waarde(Optie::Decimaal);
+  if (!keuze) return RegionaalDecimaalteken();
+  return *keuze == "komma" ? ',' : '.';
+}
+
+}  // namespace murvane

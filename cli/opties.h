@@ -1,0 +1,141 @@
+#pragma once
+// cli/: the command-line programs, without a toolkit. murvane-cli is a main function around the commands in
+// opdrachten.h, which tests call in-process.
+// This header: every command and option in one table. It feeds the parser and the help texts. Texts are
+// UTF-8.
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <initializer_list>
+#include <string_view>
+
+namespace murvane {
+
+/// The commands. Programma stands for a command line without one.
+enum class Opdracht : std::uint8_t { Programma, Reken, Controleer, Toon, Maak, CatalogusToon, CatalogusMaak };
+
+struct OpdrachtRegel {
+  Opdracht Code;
+  std::string_view Naam;      ///< as typed, one or two words
+  std::string_view Argument;  ///< what its file argument is called; empty when it has none
+  bool Meer;                  ///< takes more than one file
+  std::string_view Kort;      ///< one line for the list of commands
+  std::string_view Uitleg;    ///< a paragraph for its own help
+};
+
+inline constexpr std::array Opdrachten = {
+    OpdrachtRegel{
+        Opdracht::Programma, "", "", false, "",
+        "Berekent geluidsniveaus van luchttechnische installaties volgens ISSO-publicatie 24 en VDI 2081."},
+    OpdrachtRegel{
+        Opdracht::Reken, "reken", "PROJECT.mrv", true, "controleert en berekent projecten",
+        "Controleert en berekent projecten. Zonder opties verschijnt het rapport van elk project op de "
+        "standaarduitvoer. Een bestandsnaam - achter --prn of --json is de standaarduitvoer."},
+    OpdrachtRegel{
+        Opdracht::Controleer, "controleer", "PROJECT.mrv", true, "controleert projecten zonder te rekenen",
+        "Controleert projecten zoals voor een berekening, zonder te rekenen. Elk project dat berekend kan "
+        "worden, wordt gemeld als \"in orde\"."},
+    OpdrachtRegel{Opdracht::Toon, "toon", "PROJECT.mrv", false, "toont een project als JSON",
+                  "Toont een project als JSON, zonder verlies."},
+    OpdrachtRegel{Opdracht::Maak, "maak", "PROJECT.json", false, "maakt een project uit JSON",
+                  "Maakt een projectbestand uit JSON. Velden die ontbreken, zijn 0 of leeg."},
+    OpdrachtRegel{Opdracht::CatalogusToon, "catalogus toon", "BESTAND.dat", false,
+                  "toont een catalogus als JSON",
+                  "Toont een catalogus als JSON, zonder verlies. De soort volgt uit de bestandsnaam "
+                  "(Duct.dat, Fan.dat, "
+                  "Rduct.dat of Rplaf.dat), uit --soort of, als het kan, uit de lengte van het bestand."},
+    OpdrachtRegel{Opdracht::CatalogusMaak, "catalogus maak", "BESTAND.json", false,
+                  "maakt een catalogus uit JSON",
+                  "Maakt een catalogusbestand uit JSON. De soort volgt uit de lijst in de JSON."},
+};
+
+enum class Optie : std::uint8_t {
+  Prn,
+  Json,
+  Uit,
+  Taken,
+  UitvoerToon,
+  UitvoerMaak,
+  Soort,
+  Data,
+  Decimaal,
+  Versie,
+  Help
+};
+
+/// The commands that know an option, a bit for each.
+using Opdrachtenset = std::uint8_t;
+
+constexpr Opdrachtenset Bij(std::initializer_list<Opdracht> opdrachten) {
+  unsigned uit = 0;
+  for (const Opdracht opdracht : opdrachten) uit |= 1U << static_cast<unsigned>(opdracht);
+  return static_cast<Opdrachtenset>(uit);
+}
+inline constexpr Opdrachtenset BijAlle = 0x7F;
+
+struct OptieRegel {
+  Optie Code;
+  Opdrachtenset Van;
+  std::string_view Namen;     ///< separated by commas, as "-h,--help"
+  std::string_view Argument;  ///< what its value is called; empty for an option without one
+  bool Verplicht;
+  std::string_view Uitleg;
+};
+
+/// In the order of Optie.
+inline constexpr std::array Opties = {
+    OptieRegel{Optie::Prn, Bij({Opdracht::Reken}), "--prn", "BESTAND", false,
+               "schrijft het rapport als *.prn-bestand (Windows-1252); alleen bij één project"},
+    OptieRegel{Optie::Json, Bij({Opdracht::Reken}), "--json", "BESTAND", false,
+               "schrijft de resultaten onafgerond als JSON; alleen bij één project"},
+    OptieRegel{Optie::Uit, Bij({Opdracht::Reken}), "--uit", "MAP", false,
+               "schrijft van elk project NAAM.prn en NAAM.json in deze map, die zo nodig wordt gemaakt"},
+    OptieRegel{Optie::Taken, Bij({Opdracht::Reken}), "--taken", "AANTAL", false,
+               "rekent met --uit aan zoveel projecten tegelijk; zonder deze optie met alle processorkernen"},
+    OptieRegel{Optie::UitvoerToon, Bij({Opdracht::Toon, Opdracht::CatalogusToon}), "-o", "BESTAND", false,
+               "schrijft naar dit bestand in plaats van naar de standaarduitvoer"},
+    OptieRegel{Optie::UitvoerMaak, Bij({Opdracht::Maak, Opdracht::CatalogusMaak}), "-o", "BESTAND", true,
+               "het bestand dat wordt geschreven; een - is de standaarduitvoer"},
+    OptieRegel{Optie::Soort, Bij({Opdracht::CatalogusToon}), "--soort", "SOORT", false,
+               "kanaalelementen, ventilatoren, luchtkanalen of plafonds; gaat voor de bestandsnaam"},
+    OptieRegel{Optie::Data, BijAlle, "--data", "MAP", false,
+               "de map van murvane.set; zonder deze optie de huidige map als die er een heeft, anders de map "
+               "data van "
+               "het programma"},
+    OptieRegel{Optie::Decimaal, BijAlle, "--decimaal", "punt|komma", false,
+               "het decimaalteken in rapporten; zonder deze optie dat van de landinstelling"},
+    OptieRegel{Optie::Versie, BijAlle, "--versie,--version", "", false, "toont de versie van het programma"},
+    OptieRegel{Optie::Help, BijAlle, "-h,--help", "", false, "toont deze hulp"},
+};
+
+inline constexpr std::size_t AantalOpties = Opties.size();
+
+constexpr bool Kent(const OptieRegel& optie, Opdracht opdracht) {
+  return (optie.Van >> static_cast<unsigned>(opdracht) & 1U) != 0;
+}
+
+constexpr const OpdrachtRegel& RegelVan(Opdracht opdracht) {
+  return Opdrachten[static_cast<std::size_t>(opdracht)];
+}
+constexpr const OptieRegel& RegelVan(Optie optie) {
+  return Opties[static_cast<std::size_t>(optie)];
+}
+
+/// The first of an option's names.
+constexpr std::string_view EersteNaam(const OptieRegel& optie) {
+  return optie.Namen.substr(0, optie.Namen.find(','));
+}
+
+/// Whether `naam` is one of an option's names.
+constexpr bool Heet(const OptieRegel& optie, std::string_view naam) {
+  std::string_view rest = optie.Namen;
+  while (!rest.empty()) {
+    const std::size_t komma = rest.find(',');
+    if (rest.substr(0, komma) == naam) return true;
+    rest = komma == std::string_view::npos ? std::string_view() : rest.substr(komma + 1);
+  }
+  return false;
+}
+
+}  // namespace murvane

@@ -1,0 +1,79 @@
+// The commands controleer, toon and maak.
+
+#include <ostream>
+
+#include "basis/bestand.h"
+#include "basis/fout.h"
+#include "cli/opdrachten.h"
+#include "cli/uitvoer.h"
+#include "editor/validate.h"
+#include "project/projectfile.h"
+#include "project/projectjson.h"
+
+namespace murvane {
+
+namespace {
+
+Uitslag Controleer(const std::string& naam, char decimaal, Kanalen& kanalen) {
+  return Bewaakt(naam, [&]() -> Uitslag {
+    Project project = LeesProjectVan(naam);
+    if (const auto bevinding = CheckIt(project, InvoerVan(project, decimaal), decimaal))
+      return {status::Geweigerd, naam + ": " + NaarUtf8(bevinding->Melding)};
+    kanalen.uit << naam + ": in orde\n";
+    return {};
+  });
+}
+
+Project LeesProjectJson(const std::string& naam) {
+  const std::string json = LeesBestand(PadVan(naam));
+  try {
+    return ProjectUitJson(json);
+  } catch (const Fout& fout) {
+    throw fout.MetBestand(naam);
+  }
+}
+
+/// The image of a project that goes to standard output; a fault in it is one of the project.
+std::string Bytes(const Project& project, const std::string& naam) {
+  try {
+    return ProjectBytes(project);
+  } catch (const Fout& fout) {
+    throw fout.MetBestand(naam);
+  }
+}
+
+}  // namespace
+
+int VoerControleer(const Keuzes& keuzes, Kanalen& kanalen) {
+  const char decimaal = Decimaalteken(keuzes);
+  int code = status::Klaar;
+  for (const std::string& naam : keuzes.Bestanden) {
+    const Uitslag uitslag = Controleer(naam, decimaal, kanalen);
+    Meld(uitslag, kanalen);
+    code = Zwaarste(code, uitslag.Status);
+  }
+  return code;
+}
+
+int VoerToon(const Keuzes& keuzes, Kanalen& kanalen) {
+  const std::string& naam = keuzes.Bestanden.front();
+  const std::string uitvoer = keuzes.Waarde(Optie::UitvoerToon).value_or(std::string(Standaarduitvoer));
+  WeigerOverschrijven(naam, uitvoer);
+  SchrijfNaar(uitvoer, ProjectNaarJson(LeesProjectVan(naam)), kanalen);
+  return status::Klaar;
+}
+
+int VoerMaak(const Keuzes& keuzes, Kanalen& kanalen) {
+  const std::string& naam = keuzes.Bestanden.front();
+  const std::string uitvoer = *keuzes.Waarde(Optie::UitvoerMaak);
+  WeigerOverschrijven(naam, uitvoer);
+  const Project project = LeesProjectJson(naam);
+  if (uitvoer == Standaarduitvoer) {
+    kanalen.uit << Bytes(project, naam);
+  } else {
+    SchrijfProject(project, PadVan(uitvoer));
+  }
+  return status::Klaar;
+}
+
+}  // namespace murvane

@@ -1,0 +1,19 @@
+#pragma once
+// What the main function needs of the operating system.
+
+#include <string>
+#include <vector>
+
+namespace murvane {
+
+/// The arguments behind the program's name, as UTF-8 where the system has its own form for them.
+[[nodiscard]] std::vector<std::string> Argumenten(int argc, char** argv);
+
+/// Makes standard output and error fit to write to: bytes as they are, UTF-8, and never a file that was
+/// opened later where they had been closed.
+void BereidUitvoerVoor();
+
+/// Whether standard error is a terminal.
+[[nodiscard]] bool FoutuitvoerIsTerminal();
+
+}  // namespace murvane

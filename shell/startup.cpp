@@ -1,0 +1,107 @@
+#include "shell/startup.h"
+
+#include <array>
+#include <system_error>
+
+#include "basis/bestand.h"
+
+#ifdef _WIN32
+#define WIN32_LEAN_AND_MEAN
+#include <windows.h>
+#else
+#include <langinfo.h>
+#include <locale.h>
+#if defined(__SANITIZE_ADDRESS__)
+#define MURVANE_LEKZOEKER
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define MURVANE_LEKZOEKER
+#endif
+#endif
+#ifdef MURVANE_LEKZOEKER
+#include <sanitizer/lsan_interface.h>
+#endif
+#endif
+
+namespace murvane {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+bool HeeftInstellingen(const fs::path& map) {
+  std::error_code geen;
+  return fs::is_regular_file(map / InstellingenNaam, geen);
+}
+
+/// Only the letters of "mrv" matter, so bytes above 7F stay as they are.
+char KleineLetter(char c) {
+  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+bool IsProjectNaam(std::string_view pad) {
+  constexpr std::string_view Soort = "mrv";
+  if (pad.size() < Soort.size()) return false;
+  const std::string_view einde = pad.substr(pad.size() - Soort.size());
+  for (std::size_t i = 0; i < Soort.size(); ++i) {
+    if (KleineLetter(einde[i]) != Soort[i]) return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+fs::path DataMapVan(const fs::path& huidigeMap, const fs::path& programmaMap) {
+  const fs::path eigen = programmaMap / "data";
+  const fs::path gedeeld = (programmaMap / ".." / "share" / "murvane" / "data").lexically_normal();
+  for (const fs::path& map : {huidigeMap, eigen, gedeeld}) {
+    if (HeeftInstellingen(map)) return map;
+  }
+  return eigen;
+}
+
+fs::path StandaardDataMap() {
+  std::error_code geen;
+  return DataMapVan(fs::current_path(geen), ProgrammaMap());
+}
+
+std::string OpenBestandUit(std::string_view opdrachtregel) {
+  std::string_view pad = opdrachtregel;
+  if (pad.size() >= 2 && pad.front() == '"' && pad.back() == '"') pad = pad.substr(1, pad.size() - 2);
+  return IsProjectNaam(pad) ? std::string(pad) : std::string();
+}
+
+#ifdef _WIN32
+
+char RegionaalDecimaalteken() {
+  std::array<wchar_t, 8> teken{};
+  const int lengte = GetLocaleInfoEx(LOCALE_NAME_USER_DEFAULT, LOCALE_SDECIMAL, teken.data(),
+                                     static_cast<int>(teken.size()));
+  return lengte == 2 && teken[0] == L',' ? ',' : '.';  // the length counts the closing NUL
+}
+
+#else
+
+namespace {
+
+/// The region of the environment's numbers; none when the environment names one that is not installed.
+locale_t OpenRegio() {
+#ifdef MURVANE_LEKZOEKER
+  const __lsan::ScopedDisabler geen;  // the C library loses its copy of LOCPATH, when that is set
+#endif
+  return newlocale(LC_NUMERIC_MASK, "", locale_t{});
+}
+
+}  // namespace
+
+char RegionaalDecimaalteken() {
+  const locale_t regio = OpenRegio();
+  if (regio == locale_t{}) return '.';
+  const bool komma = std::string_view(nl_langinfo_l(RADIXCHAR, regio)) == ",";
+  freelocale(regio);
+  return komma ? ',' : '.';
+}
+
+#endif
+
+}  // namespace murvane

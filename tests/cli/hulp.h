@@ -1,0 +1,142 @@
+#pragma once
+// What the tests of the command line share: a directory of their own, small projects, and a run in-process.
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <limits>
+#include <sstream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "basis/bestand.h"
+#include "basis/tekst.h"
+#include "cli/opdrachten.h"
+#include "project/projectfile.h"
+#include "project/records.h"
+#include "shell/settings.h"
+#include "shell/startup.h"
+
+namespace murvane::clitest {
+
+/// A fresh directory, with blanks and accents in its name, that goes with the test. It holds a murvane.set.
+class Proefmap {
+ public:
+  Proefmap() {
+    for (int i = 0; map_.empty(); ++i) {
+      const auto map =
+          std::filesystem::temp_directory_path() / PadVan("murvane cli é ü " + std::to_string(i));
+      if (std::filesystem::create_directory(map)) map_ = map;
+    }
+    Instellingen instellingen;
+    ZetGebruikersnaam(instellingen, "Bureau één"_cp);
+    SchrijfInstellingen(instellingen, map_ / InstellingenNaam);
+  }
+  Proefmap(const Proefmap&) = delete;
+  Proefmap& operator=(const Proefmap&) = delete;
+  ~Proefmap() {
+    std::error_code geen;
+    std::filesystem::remove_all(map_, geen);
+  }
+
+  /// The path of a file in it, as a command line has it.
+  [[nodiscard]] std::string operator/(std::string_view naam) const { return PadTekst(map_ / PadVan(naam)); }
+  [[nodiscard]] std::string Naam() const { return PadTekst(map_); }
+
+  /// Saves a project under a name that may have directories.
+  std::string Zet(const Project& project, std::string_view naam) const {
+    const auto pad = map_ / PadVan(naam);
+    std::filesystem::create_directories(pad.parent_path());
+    const std::string bytes = ProjectBytes(project);
+    std::ofstream(pad, std::ios::binary) << bytes;
+    return PadTekst(pad);
+  }
+  std::string ZetBytes(std::string_view bytes, std::string_view naam) const {
+    std::ofstream(map_ / PadVan(naam), std::ios::binary) << bytes;
+    return *this / naam;
+  }
+  [[nodiscard]] bool Heeft(std::string_view naam) const {
+    return std::filesystem::exists(map_ / PadVan(naam));
+  }
+  [[nodiscard]] std::string Lees(std::string_view naam) const { return LeesBestand(map_ / PadVan(naam)); }
+
+ private:
+  std::filesystem::path map_;
+};
+
+/// A duct and an outlet to a room, complete: it passes the checks and its run ends well.
+inline Project GoedProject(std::string_view naam = "Proefproject",
+                           std::int16_t type = rekentype::Installatiegeluid) {
+  Project project;
+  project.Kop.ProNaam = naam;
+  project.Kop.RekenType = type;
+  project.Fan.FanNaam = "Toevoerventilator";
+  for (std::size_t b = 0; b < Banden; ++b) project.Fan.Lw[b] = 80 - 2 * static_cast<double>(b);
+  project.Fan.FanDebiet = 1;
+  project.ElementCount = 2;
+  ElementRec& kanaal = project.Elementen[1];
+  kanaal.Naam = "Kanaal rechthoekig";
+  kanaal.ElementType = elementtype::KanaalRecht;
+  kanaal.Hoogte = 400;
+  kanaal.Breedte = 500;
+  kanaal.Lengte = 5;
+  kanaal.Debiet = 1;
+  ElementRec& rooster = project.Elementen[2];
+  rooster.Naam = "Rooster";
+  rooster.ElementType = elementtype::Rooster;
+  rooster.Snetto = 1000;
+  rooster.Weerstand = 20;
+  RuimteRec& ruimte = project.Ruimte;
+  ruimte.RLengte = 5;
+  ruimte.RBreedte = 4;
+  ruimte.RHoogte = 3;
+  ruimte.RNagalm = 0.6;
+  ruimte.RDI = 2;
+  ruimte.RNR = 35;
+  ruimte.RAantal = 2;
+  return project;
+}
+
+/// Refused by the checks with "Geen kanaalelementen ingevoerd".
+inline Project ZonderElementen() {
+  Project project = GoedProject();
+  project.ElementCount = 0;
+  return project;
+}
+
+/// Ends in Fout 6: a level that is not a finite number.
+inline Project MetOneindig() {
+  Project project = GoedProject();
+  project.Fan.Lw[3] = std::numeric_limits<double>::infinity();
+  return project;
+}
+
+struct Afloop {
+  int Code = -1;
+  std::string Uit, Err;
+};
+
+inline Afloop Draai(const std::vector<std::string>& argumenten, bool terminal = false) {
+  std::ostringstream uit;
+  std::ostringstream err;
+  const int code = VoerOpdrachtUit(argumenten, uit, err, terminal);
+  return {code, uit.str(), err.str()};
+}
+
+/// `reken` with the settings of the directory and a fixed decimal sign.
+inline Afloop Reken(const Proefmap& map, std::vector<std::string> argumenten, bool terminal = false) {
+  argumenten.insert(argumenten.begin(), "reken");
+  argumenten.insert(argumenten.end(), {"--data", map.Naam(), "--decimaal", "komma"});
+  return Draai(argumenten, terminal);
+}
+
+/// Accepts nothing, as a full disk or a closed pipe.
+class Dicht : public std::streambuf {
+ protected:
+  int overflow(int) override { return traits_type::eof(); }
+  std::streamsize xsputn(const char*, std::streamsize) override { return 0; }
+  int sync() override { return -1; }
+};
+
+}  // namespace murvane::clitest

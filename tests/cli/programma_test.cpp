@@ -1,0 +1,78 @@
+// The program itself as a process: what its main function adds to the commands.
+
+#include <gtest/gtest.h>
+
+#ifndef _WIN32
+
+#include <sys/wait.h>
+
+#include <cstdlib>
+
+#include "tests/cli/hulp.h"
+
+namespace murvane::clitest {
+namespace {
+
+/// Runs a shell line in which $CLI is the program; the exit status.
+int Shell(const Proefmap& map, const std::string& regel) {
+  const std::string heel = "CLI='" MURVANE_CLI "'; cd '" + map.Naam() + "' && " + regel;
+  const int status = std::system(heel.c_str());  // NOLINT(cert-env33-c)
+  return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+TEST(Programma, PassesOnTheExitStatusAndBothChannels) {
+  const Proefmap map;
+  const std::string goed = map.Zet(GoedProject(), "goed é.mrv");
+  map.Zet(ZonderElementen(), "leeg.mrv");
+  EXPECT_EQ(Shell(map, "\"$CLI\" reken 'goed é.mrv' --decimaal komma >uit 2>err"), 0);
+  EXPECT_EQ(map.Lees("uit"), Reken(map, {goed}).Uit);
+  EXPECT_EQ(map.Lees("err"), "");
+  EXPECT_EQ(Shell(map, "\"$CLI\" reken weg.mrv >uit 2>err"), 1);
+  EXPECT_EQ(map.Lees("err"), "weg.mrv: Fout 53 - Bestand niet gevonden.\n");
+  EXPECT_EQ(Shell(map, "\"$CLI\" reken leeg.mrv >uit 2>err"), 2);
+  EXPECT_EQ(map.Lees("err"), "leeg.mrv: Geen kanaalelementen ingevoerd\n");
+  EXPECT_EQ(Shell(map, "\"$CLI\" >uit 2>err"), 64);
+  EXPECT_EQ(map.Lees("uit"), "");
+}
+
+TEST(Programma, ShowsNoProgressInAFile) {
+  const Proefmap map;
+  map.Zet(GoedProject(), "a.mrv");
+  EXPECT_EQ(Shell(map, "\"$CLI\" reken a.mrv --uit u >uit 2>err"), 0);
+  EXPECT_EQ(map.Lees("uit") + map.Lees("err"), "");
+}
+
+TEST(Programma, AClosedOrFullStandardOutputIsFault61) {
+  const Proefmap map;
+  map.Zet(GoedProject(), "a.mrv");
+  EXPECT_EQ(Shell(map, "\"$CLI\" reken a.mrv >&- 2>err"), 1);
+  EXPECT_EQ(map.Lees("err"), "standaarduitvoer: Fout 61 - Schijf vol of uitvoer gesloten.\n");
+#ifdef __linux__
+  for (const char* opdracht : {"reken a.mrv", "toon a.mrv", "controleer a.mrv", "--help"}) {
+    EXPECT_EQ(Shell(map, "\"$CLI\" " + std::string(opdracht) + " >/dev/full 2>err"), 1) << opdracht;
+    EXPECT_EQ(map.Lees("err"), "standaarduitvoer: Fout 61 - Schijf vol of uitvoer gesloten.\n");
+  }
+#endif
+}
+
+TEST(Programma, ClosedChannelsNeverWriteIntoAFile) {
+  const Proefmap map;
+  map.Zet(GoedProject(), "a.mrv");
+  map.Zet(ZonderElementen(), "leeg.mrv");
+  EXPECT_EQ(Shell(map, "\"$CLI\" toon a.mrv -o a.json <&- >&- 2>&-"), 0);
+  EXPECT_EQ(map.Lees("a.json"), Draai({"toon", map / "a.mrv"}).Uit);
+  EXPECT_EQ(Shell(map, "\"$CLI\" reken leeg.mrv a.mrv --uit u --taken 2 --decimaal komma <&- >&- 2>&-"), 2);
+  EXPECT_EQ(map.Lees("u/a.prn"), Reken(map, {map / "a.mrv", "--prn", "-"}).Uit);
+}
+
+TEST(Programma, PrnOnStandardOutputIsBytes) {
+  const Proefmap map;
+  map.Zet(GoedProject("Café"_cp), "a.mrv");
+  EXPECT_EQ(Shell(map, "\"$CLI\" reken a.mrv --prn - --decimaal komma >uit"), 0);
+  EXPECT_EQ(map.Lees("uit"), Reken(map, {map / "a.mrv", "--prn", "-"}).Uit);
+}
+
+}  // namespace
+}  // namespace murvane::clitest
+
+#endif
