@@ -118,6 +118,32 @@ void VoegAfgerondToe(std::string& uit, double waarde, int decimalen, char decima
   if (waarde < 0 && !nul) uit.insert(begin, 1, '-');
 }
 
+/// The default text form of a number with at most three decimals and nine digits before them, which is nearly
+/// every typed one; null for any other. A double that is the nearest one to such a decimal number reads as
+/// that number at 15 digits.
+char* SchrijfKort(char* naar, double waarde, char decimaal) {
+  constexpr std::array<double, 4> Macht = {1, 10, 100, 1000};
+  const double grootte = std::fabs(waarde);
+  if (!(grootte < SnelTot)) return nullptr;
+  for (std::size_t decimalen = 0; decimalen < Macht.size(); ++decimalen) {
+    auto n = static_cast<std::uint64_t>(grootte * Macht[decimalen] + 0.5);
+    if (static_cast<double>(n) / Macht[decimalen] != grootte) continue;
+    std::array<char, 16> cijfers;
+    char* const einde = cijfers.data() + cijfers.size();
+    char* p = einde;
+    for (std::size_t i = 0; i < decimalen; ++i, n /= 10) *--p = static_cast<char>('0' + n % 10);
+    if (decimalen > 0) *--p = decimaal;
+    do {
+      *--p = static_cast<char>('0' + n % 10);
+      n /= 10;
+    } while (n != 0);
+    if (waarde < 0) *--p = '-';
+    while (p != einde) *naar++ = *p++;
+    return naar;
+  }
+  return nullptr;
+}
+
 bool IsCijfer(char c) {
   return c >= '0' && c <= '9';
 }
@@ -202,19 +228,22 @@ std::string Opmaak(double waarde, Formaat formaat, char decimaal) {
   return uit;
 }
 
-std::string StandaardTekst(double waarde, char decimaal) {
-  if (!std::isfinite(waarde)) return NietEindig(waarde);
-  if (waarde == 0) return "0";
-  std::array<char, 32> buffer;
-  const auto einde =
-      std::to_chars(buffer.data(), buffer.data() + buffer.size(), waarde, std::chars_format::general, Cijfers)
-          .ptr;
-  std::string uit(buffer.data(), einde);
-  for (char& c : uit) {
-    if (c == '.') c = decimaal;
-    if (c == 'e') c = 'E';
+char* SchrijfStandaard(char* naar, double waarde, char decimaal) {
+  if (!std::isfinite(waarde)) {
+    const std::string_view tekst = NietEindig(waarde);
+    return std::copy(tekst.begin(), tekst.end(), naar);
   }
-  return uit;
+  if (char* const einde = SchrijfKort(naar, waarde, decimaal)) return einde;
+  char* const einde =
+      std::to_chars(naar, naar + StandaardLengte, waarde, std::chars_format::general, Cijfers).ptr;
+  std::replace(naar, einde, '.', decimaal);
+  std::replace(naar, einde, 'e', 'E');
+  return einde;
+}
+
+std::string StandaardTekst(double waarde, char decimaal) {
+  std::array<char, StandaardLengte> tekst;
+  return {tekst.data(), SchrijfStandaard(tekst.data(), waarde, decimaal)};
 }
 
 double RondEven(double waarde) {

@@ -27,6 +27,9 @@ void VoegRechtsToe(std::string& uit, double waarde, Formaat formaat, std::size_t
 
 /// The default text form: at most 15 significant digits, no trailing zeros (as %.15G), e.g. "0.125", "1E+20".
 [[nodiscard]] std::string StandaardTekst(double waarde, char decimaal);
+/// The same, written at `naar`, where at least StandaardLengte characters fit; the end of the text.
+char* SchrijfStandaard(char* naar, double waarde, char decimaal);
+inline constexpr std::size_t StandaardLengte = 24;
 
 /// The nearest whole number, a half to the even one. Used only where the rules say so (fan efficiency).
 [[nodiscard]] double RondEven(double waarde);

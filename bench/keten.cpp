@@ -17,8 +17,8 @@ ElementRec MaakElement(int i, std::int16_t type) {
   e.Breedte = type == 2 || type == 5 || type == 7 || type == 9 ? 0 : 400;
   e.HHoofd = 400, e.BHoofd = 500;
   e.HDoor = 300 + i % 2 * 150, e.BDoor = 450;
-  e.Lengte = 0.8 + i % 5 * 0.7;
-  e.Debiet = 0.45 + i % 4 * 0.01;
+  e.Lengte = (8 + i % 5 * 7) / 10.0;  // as typed, with one decimal
+  e.Debiet = (45 + i % 4) / 100.0;
   e.QAftak = 0.44;
   e.RAftak = 0.12;
   e.Snetto = 350;

@@ -16,27 +16,46 @@ using BandRij = std::array<double, Banden>;
 
 // ---- report texts ----
 
-std::string RondTekst(double diameter, char decimaal) {
-  return "diam = " + StandaardTekst(diameter, decimaal) + " mm";
-}
+/// Writes the four report texts of an element; a row that is not written stays blank.
+class Rijen {
+ public:
+  Rijen(ElementTekstRijen& tekst, char decimaal) : tekst_(tekst), decimaal_(decimaal) {
+    tekst_.fill(Tekst<20>{""});
+  }
 
-std::string RechtTekst(double hoogte, double breedte, char decimaal) {
-  return std::string("h×b = "_cp) + StandaardTekst(hoogte, decimaal) + std::string("×"_cp) +
-         StandaardTekst(breedte, decimaal) + " mm";
-}
+  void Maat(bool rond, double hoogte, double breedte) {
+    if (rond) return Waarde(0, "diam = ", hoogte, " mm");
+    Woord("h×b = "_cp);
+    Getal(hoogte);
+    Woord("×"_cp);
+    Getal(breedte);
+    Woord(" mm");
+    Sluit(0);
+  }
+  void Debiet(double debiet) { Waarde(1, "q = ", debiet, " m³/s"_cp); }
+  void Lengte(double lengte) { Waarde(2, "l = ", lengte, " m"); }
+  void Waarde(std::size_t rij, std::string_view voor, double waarde, std::string_view eenheid) {
+    Woord(voor);
+    Getal(waarde);
+    Woord(eenheid);
+    Sluit(rij);
+  }
 
-std::string MaatTekst(bool rond, double hoogte, double breedte, char decimaal) {
-  return rond ? RondTekst(hoogte, decimaal) : RechtTekst(hoogte, breedte, decimaal);
-}
+ private:
+  void Woord(std::string_view woord) {
+    for (const char c : woord) *p_++ = c;
+  }
+  void Getal(double waarde) { p_ = SchrijfStandaard(p_, waarde, decimaal_); }
+  void Sluit(std::size_t rij) {
+    tekst_[rij] = std::string_view(regel_.data(), static_cast<std::size_t>(p_ - regel_.data()));
+    p_ = regel_.data();
+  }
 
-std::string DebietTekst(double debiet, char decimaal) {
-  return "q = " + StandaardTekst(debiet, decimaal) + std::string(" m³/s"_cp);
-}
-
-void ZetRijen(ElementTekstRijen& tekst, std::string_view een, std::string_view twee,
-              std::string_view drie = {}, std::string_view vier = {}) {
-  tekst[0] = een, tekst[1] = twee, tekst[2] = drie, tekst[3] = vier;
-}
+  ElementTekstRijen& tekst_;
+  char decimaal_;
+  std::array<char, 2 * StandaardLengte + 16> regel_;  // two numbers and the words around them
+  char* p_ = regel_.data();
+};
 
 // ---- size classes ----
 
@@ -153,8 +172,10 @@ void ReKan(ElementRec& e, ElementTekstRijen& tekst, char decimaal) {
   const bool rond = e.ElementType == elementtype::KanaalRond;
   EisEindig({e.Hoogte, rond ? 0 : e.Breedte, e.Lengte, e.Debiet});
   const double S = Oppervlak(e.Hoogte, e.Breedte, rond);
-  ZetRijen(tekst, MaatTekst(rond, e.Hoogte, e.Breedte, decimaal), DebietTekst(e.Debiet, decimaal),
-           "l = " + StandaardTekst(e.Lengte, decimaal) + " m");
+  Rijen rijen(tekst, decimaal);
+  rijen.Maat(rond, e.Hoogte, e.Breedte);
+  rijen.Debiet(e.Debiet);
+  rijen.Lengte(e.Lengte);
   const double v = Deel(e.Debiet, S);
   if (e.Lengte < 0.5) {
     e.demp.fill(0);
@@ -176,9 +197,11 @@ void Rooster(ElementRec& e, const RuimteRec& ruimte, std::int16_t rekenType, Ele
   EisEindig({e.Hoogte, e.Breedte, e.Debiet, e.Snetto, e.Weerstand});
   const bool rond = e.Breedte <= 0;
   const double S = Oppervlak(e.Hoogte, e.Breedte, rond);
-  ZetRijen(tekst, MaatTekst(rond, e.Hoogte, e.Breedte, decimaal), DebietTekst(e.Debiet, decimaal),
-           "Seff = " + StandaardTekst(e.Snetto, decimaal) + std::string(" cm²"_cp),
-           "Dp = " + StandaardTekst(e.Weerstand, decimaal) + " Pa");
+  Rijen rijen(tekst, decimaal);
+  rijen.Maat(rond, e.Hoogte, e.Breedte);
+  rijen.Debiet(e.Debiet);
+  rijen.Waarde(2, "Seff = ", e.Snetto, " cm²"_cp);
+  rijen.Waarde(3, "Dp = ", e.Weerstand, " Pa");
   const double wortelS = Wortel(e.Snetto / 10000);
   for (Band b = 0; b < Banden; ++b) {
     const double x = Frequentie[b] * wortelS;
@@ -195,15 +218,18 @@ void Bocht(ElementRec& e, ElementTekstRijen& tekst, char decimaal) {
   EisEindig({e.Hoogte, rond ? 0 : e.Breedte, e.Debiet});
   const double S = Oppervlak(e.Hoogte, e.Breedte, rond);
   const double d = rond ? e.Hoogte : EquivDiameter(e.Hoogte, e.Breedte);
-  ZetRijen(tekst, MaatTekst(rond, e.Hoogte, e.Breedte, decimaal), DebietTekst(e.Debiet, decimaal));
+  Rijen rijen(tekst, decimaal);
+  rijen.Maat(rond, e.Hoogte, e.Breedte);
+  rijen.Debiet(e.Debiet);
   const double v = Deel(e.Debiet, S);
   const BandRij strouhal = Strouhal(d, v);  // before the logarithms: a speed of 0 has to fail as a division
+  const BandRij& breedteNiveau = BandBreedteNiveau();
   const double maatNiveau = 30 * Log10(d / 1000);
   const double snelheidNiveau = 50 * Log10(v);
   for (Band b = 0; b < Banden; ++b) {
     double K = BochtKromme(strouhal[b]);
     if (haaks) K = K + 5;
-    e.ruis[b] = NietNegatief(BandBreedteNiveau()[b] + K + maatNiveau + snelheidNiveau);
+    e.ruis[b] = NietNegatief(breedteNiveau[b] + K + maatNiveau + snelheidNiveau);
   }
   e.ruis[SomPlaats] = EnergetischeSom(e.ruis, true);
   const auto& tabel = rond ? BochtRondTabel : haaks ? BochtHaaksTabel : BochtRechtTabel;
@@ -219,13 +245,16 @@ void Aftak(ElementRec& e, ElementTekstRijen& tekst, char decimaal) {
   const double d = rond ? e.HAftak() : EquivDiameter(e.HAftak(), e.BAftak());
   const double Sh = Oppervlak(e.HHoofd, e.BHoofd, e.BHoofd <= 0);
   const double Sd = Oppervlak(e.HDoor, e.BDoor, e.BDoor <= 0);
-  ZetRijen(tekst, MaatTekst(rond, e.HAftak(), e.BAftak(), decimaal), DebietTekst(e.QAftak, decimaal),
-           "r/da = " + StandaardTekst(e.RAftak, decimaal));
+  Rijen rijen(tekst, decimaal);
+  rijen.Maat(rond, e.HAftak(), e.BAftak());
+  rijen.Debiet(e.QAftak);
+  rijen.Waarde(2, "r/da = ", e.RAftak, {});
   const double va = Deel(e.QAftak, Sa);
   const double vh = Deel(e.Debiet, Sh);
   const BandRij strouhal = Strouhal(d, va);
   const double afronding = 1 - e.RAftak / 0.15;
   const double verhouding = Log10(Deel(vh, va));
+  const BandRij& breedteNiveau = BandBreedteNiveau();
   const double maatNiveau = 30 * Log10(d / 1000);
   const double snelheidNiveau = 50 * Log10(va);
   for (Band b = 0; b < Banden; ++b) {
@@ -233,7 +262,7 @@ void Aftak(ElementRec& e, ElementTekstRijen& tekst, char decimaal) {
     const double T = x <= 10 ? 6.4 - (x - 2) * 0.1875 : 4.9 - (x - 10) * 0.03;
     const double R = afronding * T;
     const double K = BochtKromme(x) + AftakFactor(x) * verhouding;
-    e.ruis[b] = NietNegatief(BandBreedteNiveau()[b] + K + maatNiveau + snelheidNiveau + R);
+    e.ruis[b] = NietNegatief(breedteNiveau[b] + K + maatNiveau + snelheidNiveau + R);
   }
   e.ruis[SomPlaats] = EnergetischeSom(e.ruis, true);
   const bool rechtdoor = 0.8 * Sh < Sa && Sa <= Sh;
@@ -249,8 +278,10 @@ void Drsnee(ElementRec& e, ElementTekstRijen& tekst, char decimaal) {
       {e.H1Doorsnee(), rond ? 0 : e.B1Doorsnee(), e.H2Doorsnee(), e.B2Doorsnee(), e.LDoorsnee(), e.Debiet});
   const double S1 = Oppervlak(e.H1Doorsnee(), e.B1Doorsnee(), rond);
   const double S2 = Oppervlak(e.H2Doorsnee(), e.B2Doorsnee(), e.B2Doorsnee() <= 0);
-  ZetRijen(tekst, MaatTekst(rond, e.H2Doorsnee(), e.B2Doorsnee(), decimaal), DebietTekst(e.Debiet, decimaal),
-           "l = " + StandaardTekst(e.LDoorsnee(), decimaal) + " m");
+  Rijen rijen(tekst, decimaal);
+  rijen.Maat(rond, e.H2Doorsnee(), e.B2Doorsnee());
+  rijen.Debiet(e.Debiet);
+  rijen.Lengte(e.LDoorsnee());
   double m = Deel(S2, S1);
   if (S2 < S1) m = 1;
   for (Band b = 0; b < Banden; ++b) {
@@ -268,8 +299,10 @@ void RegelKlep(ElementRec& e, ElementTekstRijen& tekst, char decimaal) {
   EisEindig({e.Hoogte, e.Breedte, e.Debiet, e.Weerstand});
   const bool rond = e.Breedte <= 0;
   const double S = Oppervlak(e.Hoogte, e.Breedte, rond);
-  ZetRijen(tekst, MaatTekst(rond, e.Hoogte, e.Breedte, decimaal), DebietTekst(e.Debiet, decimaal),
-           "Dp = " + StandaardTekst(e.Weerstand, decimaal) + " Pa");
+  Rijen rijen(tekst, decimaal);
+  rijen.Maat(rond, e.Hoogte, e.Breedte);
+  rijen.Debiet(e.Debiet);
+  rijen.Waarde(2, "Dp = ", e.Weerstand, " Pa");
   for (Band b = 0; b < Banden; ++b) e.demp[b] = 0;
   KlepRuis(e, S);
 }

@@ -38,8 +38,9 @@ void RekenModel(Project& project, ElementRec& element, ElementTekstRijen& tekst,
     case elementtype::Rooster:
       Rooster(element, project.Ruimte, project.Kop.RekenType, tekst, decimaal);
       break;
-    default:
-      break;  // a catalogue element keeps the attenuation and noise that it was given
+    default:  // a catalogue element keeps the attenuation and noise that it was given
+      tekst.fill(Tekst<20>{""});
+      break;
   }
 }
 
@@ -47,7 +48,6 @@ void RekenElement(Project& project, int i, Resultaten& r, char decimaal) {
   const auto n = static_cast<std::size_t>(i);
   ElementRec& element = project.Elementen[n];
   r.HeeftInstraling[n] = Instraal(element);
-  for (auto& rij : r.ElementTekst[n]) rij = "";
   RekenModel(project, element, r.ElementTekst[n], decimaal);
   const std::int16_t type = project.Kop.RekenType;
   if (type == rekentype::Installatiegeluid || type == rekentype::Geluidsuitstraling)
@@ -61,12 +61,16 @@ void TussenResult(const Project& project, int i, Resultaten& r) {
   const ElementRec& element = project.Elementen[n];
   const Spectrum& ervoor = i == 1 ? project.Fan.Lw : r.Subtotaal[n - 1];
   Spectrum& niveau = r.Subtotaal[n];
+  // One loop a function, so that the processor works on all bands at once.
+  Spectrum s{};
+  for (std::size_t b = 0; b < Banden; ++b) {
+    s[b] = Macht10((ervoor[b] - element.demp[b]) / 10);
+    if (element.ruis[b] != 0) s[b] += Macht10(element.ruis[b] / 10);
+    if (element.Instraling[b] != 0) s[b] += Macht10(element.Instraling[b] / 10);
+  }
+  for (std::size_t b = 0; b < Banden; ++b) niveau[b] = 10 * Log10(s[b]);
   double t = 0;
   for (std::size_t b = 0; b < Banden; ++b) {
-    double s = Macht10((ervoor[b] - element.demp[b]) / 10);
-    if (element.ruis[b] != 0) s += Macht10(element.ruis[b] / 10);
-    if (element.Instraling[b] != 0) s += Macht10(element.Instraling[b] / 10);
-    niveau[b] = 10 * Log10(s);
     if (niveau[b] != 0) t += Macht10((niveau[b] + AWeging[b]) / 10);
   }
   niveau[SomPlaats] = t == 0 ? 0 : 10 * Log10(t);

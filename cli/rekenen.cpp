@@ -1,6 +1,7 @@
 // The command reken: projects to reports, one after the other or as a batch.
 
 #include <algorithm>
+#include <cctype>
 #include <filesystem>
 #include <map>
 #include <memory>
@@ -126,8 +127,14 @@ void WeigerGelijkeNamen(const std::vector<std::string>& projecten) {
     const auto [plaats, nieuw] = eerder.emplace(Sleutel(Basisnaam(project)), project);
     if (nieuw) continue;
     const std::string naam = PadTekst(Basisnaam(project));
-    throw Gebruiksfout(plaats->second + " en " + project + " geven allebei " + naam + ".prn en " + naam +
-                       ".json; geef ze verschillende namen of een eigen map.");
+    std::string melding = plaats->second;
+    melding.append(" en ")
+        .append(project)
+        .append(" geven allebei ")
+        .append(naam)
+        .append(".prn en ")
+        .append(naam);
+    throw Gebruiksfout(melding + ".json; geef ze verschillende namen of een eigen map.");
   }
 }
 

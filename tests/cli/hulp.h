@@ -2,8 +2,6 @@
 // What the tests of the command line share: a directory of their own, small projects, and a run in-process.
 
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <limits>
 #include <sstream>
 #include <string>
@@ -17,52 +15,36 @@
 #include "project/records.h"
 #include "shell/settings.h"
 #include "shell/startup.h"
+#include "tests/hulp/bestanden.h"
 
 namespace murvane::clitest {
 
-/// A fresh directory, with blanks and accents in its name, that goes with the test. It holds a murvane.set.
+/// A fresh directory with a murvane.set, whose files are named as on a command line.
 class Proefmap {
  public:
   Proefmap() {
-    for (int i = 0; map_.empty(); ++i) {
-      const auto map =
-          std::filesystem::temp_directory_path() / PadVan("murvane cli é ü " + std::to_string(i));
-      if (std::filesystem::create_directory(map)) map_ = map;
-    }
     Instellingen instellingen;
     ZetGebruikersnaam(instellingen, "Bureau één"_cp);
     SchrijfInstellingen(instellingen, map_ / InstellingenNaam);
   }
-  Proefmap(const Proefmap&) = delete;
-  Proefmap& operator=(const Proefmap&) = delete;
-  ~Proefmap() {
-    std::error_code geen;
-    std::filesystem::remove_all(map_, geen);
-  }
 
-  /// The path of a file in it, as a command line has it.
-  [[nodiscard]] std::string operator/(std::string_view naam) const { return PadTekst(map_ / PadVan(naam)); }
-  [[nodiscard]] std::string Naam() const { return PadTekst(map_); }
+  [[nodiscard]] std::string operator/(std::string_view naam) const { return PadTekst(map_ / naam); }
+  [[nodiscard]] std::string Naam() const { return PadTekst(map_.Pad()); }
 
   /// Saves a project under a name that may have directories.
   std::string Zet(const Project& project, std::string_view naam) const {
-    const auto pad = map_ / PadVan(naam);
-    std::filesystem::create_directories(pad.parent_path());
-    const std::string bytes = ProjectBytes(project);
-    std::ofstream(pad, std::ios::binary) << bytes;
-    return PadTekst(pad);
+    std::filesystem::create_directories((map_ / naam).parent_path());
+    return ZetBytes(ProjectBytes(project), naam);
   }
   std::string ZetBytes(std::string_view bytes, std::string_view naam) const {
-    std::ofstream(map_ / PadVan(naam), std::ios::binary) << bytes;
+    proef::Schrijf(map_ / naam, bytes);
     return *this / naam;
   }
-  [[nodiscard]] bool Heeft(std::string_view naam) const {
-    return std::filesystem::exists(map_ / PadVan(naam));
-  }
-  [[nodiscard]] std::string Lees(std::string_view naam) const { return LeesBestand(map_ / PadVan(naam)); }
+  [[nodiscard]] bool Heeft(std::string_view naam) const { return std::filesystem::exists(map_ / naam); }
+  [[nodiscard]] std::string Lees(std::string_view naam) const { return proef::Lees(map_ / naam); }
 
  private:
-  std::filesystem::path map_;
+  proef::TijdelijkeMap map_;
 };
 
 /// A duct and an outlet to a room, complete: it passes the checks and its run ends well.

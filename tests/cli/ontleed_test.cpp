@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <iterator>
+
 #include "tests/cli/hulp.h"
 
 namespace murvane::clitest {

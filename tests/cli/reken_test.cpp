@@ -218,6 +218,19 @@ TEST(RekenOpdracht, UnwritableOutputIsAFaultOfThatFile) {
 #endif
 }
 
+TEST(RekenOpdracht, AFullDiskIsFault61AndLeavesTheOldReport) {
+  const Proefmap map;
+  const std::string naam = map.Zet(GoedProject(), "a.mrv");
+  const std::string uit = map.ZetBytes("oud", "uit.prn");
+  const Afloop afloop = [&] {
+    const proef::Schijfgrens grens(100);
+    return Reken(map, {naam, "--prn", uit});
+  }();
+  EXPECT_EQ(afloop.Code, 1);
+  EXPECT_EQ(afloop.Err, uit + ": Fout 61 - Schijf vol.\n");
+  EXPECT_EQ(map.Lees("uit.prn"), "oud");
+}
+
 TEST(RekenOpdracht, NeverOverwritesTheProjectThatItReads) {
   const Proefmap map;
   const std::string naam = map.Zet(GoedProject(), "a.mrv");
@@ -391,6 +404,17 @@ TEST_F(Partij, ADirectoryThatCannotBeMadeIsAFault) {
   }
 }
 
+TEST_F(Partij, ADirectoryOfSomeoneElseIsFault70) {
+  const std::string goed = map_.Zet(GoedProject(), "a.mrv");
+  std::filesystem::create_directory(PadVan(map_ / "dicht"));
+  std::filesystem::permissions(PadVan(map_ / "dicht"), std::filesystem::perms::owner_read);
+  const auto probeer = [&] {
+    const Afloop afloop = Draai({goed}, "dicht/u", "1");
+    return afloop.Code == 1 && afloop.Err == map_ / "dicht/u" + ": Fout 70 - Geen toestemming.\n" ? 0 : 1;
+  };
+  EXPECT_EQ(proef::AlsGewoneGebruiker(probeer), 0);
+}
+
 TEST_F(Partij, AnOutputThatCannotBeWrittenIsAFaultAndTheOthersGoOn) {
   std::filesystem::create_directories(PadVan(map_ / "u/a.prn"));
   const Afloop afloop = Draai({map_.Zet(GoedProject(), "a.mrv"), map_.Zet(GoedProject(), "b.mrv")}, "u", "2");
@@ -402,7 +426,6 @@ TEST_F(Partij, AnOutputThatCannotBeWrittenIsAFaultAndTheOthersGoOn) {
 TEST_F(Partij, ShowsProgressOnATerminalOnly) {
   const std::string a = map_.Zet(GoedProject(), "a.mrv");
   const std::string b = map_.Zet(ZonderElementen(), "b.mrv");
-  // Six blanks would do for "2/2"; the width is that of two totals and the stroke: 3.
   EXPECT_EQ(Draai({a, b}, "u", "1", true).Err,
             "\r1/2\r   \r" + b + ": Geen kanaalelementen ingevoerd\n\r2/2\r   \r");
   EXPECT_EQ(Draai({a, b}, "u", "1").Err, b + ": Geen kanaalelementen ingevoerd\n");
