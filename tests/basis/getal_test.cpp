@@ -65,9 +65,12 @@ TEST(Opmaak, ReadsTheNumberAtFifteenSignificantDigits) {
 
 TEST(Opmaak, AValueThatRoundsToZeroHasNoMinusSign) {
   const OpmaakRij rijen[] = {
-      {-0.0, "0", "0.0", "0.00"},    {-0.004, "0", "0.0", "0.00"},  {-0.04, "0", "0.0", "-0.04"},
-      {-0.05, "0", "-0.1", "-0.05"}, {-0.4, "0", "-0.4", "-0.40"},  {-1E-300, "0", "0.0", "0.00"},
-      {-5E-324, "0", "0.0", "0.00"}, {-0.5, "-1", "-0.5", "-0.50"},
+      {-0.0, "0", "0.0", "0.00"},           {-0.0049999999, "0", "0.0", "0.00"},
+      {-0.0499999999, "0", "0.0", "-0.05"}, {-0.4999999999, "0", "-0.5", "-0.50"},
+      {-0.004, "0", "0.0", "0.00"},         {-0.04, "0", "0.0", "-0.04"},
+      {-0.05, "0", "-0.1", "-0.05"},        {-0.4, "0", "-0.4", "-0.40"},
+      {-1E-300, "0", "0.0", "0.00"},        {-5E-324, "0", "0.0", "0.00"},
+      {-0.5, "-1", "-0.5", "-0.50"},
   };
   for (const auto& rij : rijen) {
     EXPECT_EQ(Opmaak(rij.waarde, Formaat::Heel, '.'), rij.heel) << rij.waarde;
@@ -315,6 +318,7 @@ TEST(LeesGetal, TakesWhatIsTooSmallForADoubleAsZero) {
     EXPECT_EQ(waarde, 0) << tekst;
     EXPECT_FALSE(std::signbit(waarde)) << tekst;
   }
+  EXPECT_EQ(LeesGetal("-1e-400"), 0);
   EXPECT_TRUE(std::signbit(LeesGetal("-1e-400")));
 }
 

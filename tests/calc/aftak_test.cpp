@@ -88,6 +88,17 @@ TEST(Aftak, TheRoundingTermHasNoJumpAtItsBound) {
   }
 }
 
+TEST(Aftak, TheRoundingTermFallsSlowerAboveItsBound) {
+  // As above with x = 10.004 at 1000 Hz: 4.9 - 0.004 · 0.03; the first formula would give 4.89925.
+  ElementRec e = Rond(0), zonder = Rond(0.15);
+  for (ElementRec* aftak : {&e, &zonder}) {
+    aftak->Hoogte = 100, aftak->HHoofd = aftak->BHoofd = 1000;
+    aftak->QAftak = Pi * 0.0025 * 100 / 10.004, aftak->Debiet = 200;
+    Model(*aftak);
+  }
+  EXPECT_NEAR(e.ruis[4] - zonder.ruis[4], 4.89988, Marge);
+}
+
 TEST(Aftak, TheSpeedRatioTermGoesByTheRangesOfTheCurve) {
   // Round branch of 100 mm, main duct 1 m² with 200 m³/s, no rounding term. Each flow puts x of 1000 Hz (100
   // / va) exactly on a bound, or on the nearest number above it. ruis = 10 lg 690 + BochtKromme(x) + c lg

@@ -132,6 +132,16 @@ TEST(ReKan, ReportTextsShowSizeFlowAndLength) {
   VerwachtTekst(Doorgerekend(breed), {"h×b = 1234.5×6789.25"_cp, "q = 2 m³/s"_cp, "l = 1 m", ""});
 }
 
+TEST(ReKan, TheLongestNumbersAreCutToo) {
+  // Written before the speed overflows; whole it would be "h×b =
+  // -1,23456789012346E-150×-1,23456789012346E-150 mm".
+  ElementRec e = Kanaal(8, -1.23456789012346E-150, -1.23456789012346E-150, 1E+300, 1);
+  ElementTekstRijen tekst;
+  EXPECT_EQ(FoutVan([&] { ReKan(e, tekst, ','); }), 6);
+  EXPECT_EQ(tekst[0].Heel(), "h×b = -1,23456789012"_cp);
+  EXPECT_EQ(tekst[1].Heel(), "q = 1E+300 m³/s     "_cp);
+}
+
 TEST(ReKan, ImpossibleValuesAreFaults) {
   const ElementRec goed = Kanaal(8, 300, 400, 1, 2);
   VerwachtFouten(goed,
