@@ -23,9 +23,9 @@ class Tekst {
   static constexpr std::size_t Lengte = N;
 
   constexpr Tekst() = default;
-  Tekst(std::string_view tekst) { *this = tekst; }  // NOLINT(google-explicit-constructor)
+  constexpr Tekst(std::string_view tekst) { *this = tekst; }  // NOLINT(google-explicit-constructor)
 
-  Tekst& operator=(std::string_view tekst) {
+  constexpr Tekst& operator=(std::string_view tekst) {
     const std::size_t n = std::min(N, tekst.size());
     std::copy_n(tekst.data(), n, tekens_.begin());
     std::fill(tekens_.begin() + n, tekens_.end(), ' ');

@@ -20,7 +20,7 @@ using BandRij = std::array<double, Banden>;
 class Rijen {
  public:
   Rijen(ElementTekstRijen& tekst, char decimaal) : tekst_(tekst), decimaal_(decimaal) {
-    tekst_.fill(Tekst<20>{""});
+    tekst_ = BlankeRijen;
   }
 
   void Maat(bool rond, double hoogte, double breedte) {

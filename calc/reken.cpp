@@ -38,9 +38,8 @@ void RekenModel(Project& project, ElementRec& element, ElementTekstRijen& tekst,
     case elementtype::Rooster:
       Rooster(element, project.Ruimte, project.Kop.RekenType, tekst, decimaal);
       break;
-    default:  // a catalogue element keeps the attenuation and noise that it was given
-      tekst.fill(Tekst<20>{""});
-      break;
+    default:
+      break;  // a catalogue element keeps the attenuation and noise that it was given
   }
 }
 
@@ -48,6 +47,7 @@ void RekenElement(Project& project, int i, Resultaten& r, char decimaal) {
   const auto n = static_cast<std::size_t>(i);
   ElementRec& element = project.Elementen[n];
   r.HeeftInstraling[n] = Instraal(element);
+  r.ElementTekst[n] = BlankeRijen;
   RekenModel(project, element, r.ElementTekst[n], decimaal);
   const std::int16_t type = project.Kop.RekenType;
   if (type == rekentype::Installatiegeluid || type == rekentype::Geluidsuitstraling)

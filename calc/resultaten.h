@@ -13,6 +13,8 @@ namespace murvane {
 /// The four side texts of an element in the report: beside its attenuation, self-noise, break-in and
 /// subtotal.
 using ElementTekstRijen = std::array<Tekst<20>, 4>;
+inline constexpr ElementTekstRijen BlankeRijen = {Tekst<20>{" "}, Tekst<20>{" "}, Tekst<20>{" "},
+                                                  Tekst<20>{" "}};
 
 struct Resultaten {
   // By element; index 0 stays unused.
