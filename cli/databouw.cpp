@@ -85,12 +85,10 @@ void SchrijfGewijzigde(const fs::path& map, std::ostream& uit) {
 }  // namespace
 
 Databestand MaakDatabestand(const std::string& bronNaam, std::string_view json) {
-  try {
+  return OverBestand(bronNaam, [&] {
     if (!bronNaam.ends_with(BronExtensie)) throw Fout(FoutNummer::OngeldigeBestandsnaam);
     return MaakVanStam(bronNaam.substr(0, bronNaam.size() - BronExtensie.size()), json);
-  } catch (const Fout& fout) {
-    throw fout.MetBestand(bronNaam);
-  }
+  });
 }
 
 std::vector<Databestand> MaakDatabestanden(const fs::path& bronMap) {
