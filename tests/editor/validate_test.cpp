@@ -871,6 +871,9 @@ TEST(NeemOver, SaysInDutchWhichFieldFaults) {
       {[](I& i) { i.txtLw[0] = "x"; }, "Fout 13 - Geen geldig getal (geluidsspectrum ventilator, 63 Hz)."},
       {[](I& i) { i.txtLw[6] = "NaN"; },
        "Fout 6 - Overloop: een getal is te groot of onbepaald (geluidsspectrum ventilator, 4000 Hz)."},
+      // 10^(9999/10) is beyond a double
+      {[](I& i) { i.txtLw[0] = "9999"; },
+       "Fout 6 - Overloop: een getal is te groot of onbepaald (geluidsspectrum ventilator)."},
       {overloop(&I::txtRBreedte), "Fout 6 - Overloop: een getal is te groot of onbepaald (vertrekbreedte)."},
       {overloop(&I::txtRHoogte), "Fout 6 - Overloop: een getal is te groot of onbepaald (vertrekhoogte)."},
       {overloop(&I::txtRLengte), "Fout 6 - Overloop: een getal is te groot of onbepaald (vertreklengte)."},
