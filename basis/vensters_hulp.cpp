@@ -1,0 +1,39 @@
+#include "basis/vensters_hulp.h"
+
+#include <QPalette>
+#include <QWidget>
+
+#include "basis/fout.h"
+#include "basis/tekst.h"
+
+namespace murvane {
+
+QString VanCp(std::string_view tekst) {
+  return QString::fromStdString(NaarUtf8(tekst));
+}
+
+std::string NaarCp(const QString& tekst) {
+  std::string uit;
+  for (const char32_t teken : tekst.toUcs4()) {
+    try {
+      uit += NaarCp1252(QString::fromUcs4(&teken, 1).toStdString());
+    } catch (const Fout&) {
+      uit += '?';
+    }
+  }
+  return uit;
+}
+
+QColor KleurVan(std::uint32_t bgr) {
+  return QColor(static_cast<int>(bgr & 0xFF), static_cast<int>(bgr >> 8 & 0xFF), static_cast<int>(bgr >> 16 & 0xFF));
+}
+
+void ZetAchtergrond(QWidget& veld, std::uint32_t bgr) {
+  QPalette palet = veld.palette();
+  palet.setColor(QPalette::Base, KleurVan(bgr));
+  palet.setColor(QPalette::Text, Qt::black);
+  palet.setColor(QPalette::PlaceholderText, QColor(90, 90, 90));
+  veld.setPalette(palet);
+}
+
+}  // namespace murvane

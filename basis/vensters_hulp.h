@@ -1,0 +1,26 @@
+#pragma once
+// What all windows share: text between Windows-1252 and the toolkit, colours, and boxes.
+
+#include <QColor>
+#include <QString>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+class QWidget;
+
+namespace murvane {
+
+/// Text of the program for the screen.
+[[nodiscard]] QString VanCp(std::string_view tekst);
+
+/// Text of the screen for the program; a character that the code page lacks becomes a question mark.
+[[nodiscard]] std::string NaarCp(const QString& tekst);
+
+/// The colour of a blue-green-red number.
+[[nodiscard]] QColor KleurVan(std::uint32_t bgr);
+
+/// Gives a field a fixed light background with dark text on it, whatever the theme.
+void ZetAchtergrond(QWidget& veld, std::uint32_t bgr);
+
+}  // namespace murvane
