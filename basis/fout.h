@@ -55,4 +55,8 @@ class Fout : public std::exception {
   std::string omschrijving_, plaats_, bestand_, tekst_;
 };
 
+/// The exception that is being handled, as a Fout: a Fout itself, 7 for a lack of memory, 75 for a failure of
+/// the file system, 51 for anything else. Only to be called where an exception was caught.
+[[nodiscard]] Fout HuidigeFout();
+
 }  // namespace murvane
