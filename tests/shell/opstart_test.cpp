@@ -127,6 +127,7 @@ TEST_F(Opstart, ReadsAgainWhatCameMeanwhileWhenTheDialogGivesNoName) {
 
 TEST_F(Opstart, EndsWhenTheDialogIsCancelled) {
   fs::remove(Map("hier") / "murvane.set");
+  programma_.Instellingen.Gebruikersnaam = "oud", programma_.Instellingen.GebruikerLabel = "oud";
   script_.Box(NietGevonden).Open(ZoekVraag("hier"), std::nullopt).Box(Opstartfout(""));
   EXPECT_EQ(Start("project.mrv"), Vervolg::Einde);
   EXPECT_TRUE(programma_.OpenBestand.empty());
