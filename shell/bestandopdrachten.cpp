@@ -48,7 +48,7 @@ void EisProjectNaam(const fs::path& naam) {
 /// One attempt to open; the text for panel 1, empty when the dialog gave no name.
 std::string OpenVolgende(Programma& programma, Dialogen& dialogen) {
   if (!programma.OpenBestand.empty()) {
-    const std::string naam = Openen(programma, dialogen, programma.OpenBestand);
+    std::string naam = Openen(programma, dialogen, programma.OpenBestand);
     programma.OpenBestand.clear();
     return naam;
   }
