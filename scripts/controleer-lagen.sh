@@ -23,7 +23,8 @@ for map in "${!mag[@]}"; do
     [ -n "$bestand" ] || continue
     doel=$(sed -E 's/.*"([a-z]+)\/.*/\1/' <<< "$regel")
     [[ " ${mag[$map]} " == *" $doel "* ]] || meld "$bestand: $map mag $doel niet gebruiken"
-  done < <(grep -rHE '^#include "[a-z]+/' --include='*.h' --include='*.cpp' "$map" || true)
+  done < <(grep -rHE '^#include "[a-z]+/' --include='*.h' --include='*.cpp' "$map" |
+    grep -vE '^[a-z]+/(frm|MDI|vensters)' || true)
 done
 
 mappen=()
