@@ -807,6 +807,14 @@ TEST(NeemOver, HandsFlowAndSectionDownTheWholeChain) {
   EXPECT_EQ(project.Elementen[5].Debiet, 0);
 }
 
+TEST(NeemOver, HandsDownToTheLastElementOfTheArray) {
+  Project project = Goed(1);
+  ZetKeten(project, std::vector<int>(500, 99));
+  project.Elementen[1].Debiet = 0.25;
+  NeemOver(project, InvoerVan(project, '.'), '.');
+  EXPECT_EQ(project.Elementen[500].Debiet, 0.25);
+}
+
 TEST(NeemOver, HandsNothingDownWithANegativeCount) {
   Project project = Goed(1);
   project.ElementCount = -3;
