@@ -34,7 +34,7 @@ struct Elementlijst {
   int HuidigElement = 0;            ///< the element that lstProject has selected and is open; 0 for none
   Lijst Actief = Lijst::lstTotaal;  ///< exactly one is
   bool Aangeklikt = false;          ///< a list was clicked: the active list's toolbar buttons are enabled
-  bool SSTab2 = false;              ///< the input page is in view
+  bool SSTab2 = false;              ///< an element is open: its page is in view, if its type has one
 
   friend bool operator==(const Elementlijst&, const Elementlijst&) = default;
 };
