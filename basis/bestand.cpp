@@ -366,6 +366,13 @@ void Vervang(const fs::path& doel, std::string_view bytes, Staart staart) {
   if (code != 0) Faal(code, doel);
 }
 
+/// A terminal, a pipe or the like. Behind /dev/stdout such a thing stands under a link whose text names no
+/// file, so the system has to follow it.
+bool IsApparaat(const fs::path& pad) {
+  std::error_code geen;
+  return fs::is_other(pad, geen);
+}
+
 /// Writes to what a path stands for, which is not a link any more.
 void Bewaar(const fs::path& doel, std::string_view bytes, Staart staart) {
   std::error_code code;
@@ -404,7 +411,7 @@ std::string LeesBestand(const fs::path& pad, std::size_t hoogstens) {
 void VervangBestand(const fs::path& pad, std::string_view bytes, Staart staart) {
   EisNaam(pad);
   try {
-    Bewaar(AchterLinks(pad), bytes, staart);
+    Bewaar(IsApparaat(pad) ? pad : AchterLinks(pad), bytes, staart);
   } catch (const Fout& fout) {
     // The name that the caller knows, not what stands behind its links.
     throw Fout(fout.Nummer(), Beschrijving(fout.Nummer()), {}, PadTekst(pad));

@@ -8,6 +8,10 @@
 
 namespace murvane {
 
+/// More bytes than a project, a catalogue or the settings ever have: what stands behind them in a file need
+/// not be read, and a wrong file does not fill the memory.
+inline constexpr std::size_t RuimGenoeg = std::size_t{1} << 20;
+
 /// At most the first `hoogstens` bytes of a file. Fout 53 when it does not exist, 76 when its directory does
 /// not, 70 without permission, 52 for an impossible name, 75 for any other failure (a directory, a broken
 /// disk, links that go round); the Fout names the file.

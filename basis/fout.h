@@ -55,4 +55,14 @@ class Fout : public std::exception {
   std::string omschrijving_, plaats_, bestand_, tekst_;
 };
 
+/// Does `werk`; a Fout that it raises names `bestand`, unless it named a file already.
+template <typename Werk>
+auto OverBestand(const std::string& bestand, Werk werk) {
+  try {
+    return werk();
+  } catch (const Fout& fout) {
+    throw fout.MetBestand(bestand);
+  }
+}
+
 }  // namespace murvane

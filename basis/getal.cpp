@@ -126,6 +126,7 @@ char* SchrijfKort(char* naar, double waarde, char decimaal) {
   const double grootte = std::fabs(waarde);
   if (!(grootte < SnelTot)) return nullptr;
   for (std::size_t decimalen = 0; decimalen < Macht.size(); ++decimalen) {
+    // A wrong rounding fails the comparison below. NOLINTNEXTLINE(bugprone-incorrect-roundings)
     auto n = static_cast<std::uint64_t>(grootte * Macht[decimalen] + 0.5);
     if (static_cast<double>(n) / Macht[decimalen] != grootte) continue;
     std::array<char, 16> cijfers;

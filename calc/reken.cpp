@@ -54,6 +54,19 @@ void RekenElement(Project& project, int i, Resultaten& r, char decimaal) {
     TussenResult(project, i, r);
 }
 
+/// What comes behind the last element. Its faults, too, say where the user has to look.
+void RekenEinde(const Project& project, Resultaten& r) {
+  const char* plaats = "einde van de keten";
+  try {
+    UitStraal(project, r);
+    EindResult(project, r);
+    plaats = "ruimtegegevens";
+    RuimteDemping(project, r);
+  } catch (const Fout& fout) {
+    throw fout.MetPlaats(plaats);
+  }
+}
+
 }  // namespace
 
 void TussenResult(const Project& project, int i, Resultaten& r) {
@@ -85,9 +98,7 @@ void Reken(Project& project, Resultaten& r, char decimaal) {
       throw fout.MetPlaats("kanaalelement " + std::to_string(i));
     }
   }
-  UitStraal(project, r);
-  EindResult(project, r);
-  RuimteDemping(project, r);
+  RekenEinde(project, r);
 }
 
 }  // namespace murvane

@@ -15,7 +15,8 @@ void TussenResult(const Project& project, int i, Resultaten& resultaten);
 
 /// Calculates a project whose records are complete (checked and with inherited fields). Writes `demp`,
 /// `ruis`, `Instraling`, `ElRDI` and `ElRAantal` of the elements and the results. A fault in the arithmetic
-/// ends the run as Fout 5, 6, 9 or 11, with the element's number as its place; results written so far stay.
+/// ends the run as Fout 5, 6, 9 or 11, with the element, the end of the chain or the room as its place;
+/// results written so far stay.
 /// `decimaal` is the decimal sign of the report texts.
 void Reken(Project& project, Resultaten& resultaten, char decimaal);
 

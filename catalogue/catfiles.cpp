@@ -35,25 +35,14 @@ std::string Bytes(const Cat& catalogus) {
   return bytes;
 }
 
-/// More bytes than any catalogue has: what stands behind them need not be read.
-constexpr std::size_t MaxBytes = std::size_t{1} << 20;
-
 template <typename Cat>
 Cat LeesFile(const std::filesystem::path& pad) {
-  try {
-    return UitBytes<Cat>(LeesBestand(pad, MaxBytes));
-  } catch (const Fout& fout) {
-    throw fout.MetBestand(PadTekst(pad));
-  }
+  return OverBestand(PadTekst(pad), [&pad] { return UitBytes<Cat>(LeesBestand(pad, RuimGenoeg)); });
 }
 
 template <typename Cat>
 void SchrijfFile(const Cat& catalogus, const std::filesystem::path& pad) {
-  try {
-    VervangBestand(pad, Bytes(catalogus), Staart::Blijft);
-  } catch (const Fout& fout) {
-    throw fout.MetBestand(PadTekst(pad));
-  }
+  OverBestand(PadTekst(pad), [&] { VervangBestand(pad, Bytes(catalogus), Staart::Blijft); });
 }
 
 }  // namespace

@@ -67,32 +67,22 @@ CatalogusSoort SoortVan(const std::string& optie, const std::string& bestand, st
 
 CatalogusInhoud LeesCatalogus(const Keuzes& keuzes) {
   const std::string& naam = keuzes.Bestanden.front();
-  constexpr std::size_t Hoogstens = std::size_t{1} << 20;  // more than any catalogue has
-  const std::string bytes = LeesBestand(PadVan(naam), Hoogstens);
-  try {
+  return OverBestand(naam, [&]() -> CatalogusInhoud {
+    const std::string bytes = LeesBestand(PadVan(naam), RuimGenoeg);
     const CatalogusSoort soort = SoortVan(keuzes.Waarde(Optie::Soort).value_or(""), naam, bytes);
     if (soort == CatalogusSoort::Kanaalelementen) return {soort, ElementenUitBytes(bytes)};
     return {soort, SpectraUitBytes(bytes)};
-  } catch (const Fout& fout) {
-    throw fout.MetBestand(naam);
-  }
+  });
 }
 
 CatalogusInhoud LeesCatalogusJson(const std::string& naam) {
-  const std::string json = LeesBestand(PadVan(naam));
-  try {
-    return CatalogusUitJson(json);
-  } catch (const Fout& fout) {
-    throw fout.MetBestand(naam);
-  }
+  return OverBestand(naam, [&naam] { return CatalogusUitJson(LeesBestand(PadVan(naam))); });
 }
 
 std::string Bytes(const CatalogusInhoud& catalogus, const std::string& naam) {
-  try {
+  return OverBestand(naam, [&catalogus] {
     return std::visit([](const auto& inhoud) { return CatalogusBytes(inhoud); }, catalogus.Inhoud);
-  } catch (const Fout& fout) {
-    throw fout.MetBestand(naam);
-  }
+  });
 }
 
 }  // namespace

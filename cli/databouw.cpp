@@ -10,6 +10,7 @@
 #include "basis/fout.h"
 #include "basis/json.h"
 #include "catalogue/catjson.h"
+#include "cli/uitslag.h"
 #include "project/projectfile.h"
 #include "project/projectjson.h"
 #include "shell/settings.h"
@@ -21,9 +22,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::string_view BronExtensie = ".json";
-constexpr int Gelukt = 0;
-constexpr int Mislukt = 1;
-constexpr int VerkeerdGebruik = 64;
 
 struct CatalogusNaam {
   std::string_view stam;
@@ -85,12 +83,10 @@ void SchrijfGewijzigde(const fs::path& map, std::ostream& uit) {
 }  // namespace
 
 Databestand MaakDatabestand(const std::string& bronNaam, std::string_view json) {
-  try {
+  return OverBestand(bronNaam, [&] {
     if (!bronNaam.ends_with(BronExtensie)) throw Fout(FoutNummer::OngeldigeBestandsnaam);
     return MaakVanStam(bronNaam.substr(0, bronNaam.size() - BronExtensie.size()), json);
-  } catch (const Fout& fout) {
-    throw fout.MetBestand(bronNaam);
-  }
+  });
 }
 
 std::vector<Databestand> MaakDatabestanden(const fs::path& bronMap) {
@@ -110,15 +106,15 @@ int MaakData(std::span<const std::string> argumenten, std::ostream& uit, std::os
   if (argumenten.size() > 1 || (argumenten.size() == 1 && argumenten[0].starts_with('-'))) {
     fouten << "Gebruik: murvane-maakdata [MAP]\n"
               "Maakt de bestanden in MAP (standaard: data) uit de bronnen in MAP/bron.\n";
-    return VerkeerdGebruik;
+    return status::VerkeerdGebruik;
   }
-  try {
+  const Uitslag uitslag = Bewaakt("murvane-maakdata", [&] {
     SchrijfGewijzigde(argumenten.empty() ? fs::path("data") : PadVan(argumenten[0]), uit);
-    return Gelukt;
-  } catch (const Fout& fout) {
-    fouten << fout.Bestand() << ": " << fout.Melding() << '\n';
-    return Mislukt;
-  }
+    return Uitslag{};
+  });
+  Kanalen kanalen{uit, fouten};
+  Meld(uitslag, kanalen);
+  return uitslag.Status;
 }
 
 }  // namespace murvane

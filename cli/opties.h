@@ -38,8 +38,10 @@ inline constexpr std::array Opdrachten = {
         "worden, wordt gemeld als \"in orde\"."},
     OpdrachtRegel{Opdracht::Toon, "toon", "PROJECT.mrv", false, "toont een project als JSON",
                   "Toont een project als JSON, zonder verlies."},
-    OpdrachtRegel{Opdracht::Maak, "maak", "PROJECT.json", false, "maakt een project uit JSON",
-                  "Maakt een projectbestand uit JSON. Velden die ontbreken, zijn 0 of leeg."},
+    OpdrachtRegel{
+        Opdracht::Maak, "maak", "PROJECT.json", false, "maakt een project uit JSON",
+        "Maakt een projectbestand uit JSON; de naam ervan eindigt op mrv. Velden die ontbreken, zijn 0 of "
+        "leeg."},
     OpdrachtRegel{Opdracht::CatalogusToon, "catalogus toon", "BESTAND.dat", false,
                   "toont een catalogus als JSON",
                   "Toont een catalogus als JSON, zonder verlies. De soort volgt uit de bestandsnaam "

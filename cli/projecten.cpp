@@ -25,21 +25,7 @@ Uitslag Controleer(const std::string& naam, char decimaal, Kanalen& kanalen) {
 }
 
 Project LeesProjectJson(const std::string& naam) {
-  const std::string json = LeesBestand(PadVan(naam));
-  try {
-    return ProjectUitJson(json);
-  } catch (const Fout& fout) {
-    throw fout.MetBestand(naam);
-  }
-}
-
-/// The image of a project that goes to standard output; a fault in it is one of the project.
-std::string Bytes(const Project& project, const std::string& naam) {
-  try {
-    return ProjectBytes(project);
-  } catch (const Fout& fout) {
-    throw fout.MetBestand(naam);
-  }
+  return OverBestand(naam, [&naam] { return ProjectUitJson(LeesBestand(PadVan(naam))); });
 }
 
 }  // namespace
@@ -69,7 +55,7 @@ int VoerMaak(const Keuzes& keuzes, Kanalen& kanalen) {
   WeigerOverschrijven(naam, uitvoer);
   const Project project = LeesProjectJson(naam);
   if (uitvoer == Standaarduitvoer) {
-    kanalen.uit << Bytes(project, naam);
+    kanalen.uit << OverBestand(naam, [&project] { return ProjectBytes(project); });
   } else {
     SchrijfProject(project, PadVan(uitvoer));
   }

@@ -14,6 +14,8 @@
 #else
 #include <fcntl.h>
 #include <unistd.h>
+
+#include <csignal>
 #endif
 
 namespace murvane {
@@ -51,6 +53,8 @@ void BereidUitvoerVoor() {
   for (const int nummer : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO})
     if (::fcntl(nummer, F_GETFD) == -1)
       (void)::open("/dev/null", nummer == STDERR_FILENO ? O_WRONLY : O_RDONLY);
+  // A file that may not grow any further is a full disk, with a message, and not the end of the program.
+  (void)std::signal(SIGXFSZ, SIG_IGN);
 }
 
 bool FoutuitvoerIsTerminal() {

@@ -10,7 +10,7 @@ namespace murvane {
 [[nodiscard]] std::vector<std::string> Argumenten(int argc, char** argv);
 
 /// Makes standard output and error fit to write to: bytes as they are, UTF-8, and never a file that was
-/// opened later where they had been closed.
+/// opened later where they had been closed. A limit on the size of files becomes a fault of the write.
 void BereidUitvoerVoor();
 
 /// Whether standard error is a terminal.

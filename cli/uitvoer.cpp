@@ -12,18 +12,10 @@ namespace murvane {
 
 namespace fs = std::filesystem;
 
-namespace {
-
-bool EindigtOpMrv(std::string_view naam) {
-  if (naam.size() < 3) return false;
-  const std::string_view einde = naam.substr(naam.size() - 3);
-  return (einde[0] | 0x20) == 'm' && (einde[1] | 0x20) == 'r' && (einde[2] | 0x20) == 'v';
-}
-
-}  // namespace
-
 Project LeesProjectVan(const std::string& naam) {
-  if (!EindigtOpMrv(naam)) throw Fout(FoutNummer::OngeldigeBestandsnaam).MetBestand(naam);
+  if (!IsProjectNaam(naam))
+    throw Fout(FoutNummer::OngeldigeBestandsnaam, "Ongeldige bestandsnaam: een projectbestand eindigt op mrv",
+               {}, naam);
   return LeesProject(PadVan(naam));
 }
 

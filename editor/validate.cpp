@@ -32,7 +32,11 @@ double LeesBand(std::string_view tekst, std::size_t band, char decimaal) {
 Spectrum LeesLw(const ProjectInvoer& invoer, char decimaal) {
   Spectrum lw{};
   for (std::size_t band = 0; band < Banden; ++band) lw[band] = LeesBand(invoer.txtLw[band], band, decimaal);
-  lw[SomPlaats] = EnergetischeSom(lw, true);
+  try {
+    lw[SomPlaats] = EnergetischeSom(lw, true);
+  } catch (const Fout& fout) {
+    throw fout.MetPlaats("geluidsspectrum ventilator");
+  }
   return lw;
 }
 

@@ -26,10 +26,19 @@ void AlleVelden(P& project, Stap stap) {
   stap(project.FanPrognose), stap(project.VrijVeld);
 }
 
-/// More bytes than any project has: what stands behind them need not be read.
-constexpr std::size_t MaxBytes = std::size_t{1} << 20;
+/// Only the letters of "mrv" matter, so bytes above 7F stay as they are.
+char KleineLetter(char c) {
+  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
 
 }  // namespace
+
+bool IsProjectNaam(std::string_view naam) {
+  constexpr std::string_view Einde = "mrv";
+  return naam.size() >= Einde.size() &&
+         std::equal(Einde.rbegin(), Einde.rend(), naam.rbegin(),
+                    [](char klein, char c) { return klein == KleineLetter(c); });
+}
 
 Project ProjectUitBytes(std::string_view bytes) {
   Project project;
@@ -46,21 +55,17 @@ std::string ProjectBytes(const Project& project) {
 }
 
 Project LeesProject(const std::filesystem::path& pad) {
-  try {
-    return ProjectUitBytes(LeesBestand(pad, MaxBytes));
-  } catch (const Fout& fout) {
-    throw fout.MetBestand(PadTekst(pad));
-  }
+  return OverBestand(PadTekst(pad), [&pad] { return ProjectUitBytes(LeesBestand(pad, RuimGenoeg)); });
 }
 
 void SchrijfProject(const Project& project, const std::filesystem::path& pad) {
   const std::string naam = PadTekst(pad);
-  try {
-    if (!naam.ends_with("mrv")) throw Fout(FoutNummer::OngeldigeBestandsnaam);
+  OverBestand(naam, [&] {
+    if (!naam.ends_with("mrv"))
+      throw Fout(FoutNummer::OngeldigeBestandsnaam,
+                 "Ongeldige bestandsnaam: een projectbestand eindigt op mrv, in kleine letters");
     VervangBestand(pad, ProjectBytes(project), Staart::Blijft);
-  } catch (const Fout& fout) {
-    throw fout.MetBestand(naam);
-  }
+  });
 }
 
 }  // namespace murvane

@@ -9,6 +9,9 @@
 
 namespace murvane {
 
+/// Whether a name can be that of a project that is opened: its last three characters are "mrv", in any case.
+[[nodiscard]] bool IsProjectNaam(std::string_view naam);
+
 /// The project of a file image; what stands behind its logical end is ignored. Fout 62 when the image ends
 /// too early, Fout 9 when its element count is above 500 and the image does hold 500 elements. A negative
 /// count reads no elements and stays as it is.

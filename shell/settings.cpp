@@ -12,8 +12,6 @@ namespace murvane {
 namespace {
 
 constexpr std::string_view Nl = "\r\n";
-constexpr std::size_t MaxBytes = std::size_t{1}
-                                 << 20;  ///< of a file of seven lines; spares memory from a wrong one
 
 bool IsCijfer(char c) {
   return c >= '0' && c <= '9';
@@ -99,11 +97,7 @@ std::string InstellingenBytes(const Instellingen& instellingen) {
 }
 
 Instellingen LeesInstellingen(const std::filesystem::path& pad) {
-  try {
-    return InstellingenUitBytes(LeesBestand(pad, MaxBytes));
-  } catch (const Fout& fout) {
-    throw fout.MetBestand(PadTekst(pad));
-  }
+  return OverBestand(PadTekst(pad), [&pad] { return InstellingenUitBytes(LeesBestand(pad, RuimGenoeg)); });
 }
 
 void SchrijfInstellingen(const Instellingen& instellingen, const std::filesystem::path& pad) {

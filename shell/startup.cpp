@@ -4,6 +4,7 @@
 #include <system_error>
 
 #include "basis/bestand.h"
+#include "project/projectfile.h"
 
 #ifdef _WIN32
 #define WIN32_LEAN_AND_MEAN
@@ -34,25 +35,10 @@ bool HeeftInstellingen(const fs::path& map) {
   return fs::is_regular_file(map / InstellingenNaam, geen);
 }
 
-/// Only the letters of "mrv" matter, so bytes above 7F stay as they are.
-char KleineLetter(char c) {
-  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-bool IsProjectNaam(std::string_view pad) {
-  constexpr std::string_view Soort = "mrv";
-  if (pad.size() < Soort.size()) return false;
-  const std::string_view einde = pad.substr(pad.size() - Soort.size());
-  for (std::size_t i = 0; i < Soort.size(); ++i) {
-    if (KleineLetter(einde[i]) != Soort[i]) return false;
-  }
-  return true;
-}
-
 }  // namespace
 
 fs::path DataMapVan(const fs::path& huidigeMap, const fs::path& programmaMap) {
-  const fs::path eigen = programmaMap / "data";
+  fs::path eigen = programmaMap / "data";
   const fs::path gedeeld = (programmaMap / ".." / "share" / "murvane" / "data").lexically_normal();
   for (const fs::path& map : {huidigeMap, eigen, gedeeld}) {
     if (HeeftInstellingen(map)) return map;

@@ -386,6 +386,18 @@ TEST(VervangBestand, WritesStraightToWhatIsNotARegularFile) {
   EXPECT_THAT(map.Namen(), ElementsAre("niets", "pijp"));
 }
 
+TEST(VervangBestand, WritesToAPipeBehindALinkThatOnlyTheSystemCanFollow) {
+  std::array<int, 2> pijp{};
+  ASSERT_EQ(::pipe(pijp.data()), 0);
+  const fs::path link =
+      "/proc/self/fd/" + std::to_string(pijp[1]);  // reads as "pipe:[12345]", like /dev/stdout
+  EXPECT_EQ(Bewaar(link, "door de pijp"), 0);
+  std::array<char, 100> uit{};
+  EXPECT_EQ(::read(pijp[0], uit.data(), uit.size()), 12);
+  EXPECT_STREQ(uit.data(), "door de pijp");
+  for (const int kant : pijp) ::close(kant);
+}
+
 TEST(VervangBestand, TellsWhyADeviceTakesNoBytes) {
   const TijdelijkeMap map;
   fs::create_symlink("/dev/full", map / "vol");

@@ -177,6 +177,9 @@ TEST(Aftak, MainAndThroughDuctAreRoundByTheirWidths) {
   e.HHoofd = e.BHoofd = 300;
   Model(e);
   EXPECT_NEAR(e.demp[0], 5.64271430439, Marge);
+  e.BDoor = 0.5;  // however narrow: Sd = 0.4 · 0.0005, -10 lg (0.06 / 0.0602)
+  Model(e);
+  EXPECT_NEAR(e.demp[0], 10 * std::log10(0.0602 / 0.06), Marge);
 }
 
 TEST(Aftak, TheTypeDecidesTheShapeOfTheBranchItself) {

@@ -163,6 +163,26 @@ void VerwachtKlepRuis(const ElementRec& e) {
   ASSERT_EQ(e.ruis[7], Som(e.ruis));
 }
 
+/// The table of the end reflection, written out by directivity factor.
+double EindReflectie(int richting, double x) {
+  const double lg = Lg(x);
+  switch (richting) {
+    case 1:
+      if (x <= 50) return -20 * lg + 40;
+      return x <= 80 ? -15 * lg + 31.5 : -7.5 * lg + 17.25;
+    case 2:
+      if (x <= 40) return -20 * lg + 37;
+      return x <= 80 ? -11.667 * lg + 23.667 : -5 * lg + 11;
+    case 4:
+      if (x <= 30) return -20 * lg + 34;
+      return x <= 50 ? -13.6 * lg + 24.6 : -5 * lg + 10;
+    default:  // 8
+      if (x <= 20) return -20 * lg + 31;
+      if (x <= 30) return -13.89 * lg + 23.06;
+      return x <= 50 ? -9.09 * lg + 15.95 : -2.5 * lg + 4.75;
+  }
+}
+
 TEST(Volgorde, DampersAndOutlets) {
   Bron bron;
   for (int i = 0; i < Ronden; ++i) {
@@ -177,12 +197,7 @@ TEST(Volgorde, DampersAndOutlets) {
     VerwachtKlepRuis(rooster);
     for (std::size_t b = 0; b < Banden; ++b) {
       const double x = Frequentie[b] * std::sqrt(rooster.Snetto / 10000);
-      double verwacht = rooster.demp[b];  // pieces of the table that are not written out here
-      if (ruimte.RDI == 1 && x <= 50) verwacht = -20 * Lg(x) + 40;
-      if (ruimte.RDI == 2 && x > 40 && x <= 80) verwacht = -11.667 * Lg(x) + 23.667;
-      if (ruimte.RDI == 4 && x > 50) verwacht = -5 * Lg(x) + 10;
-      if (ruimte.RDI == 8 && x > 20 && x <= 30) verwacht = -13.89 * Lg(x) + 23.06;
-      ASSERT_EQ(rooster.demp[b], Nul(verwacht));
+      ASSERT_EQ(rooster.demp[b], Nul(EindReflectie(ruimte.RDI, x)));
     }
   }
 }

@@ -55,6 +55,15 @@ TEST(Programma, AClosedOrFullStandardOutputIsFault61) {
 #endif
 }
 
+TEST(Programma, AFileThatMayNotGrowIsFault61AndLeavesNothing) {
+  const Proefmap map;
+  map.Zet(GoedProject(), "a.mrv");
+  EXPECT_EQ(Shell(map, "(ulimit -f 1; \"$CLI\" toon a.mrv -o a.json 2>err)"), 1);
+  EXPECT_EQ(map.Lees("err"), "a.json: Fout 61 - Schijf vol.\n");
+  EXPECT_FALSE(map.Heeft("a.json"));
+  EXPECT_EQ(Shell(map, "ls -A | grep -q murvane-"), 1);  // no half file beside it either
+}
+
 TEST(Programma, ClosedChannelsNeverWriteIntoAFile) {
   const Proefmap map;
   map.Zet(GoedProject(), "a.mrv");

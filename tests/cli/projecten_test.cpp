@@ -78,7 +78,8 @@ TEST(Toon, FaultsNameTheFileThatTheyAreOf) {
   const Proefmap map;
   const std::string goed = map.Zet(GoedProject(), "a.mrv");
   EXPECT_EQ(Draai({"toon", map / "weg.mrv"}).Err, map / "weg.mrv" + ": Fout 53 - Bestand niet gevonden.\n");
-  EXPECT_EQ(Draai({"toon", map / "a.txt"}).Err, map / "a.txt" + ": Fout 52 - Ongeldige bestandsnaam.\n");
+  EXPECT_EQ(Draai({"toon", map / "a.txt"}).Err,
+            map / "a.txt" + ": Fout 52 - Ongeldige bestandsnaam: een projectbestand eindigt op mrv.\n");
   EXPECT_EQ(Draai({"toon", goed, "-o", map / "weg/a.json"}).Err,
             map / "weg/a.json" + ": Fout 76 - Map niet gevonden.\n");
   EXPECT_EQ(Draai({"toon", goed, "-o", map / "weg/a.json"}).Code, 1);
@@ -133,7 +134,10 @@ TEST(Maak, WritesOnlyToNamesThatEndInMrvInSmallLetters) {
   for (const char* naam : {"a.MRV", "a.txt", "a"}) {
     const Afloop afloop = Draai({"maak", json, "-o", map / naam});
     EXPECT_EQ(afloop.Code, 1);
-    EXPECT_EQ(afloop.Err, map / naam + ": Fout 52 - Ongeldige bestandsnaam.\n");
+    EXPECT_EQ(afloop.Err,
+              map / naam +
+                  ": Fout 52 - Ongeldige bestandsnaam: een projectbestand eindigt op mrv, in kleine "
+                  "letters.\n");
     EXPECT_FALSE(map.Heeft(naam));
   }
   EXPECT_EQ(Draai({"maak", map / "weg.json", "-o", map / "a.mrv"}).Err,

@@ -128,8 +128,8 @@ TEST(RekenOpdracht, AFaultIsItsNumberWithTheFileAndStatus1) {
       {map / "weg.mrv", "Fout 53 - Bestand niet gevonden."},
       {map / "weg/weg.mrv", "Fout 76 - Map niet gevonden."},
       {tekst, "Fout 62 - Het bestand eindigt te vroeg."},
-      {map.ZetBytes("", "a.txt"), "Fout 52 - Ongeldige bestandsnaam."},
-      {map / "rv", "Fout 52 - Ongeldige bestandsnaam."},
+      {map.ZetBytes("", "a.txt"), "Fout 52 - Ongeldige bestandsnaam: een projectbestand eindigt op mrv."},
+      {map / "rv", "Fout 52 - Ongeldige bestandsnaam: een projectbestand eindigt op mrv."},
       {map / "map.mrv", "Fout 75 - Geen toegang tot het bestand of de map."},
       {teVeel, "Fout 9 - Index buiten het bereik."},
   };

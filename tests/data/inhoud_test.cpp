@@ -268,7 +268,7 @@ double Massawet(double massa, double frequentie) {
 
 double WandMassa(const std::string& naam) {
   static const std::regex vorm(
-      "(Verzinkt staal|Rvs staal|Aluminium|Kunststof) ([0-9,]+) mm(, massa ontdreuning ([0-9,]+) kg/m²)? "
+      "(Verzinkt staal|Roestvast staal|Aluminium|Kunststof) ([0-9,]+) mm(, massa ontdreuning ([0-9,]+) kg/m²)? "
       "\\(indicatief\\)");
   std::smatch deel;
   if (!std::regex_match(naam, deel, vorm)) throw Fout(FoutNummer::OngeldigArgument, naam);

@@ -70,6 +70,8 @@ TEST(Regel, TreatsBandFieldsOfFanAndRoomAsPlainTextWithOneDecimal) {
     SCOPED_TRACE(naam);
     EXPECT_EQ(Regel(naam).Soort, VeldSoort::Tekst);
     EXPECT_EQ(Regel(naam).Weergave, Formaat::Een);
+    EXPECT_EQ(Regel(naam).Onder, 0);  // without effect on a plain text
+    EXPECT_EQ(Regel(naam).Boven, 150);
   }
 }
 
@@ -211,7 +213,8 @@ TEST(ValiDate, RefusesOtherDatesAndKeepsThemAsTyped) {
         "31-09-2026"sv,  "31-11-2026"sv,  "32-01-2026"sv, "00-01-2026"sv, "01-00-2026"sv, "01-13-2026"sv,
         "31-12-0099"sv,  "01-01-0000"sv,  "1-1-2026"sv,   "01-01-26"sv,   "2026-01-01"sv, "01/01/2026"sv,
         "01.01.2026"sv,  "0a-01-2026"sv,  "01-01-20x6"sv, "-1-01-2026"sv, "01-+1-2026"sv, "01-01- 026"sv,
-        "01-01-20260"sv, "01-01-2026x"sv, "01012026"sv,   " "sv,          "\0"sv,         "morgen"sv}) {
+        "01-01-20260"sv, "01-01-2026x"sv, "01012026"sv,   "01/01-2026"sv, "01-01/2026"sv, " "sv,
+        "\0"sv,          "morgen"sv}) {
     SCOPED_TRACE(tekst);
     const Validatie uit = Valideer(tekst, "txtMyDate");
     EXPECT_FALSE(uit.Geldig);

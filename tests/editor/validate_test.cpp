@@ -807,6 +807,14 @@ TEST(NeemOver, HandsFlowAndSectionDownTheWholeChain) {
   EXPECT_EQ(project.Elementen[5].Debiet, 0);
 }
 
+TEST(NeemOver, HandsDownToTheLastElementOfTheArray) {
+  Project project = Goed(1);
+  ZetKeten(project, std::vector<int>(500, 99));
+  project.Elementen[1].Debiet = 0.25;
+  NeemOver(project, InvoerVan(project, '.'), '.');
+  EXPECT_EQ(project.Elementen[500].Debiet, 0.25);
+}
+
 TEST(NeemOver, HandsNothingDownWithANegativeCount) {
   Project project = Goed(1);
   project.ElementCount = -3;
@@ -871,6 +879,9 @@ TEST(NeemOver, SaysInDutchWhichFieldFaults) {
       {[](I& i) { i.txtLw[0] = "x"; }, "Fout 13 - Geen geldig getal (geluidsspectrum ventilator, 63 Hz)."},
       {[](I& i) { i.txtLw[6] = "NaN"; },
        "Fout 6 - Overloop: een getal is te groot of onbepaald (geluidsspectrum ventilator, 4000 Hz)."},
+      // 10^(9999/10) is beyond a double
+      {[](I& i) { i.txtLw[0] = "9999"; },
+       "Fout 6 - Overloop: een getal is te groot of onbepaald (geluidsspectrum ventilator)."},
       {overloop(&I::txtRBreedte), "Fout 6 - Overloop: een getal is te groot of onbepaald (vertrekbreedte)."},
       {overloop(&I::txtRHoogte), "Fout 6 - Overloop: een getal is te groot of onbepaald (vertrekhoogte)."},
       {overloop(&I::txtRLengte), "Fout 6 - Overloop: een getal is te groot of onbepaald (vertreklengte)."},
