@@ -1,1 +1,60 @@
-int main() { return 0; }
+// The program murvane.
+
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QStringList>
+#include <QTranslator>
+#include <chrono>
+#include <filesystem>
+#include <system_error>
+
+#include "editor/vensters_dialogen.h"
+#include "shell/MDIMurvane.h"
+#include "shell/opstart.h"
+#include "shell/startup.h"
+
+namespace {
+
+/// Dutch for the toolkit's own texts, whatever the system language: beside the program first.
+bool LaadVertaling(QTranslator& vertaling) {
+  const QStringList mappen = {QCoreApplication::applicationDirPath() + "/translations",
+                              QCoreApplication::applicationDirPath(),
+                              QLibraryInfo::path(QLibraryInfo::TranslationsPath)};
+  for (const QString& map : mappen) {
+    for (const auto* naam : {"qt_nl", "qtbase_nl"}) {
+      if (vertaling.load(naam, map) && !vertaling.isEmpty()) return true;
+    }
+  }
+  return false;
+}
+
+std::chrono::year_month_day Vandaag() {
+  const QDate datum = QDate::currentDate();
+  return {std::chrono::year(datum.year()), std::chrono::month(static_cast<unsigned>(datum.month())),
+          std::chrono::day(static_cast<unsigned>(datum.day()))};
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const char decimaal = murvane::RegionaalDecimaalteken();
+  QApplication toepassing(argc, argv);
+  QApplication::setApplicationName("MurVane");
+  QLocale::setDefault(QLocale(QLocale::Dutch, QLocale::Netherlands));
+  QTranslator vertaling;
+  if (LaadVertaling(vertaling)) QCoreApplication::installTranslator(&vertaling);
+
+  murvane::Programma programma;
+  murvane::SchermDialogen dialogen(nullptr);
+  const std::string opdrachtregel = QApplication::arguments().mid(1).join(' ').toStdString();
+  std::error_code geen;
+  const murvane::StartGegevens start{std::filesystem::current_path(geen), murvane::DatumTekst(Vandaag()),
+                                     opdrachtregel, decimaal};
+  if (murvane::MDIForm_Load(programma, dialogen, start) == murvane::Vervolg::Einde) return 0;
+  murvane::MDIMurvane hoofdvenster(programma, dialogen);
+  hoofdvenster.resize(1024, 740);
+  hoofdvenster.show();
+  hoofdvenster.OpenVanOpdrachtregel();
+  return QApplication::exec();
+}

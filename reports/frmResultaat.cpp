@@ -1,0 +1,55 @@
+#include "reports/frmResultaat.h"
+
+#include <QFont>
+#include <QTextCursor>
+#include <QTextEdit>
+
+#include "basis/vensters_hulp.h"
+
+namespace murvane {
+
+namespace {
+
+constexpr int Strook = 420 / 15;  // pixels above the text, for the toolbar
+
+/// The report's fixed-pitch font at a size in points, neither bold nor italic.
+QTextCharFormat Letter(double punten) {
+  QFont font("Courier New");
+  font.setStyleHint(QFont::Monospace);
+  font.setFixedPitch(true);
+  font.setPointSizeF(punten);
+  QTextCharFormat letter;
+  letter.setFont(font);
+  return letter;
+}
+
+void VoegToe(QTextCursor& cursor, const std::string& blok, double punten) {
+  cursor.insertText(VanCp(blok).remove('\r'), Letter(punten));
+}
+
+}  // namespace
+
+frmResultaat::frmResultaat(const Rapport& rapport, QWidget* ouder)
+    : QWidget(ouder), tekst_(new QTextEdit(this)) {
+  setObjectName("frmResultaat");
+  setWindowTitle("Berekeningsresultaten");
+  tekst_->setObjectName("RichTextBox1");
+  tekst_->setAccessibleName("Rapport van de berekening");
+  tekst_->setReadOnly(true);
+  tekst_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  tekst_->setLineWrapMode(QTextEdit::NoWrap);
+  QTextCursor cursor(tekst_->document());
+  VoegToe(cursor, rapport.RapProject, 12);
+  VoegToe(cursor, rapport.RapRuimte, 12);
+  for (const std::string* blok : {&rapport.RapHoofd, &rapport.RapElementen, &rapport.RapResultaat})
+    VoegToe(cursor, *blok, 7.2);
+  tekst_->moveCursor(QTextCursor::Start);
+  setFocusProxy(tekst_);
+}
+
+void frmResultaat::resizeEvent(QResizeEvent* gebeurtenis) {
+  QWidget::resizeEvent(gebeurtenis);
+  tekst_->setGeometry(0, Strook, width(), height() - Strook);
+}
+
+}  // namespace murvane

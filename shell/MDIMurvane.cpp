@@ -1,0 +1,253 @@
+#include "shell/MDIMurvane.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QStatusBar>
+#include <map>
+
+#include "basis/vensters_hulp.h"
+#include "calc/reken.h"
+#include "editor/frmMurvane.h"
+#include "reports/frmResultaat.h"
+#include "shell/bestandopdrachten.h"
+#include "shell/hoofdvenster.h"
+
+namespace murvane {
+
+namespace {
+
+QString Naam(std::string_view tekst) {
+  return QString::fromUtf8(tekst.data(), static_cast<qsizetype>(tekst.size()));
+}
+
+/// The window inside the main window that holds the project window; it cannot be closed by itself.
+class ProjectKader : public QMdiSubWindow {
+ protected:
+  void closeEvent(QCloseEvent* gebeurtenis) override { gebeurtenis->ignore(); }
+};
+
+}  // namespace
+
+MDIMurvane::MDIMurvane(Programma& programma, Dialogen& dialogen)
+    : programma_(programma),
+      dialogen_(dialogen),
+      gebied_(new QMdiArea(this)),
+      project_(new frmMurvane(programma.Project, programma.Catalogi, dialogen,
+                              std::string(programma.Vandaag.Heel()), programma.Decimaal)) {
+  setObjectName("MDIMurvane");
+  setWindowTitle(VanCp(ProgrammaTitel));
+  setWindowIcon(QIcon(":/shell/beelden/murvane.svg"));
+  setMinimumSize(MinBreedte / TwipsPerPixel, MinHoogte / TwipsPerPixel);
+  setCentralWidget(gebied_);
+  auto* kader = new ProjectKader;
+  kader->setWidget(project_);
+  kader->setWindowFlags(Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
+  gebied_->addSubWindow(kader);
+  kader->showMaximized();
+  MaakMenu();
+  MaakStatusbalk();
+  connect(project_, &frmMurvane::ToestandGewijzigd, this, &MDIMurvane::ToonToestand);
+  connect(project_, &frmMurvane::SluitVensters, this, &MDIMurvane::SluitVensters);
+  connect(project_, &frmMurvane::WisRapport, this, [this] { programma_.Rapport = {}; });
+  project_->ToonGeenProject();
+  ToonToestand();
+}
+
+void MDIMurvane::MaakMenu() {
+  std::map<std::string_view, QMenu*> menus;
+  for (const MenuItem& item : MenuBalk) {
+    if (item.Soort == MenuSoort::Menu || item.Soort == MenuSoort::SubMenu) {
+      QMenu* menu = item.In.empty() ? menuBar()->addMenu(VanCp(item.Opschrift))
+                                    : menus.at(item.In)->addMenu(VanCp(item.Opschrift));
+      menu->setObjectName(Naam(item.Naam));
+      menu->menuAction()->setObjectName(Naam(item.Naam));
+      menus[item.Naam] = menu;
+      continue;
+    }
+    QAction* actie = menus.at(item.In)->addAction(VanCp(item.Opschrift));
+    actie->setObjectName(Naam(item.Naam));
+    actie->setCheckable(item.Soort == MenuSoort::Keuze);
+    if (item.Soort != MenuSoort::Kop) continue;
+    actie->setEnabled(false);
+    menus.at(item.In)->addSeparator();
+  }
+  Verbind("mnuNieuw", &MDIMurvane::mnuNieuw);
+  Verbind("mnuOpen", &MDIMurvane::mnuOpen);
+  Verbind("mnuReken", &MDIMurvane::mnuReken);
+  Verbind("mnuPreview", &MDIMurvane::mnuPreview);
+  Verbind("mnuSluiten", &MDIMurvane::mnuSluiten);
+  Verbind("mnuOpslaan", &MDIMurvane::mnuOpslaan);
+  Verbind("mnuExit", &MDIMurvane::mnuExit);
+  Verbind("mnuGebruiker", &MDIMurvane::mnuGebruiker);
+  Verbind("mnuVent", &MDIMurvane::mnuVent);
+  Verbind("mnuUitstraling", &MDIMurvane::mnuUitstraling);
+  Verbind("mnuOverspraak", &MDIMurvane::mnuOverspraak);
+}
+
+void MDIMurvane::Verbind(std::string_view naam, void (MDIMurvane::*opdracht)()) {
+  auto* actie = findChild<QAction*>(Naam(naam));
+  actie->setProperty("opdracht", true);
+  // Whatever a command raises is told, and the program runs on with the project open.
+  connect(actie, &QAction::triggered, this, [this, naam, opdracht] {
+    try {
+      (this->*opdracht)();
+    } catch (...) {
+      (void)dialogen_.Toon(OnverwachteFout(std::string(naam) + "_Click", "MDIMurvane", HuidigeFout()));
+    }
+    ToonToestand();
+  });
+}
+
+void MDIMurvane::MaakStatusbalk() {
+  statusBar()->setObjectName("StatusBar1");
+  beeld_ = new QLabel(this);
+  paneel1_ = new QLabel(this);
+  paneel2_ = new QLabel(this);
+  paneel3_ = new QLabel(this);
+  beeld_->setObjectName("StatusBar1_1_beeld");
+  beeld_->setAccessibleName("Berekend");
+  beeld_->setPixmap(QIcon(":/shell/beelden/berekend.svg").pixmap(16, 16));
+  paneel1_->setObjectName("StatusBar1_1");
+  paneel2_->setObjectName("StatusBar1_2");
+  paneel3_->setObjectName("StatusBar1_3");
+  statusBar()->addWidget(beeld_);
+  statusBar()->addWidget(paneel1_, 2);
+  statusBar()->addWidget(paneel2_, 1);
+  statusBar()->addWidget(paneel3_, 1);
+}
+
+void MDIMurvane::ToonToestand() {
+  const Sessie& sessie = project_->DeSessie();
+  for (const MenuRegel& regel : MenuRegels) {
+    auto* actie = findChild<QAction*>(Naam(regel.Naam));
+    if (actie == nullptr) continue;
+    const bool bediend = actie->menu() != nullptr || actie->property("opdracht").toBool();
+    actie->setEnabled(bediend && MenuAan(regel.Naam, sessie.Toestand));
+  }
+  for (const TypeRegel& regel : TypeRegels)
+    findChild<QAction*>(Naam(regel.Menu))->setChecked(regel.RekenType == programma_.Project.Kop.RekenType);
+  const StatusBalk balk = StatusVan(sessie, programma_.Project);
+  beeld_->setVisible(balk.Paneel1Beeld != 0);
+  paneel1_->setText(VanCp(balk.Paneel1));
+  paneel2_->setText(VanCp(balk.Paneel2));
+  paneel3_->setText(VanCp(balk.Paneel3));
+}
+
+void MDIMurvane::Voer(const Gevolg& gevolg) {
+  if (gevolg.SluitVensters) SluitVensters();
+  if (gevolg.WisRapport) programma_.Rapport = {};
+}
+
+void MDIMurvane::SluitVensters() {
+  const auto vensters = gebied_->subWindowList(QMdiArea::CreationOrder);
+  for (auto venster = vensters.rbegin(); venster != vensters.rend(); ++venster) {
+    if ((*venster)->widget() != project_) (*venster)->close();
+  }
+}
+
+void MDIMurvane::SluitHetProject() {
+  Voer(SluitProject(project_->DeSessie(), project_->DeLijst(), programma_.Project));
+  SluitVensters();
+  project_->ToonGeenProject();
+}
+
+void MDIMurvane::mnuNieuw() {
+  Voer(Reset(project_->DeSessie(), project_->DeLijst(), programma_.Project));
+  mnuNieuw_Click(programma_);
+  ZetNieuw(project_->DeSessie(), project_->DeLijst());
+  project_->ToonProject(true);
+}
+
+void MDIMurvane::mnuOpen() {
+  const OpenUitkomst uitkomst = mnuOpen_Click(programma_, dialogen_);
+  if (!uitkomst.Geopend) {
+    Settings(project_->DeSessie());
+    return;
+  }
+  Voer(ZetGeopend(project_->DeSessie(), project_->DeLijst(), uitkomst.Panel1));
+  project_->ToonProject(true);
+}
+
+void MDIMurvane::OpenVanOpdrachtregel() {
+  if (programma_.OpenBestand.empty()) return;
+  mnuOpen();
+  ToonToestand();
+}
+
+void MDIMurvane::mnuReken() {
+  try {
+    if (!project_->NeemOverEnBeoordeel()) return;
+    const Zandloper zandloper(dialogen_);
+    const int aantal = programma_.Project.ElementCount;
+    project_->ZetVoortgang(aantal, aantal);
+    Reken(programma_.Project, programma_.Resultaten, programma_.Decimaal);
+    Afdruk(programma_.Project, programma_.Resultaten, programma_.Instellingen.Gebruikersnaam,
+           programma_.Decimaal, programma_.Rapport);
+  } catch (...) {
+    project_->ZetVoortgang(0, 0);
+    (void)dialogen_.Toon(OnverwachteFout("Reken", "frmMurvane", HuidigeFout()));
+    return;
+  }
+  resultaat_ = new frmResultaat(programma_.Rapport);
+  auto* kader = gebied_->addSubWindow(resultaat_);
+  kader->setAttribute(Qt::WA_DeleteOnClose);
+  Voer(Berekend(project_->DeSessie(), vlag::Berekend, ""));
+  project_->ZetVoortgang(0, 0);
+  kader->showMaximized();
+}
+
+void MDIMurvane::mnuPreview() {
+  if (resultaat_ == nullptr) {
+    resultaat_ = new frmResultaat(programma_.Rapport);
+    gebied_->addSubWindow(resultaat_)->setAttribute(Qt::WA_DeleteOnClose);
+  }
+  auto* kader = qobject_cast<QMdiSubWindow*>(resultaat_->parentWidget());
+  kader->showMaximized();
+  gebied_->setActiveSubWindow(kader);
+}
+
+void MDIMurvane::mnuSluiten() {
+  if (mnuSluiten_Click(programma_, dialogen_)) SluitHetProject();
+}
+
+void MDIMurvane::mnuOpslaan() {
+  project_->BewaarVeld();
+  if (OpSlag(programma_, dialogen_) == OpslagUitkomst::Gesloten) SluitHetProject();
+}
+
+void MDIMurvane::mnuExit() {
+  if (mnuExit_Click(programma_, dialogen_, ProjectOpen(project_->DeSessie())) == Vervolg::GaatDoor) return;
+  einde_ = true;
+  close();
+}
+
+void MDIMurvane::mnuGebruiker() {
+  mnuGebruiker_Click(programma_, dialogen_);
+}
+
+void MDIMurvane::mnuVent() {
+  project_->KiesType(rekentype::Installatiegeluid);
+}
+
+void MDIMurvane::mnuUitstraling() {
+  project_->KiesType(rekentype::Geluidsuitstraling);
+}
+
+void MDIMurvane::mnuOverspraak() {
+  project_->KiesType(rekentype::Overspraak);
+}
+
+void MDIMurvane::closeEvent(QCloseEvent* gebeurtenis) {
+  if (!einde_) {
+    project_->BewaarVeld();
+    einde_ = Form_Unload(programma_, dialogen_, ProjectOpen(project_->DeSessie())) == Vervolg::Einde;
+  }
+  gebeurtenis->setAccepted(einde_);
+}
+
+}  // namespace murvane

@@ -1,0 +1,67 @@
+#pragma once
+// The main window: menus, status bar, the project window and the result windows inside it.
+
+#include <QMainWindow>
+#include <QPointer>
+#include <string_view>
+
+#include "editor/dialogen.h"
+#include "editor/sessie.h"
+#include "shell/programma.h"
+
+class QLabel;
+class QMdiArea;
+
+namespace murvane {
+
+class frmMurvane;
+class frmResultaat;
+
+class MDIMurvane : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  /// `programma` and `dialogen` outlive the window. The program has been started (MDIForm_Load).
+  MDIMurvane(Programma& programma, Dialogen& dialogen);
+
+  /// Opens the project that the command line named, if any.
+  void OpenVanOpdrachtregel();
+
+ protected:
+  void closeEvent(QCloseEvent* gebeurtenis) override;
+
+ private:
+  void MaakMenu();
+  void MaakStatusbalk();
+  void Verbind(std::string_view naam, void (MDIMurvane::*opdracht)());
+
+  void mnuNieuw();
+  void mnuOpen();
+  void mnuReken();
+  void mnuPreview();
+  void mnuSluiten();
+  void mnuOpslaan();
+  void mnuExit();
+  void mnuGebruiker();
+  void mnuVent();
+  void mnuUitstraling();
+  void mnuOverspraak();
+
+  void Voer(const Gevolg& gevolg);
+  void SluitVensters();
+  void ToonToestand();
+  void SluitHetProject();
+
+  Programma& programma_;
+  Dialogen& dialogen_;
+  QMdiArea* gebied_;
+  frmMurvane* project_;
+  QPointer<frmResultaat> resultaat_;
+  QLabel* beeld_ = nullptr;
+  QLabel* paneel1_ = nullptr;
+  QLabel* paneel2_ = nullptr;
+  QLabel* paneel3_ = nullptr;
+  bool einde_ = false;
+};
+
+}  // namespace murvane

@@ -1,0 +1,65 @@
+#pragma once
+// The main window without the window: its menu bar as a table.
+
+#include <array>
+#include <cstdint>
+#include <string_view>
+
+namespace murvane {
+
+enum class MenuSoort : std::uint8_t {
+  Menu,      ///< a menu of the bar
+  Kop,       ///< a heading inside a menu, no command
+  Opdracht,  ///< a command
+  SubMenu,   ///< a menu inside a menu
+  Keuze,     ///< a command that can be checked
+};
+
+/// One entry of the menu bar; it stands in the menu `In`, in the order of the table. Captions are
+/// Windows-1252; "&" is the mnemonic.
+struct MenuItem {
+  std::string_view In;  ///< empty for a menu of the bar
+  std::string_view Naam;
+  std::string_view Opschrift;
+  MenuSoort Soort;
+};
+
+inline constexpr auto MenuBalk = std::to_array<MenuItem>({
+    {"", "mnuBestand", "Berekening", MenuSoort::Menu},
+    {"mnuBestand", "mnuBestandSB", "Berekening..", MenuSoort::Kop},
+    {"mnuBestand", "mnuNieuw", "&Nieuw", MenuSoort::Opdracht},
+    {"mnuBestand", "mnuOpen", "&Openen", MenuSoort::Opdracht},
+    {"mnuBestand", "mnuReken", "S&tart berekening", MenuSoort::Opdracht},
+    {"mnuBestand", "mnuPreview", "Berekenin&gsresultaten", MenuSoort::Opdracht},
+    {"mnuBestand", "mnuSluiten", "&Sluiten", MenuSoort::Opdracht},
+    {"mnuBestand", "mnuOpslaan", "O&pslaan", MenuSoort::Opdracht},
+    {"mnuBestand", "mnuAfdrukken", "&Afdrukken", MenuSoort::Opdracht},
+    {"mnuBestand", "mnuExit", "&Exit", MenuSoort::Opdracht},
+    {"", "mnuBeheer", "Lijsten", MenuSoort::Menu},
+    {"mnuBeheer", "mnuBeheerSB", "Lijsten..", MenuSoort::Kop},
+    {"mnuBeheer", "mnuElementen", "&Kanaalelementen", MenuSoort::Opdracht},
+    {"mnuBeheer", "mnuFan", "&Ventilatoren", MenuSoort::Opdracht},
+    {"mnuBeheer", "mnuDuct", "&Luchtkanalen", MenuSoort::Opdracht},
+    {"mnuBeheer", "mnuPlafonds", "Pla&fonds", MenuSoort::Opdracht},
+    {"", "mnuInstel", "Instellingen", MenuSoort::Menu},
+    {"mnuInstel", "mnuInstelSB", "Instelling..", MenuSoort::Kop},
+    {"mnuInstel", "mnuLetterType", "Lettert&ype", MenuSoort::Opdracht},
+    {"mnuInstel", "mnuGebruiker", "Gebruike&rsnaam", MenuSoort::Opdracht},
+    {"mnuInstel", "mnuTypReken", "Type berekening", MenuSoort::SubMenu},
+    {"mnuTypReken", "mnuVent", "Installatiegeluid (roosters)", MenuSoort::Keuze},
+    {"mnuTypReken", "mnuUitstraling", "Geluidsuitstraling (kanalen)", MenuSoort::Keuze},
+    {"mnuTypReken", "mnuOverspraak", "Overspraak (roosters)", MenuSoort::Keuze},
+    {"", "mnuVenster", "Venster", MenuSoort::Menu},
+    {"", "mnuHelp", "Help", MenuSoort::Menu},
+    {"mnuHelp", "mnuHelpSB", "Info..", MenuSoort::Kop},
+    {"mnuHelp", "mnuCalc", "&Calculator", MenuSoort::Opdracht},
+    {"mnuHelp", "mnuHelpFile", "&Help", MenuSoort::Opdracht},
+    {"mnuHelp", "mnuInfo", "&Info over MurVane", MenuSoort::Opdracht},
+});
+
+/// The least size of the main window, twips; 15 twips are one logical pixel.
+inline constexpr int MinBreedte = 9600;
+inline constexpr int MinHoogte = 7200;
+inline constexpr int TwipsPerPixel = 15;
+
+}  // namespace murvane
