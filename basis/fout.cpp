@@ -1,5 +1,7 @@
 #include "basis/fout.h"
 
+#include <filesystem>
+#include <new>
 #include <utility>
 
 namespace murvane {
@@ -59,6 +61,20 @@ Fout Fout::MetPlaats(std::string plaats) const {
 
 Fout Fout::MetBestand(std::string bestand) const {
   return bestand_.empty() ? Fout(nummer_, omschrijving_, plaats_, std::move(bestand)) : *this;
+}
+
+Fout HuidigeFout() {
+  try {
+    throw;
+  } catch (const Fout& fout) {
+    return fout;
+  } catch (const std::bad_alloc&) {
+    return Fout(FoutNummer::OnvoldoendeGeheugen);
+  } catch (const std::filesystem::filesystem_error&) {
+    return Fout(FoutNummer::PadToegang);
+  } catch (...) {
+    return Fout(FoutNummer::InterneFout);
+  }
 }
 
 }  // namespace murvane

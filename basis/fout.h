@@ -65,4 +65,8 @@ auto OverBestand(const std::string& bestand, Werk werk) {
   }
 }
 
+/// The exception that is being handled, as a Fout: a Fout itself, 7 for a lack of memory, 75 for a failure of
+/// the file system, 51 for anything else. Only to be called where an exception was caught.
+[[nodiscard]] Fout HuidigeFout();
+
 }  // namespace murvane

@@ -1,6 +1,7 @@
 #include "basis/tekst.h"
 
 #include <cstdint>
+#include <optional>
 
 #include "basis/fout.h"
 
@@ -61,11 +62,17 @@ char32_t NeemPunt(std::string_view& rest) {
   return punt;
 }
 
-char NaarByte(char32_t punt) {
+/// The byte of a code point, where the code page has one.
+std::optional<char> ByteVan(char32_t punt) {
   if (punt < 0x80 || (punt >= 0xA0 && punt < 0x100)) return static_cast<char>(punt);
   for (std::size_t i = 0; i < HogeTekens.size(); ++i) {
     if (HogeTekens[i] == punt) return static_cast<char>(0x80 + i);
   }
+  return std::nullopt;
+}
+
+char NaarByte(char32_t punt) {
+  if (const auto byte = ByteVan(punt)) return *byte;
   std::string teken;
   VoegUtf8Toe(teken, punt > 0xFFFF ? char32_t{0xFFFD} : punt);
   throw Fout(FoutNummer::OngeldigArgument,
@@ -99,6 +106,21 @@ std::string NaarCp1252(std::string_view utf8) {
   std::string uit;
   uit.reserve(utf8.size());
   while (!utf8.empty()) uit += NaarByte(NeemPunt(utf8));
+  return uit;
+}
+
+std::string NaarCp1252Getoond(std::string_view utf8) {
+  constexpr char Onbekend = '?';
+  std::string uit;
+  uit.reserve(utf8.size());
+  while (!utf8.empty()) {
+    try {
+      uit += ByteVan(NeemPunt(utf8)).value_or(Onbekend);
+    } catch (const Fout&) {
+      uit += Onbekend;
+      utf8.remove_prefix(1);
+    }
+  }
   return uit;
 }
 

@@ -50,6 +50,9 @@ class Tekst {
 [[nodiscard]] std::string NaarUtf8(std::string_view cp1252);
 /// UTF-8 to Windows-1252. Fout 5 for text that is not UTF-8 or has a character outside the code page.
 [[nodiscard]] std::string NaarCp1252(std::string_view utf8);
+/// The same for a text that is only shown, as a file's name: "?" for each character outside the code page and
+/// for each byte that is no part of UTF-8.
+[[nodiscard]] std::string NaarCp1252Getoond(std::string_view utf8);
 
 namespace intern {
 

@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <new>
 #include <set>
+#include <stdexcept>
 #include <string>
 
 namespace murvane {
@@ -68,6 +71,28 @@ TEST(Fout, CanBeCaughtAsAStandardException) {
   } catch (const std::exception& fout) {
     EXPECT_STREQ(fout.what(), "Deling door nul");
   }
+}
+
+template <typename T>
+Fout Gevangen(const T& iets) {
+  try {
+    throw iets;
+  } catch (...) {
+    return HuidigeFout();
+  }
+}
+
+TEST(HuidigeFout, IsTheFoutThatWasCaught) {
+  const Fout fout = Gevangen(Fout(FoutNummer::GeenGetal, "Geen getal", "regel 2", "één.set"));
+  EXPECT_EQ(fout.Melding(), "Fout 13 - Geen getal (regel 2).");
+  EXPECT_EQ(fout.Bestand(), "één.set");
+}
+
+TEST(HuidigeFout, GivesOtherExceptionsTheirNumber) {
+  EXPECT_EQ(Gevangen(std::bad_alloc()).Nummer(), FoutNummer::OnvoldoendeGeheugen);
+  EXPECT_EQ(Gevangen(std::filesystem::filesystem_error("pad", {})).Nummer(), FoutNummer::PadToegang);
+  EXPECT_EQ(Gevangen(std::runtime_error("iets")).Nummer(), FoutNummer::InterneFout);
+  EXPECT_EQ(Gevangen(7).Nummer(), FoutNummer::InterneFout);
 }
 
 }  // namespace

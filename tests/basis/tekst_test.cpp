@@ -147,5 +147,25 @@ TEST(Codepagina, LiteralsAreConvertedWhenCompiled) {
   EXPECT_EQ("cm² m³/s é"_cp, NaarCp1252("cm² m³/s é"));
 }
 
+TEST(NaarCp1252Getoond, PutsAQuestionMarkForWhatTheCodePageLacks) {
+  const struct {
+    const char* utf8;
+    std::string_view getoond;
+  } rijen[] = {
+      {"", ""},
+      {"één × 5 m³.mrv", "één × 5 m³.mrv"_cp},
+      {"€", "\x80"},
+      {"Ωhm.mrv", "?hm.mrv"},
+      {"日本", "??"},
+      {"\xF0\x9F\x98\x80!", "?!"},  // one character of four bytes
+      {"a\xFFz", "a?z"},            // no UTF-8
+      {"\xC3z", "?z"},              // cut in two
+      {"\xE2\x82", "??"},           // cut at the end: each byte by itself
+      {"\xC0\xAF", "??"},           // not the shortest form
+      {"\xED\xA0\x80", "???"},      // a surrogate
+  };
+  for (const auto& rij : rijen) EXPECT_EQ(NaarCp1252Getoond(rij.utf8), rij.getoond) << rij.utf8;
+}
+
 }  // namespace
 }  // namespace murvane

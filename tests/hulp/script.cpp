@@ -1,0 +1,92 @@
+#include "tests/hulp/script.h"
+
+#include <utility>
+
+#include "basis/bestand.h"
+#include "basis/tekst.h"
+
+namespace murvane::proef {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string Woorden(const Melding& m) {
+  return "box " + std::to_string(static_cast<int>(m.Soort)) + "/" +
+         std::to_string(static_cast<int>(m.Knoppen)) + " [" + m.Titel + "] " + m.Tekst;
+}
+std::string Woorden(const InvoerVraag& v) {
+  return "input box [" + v.Titel + "] " + v.Tekst + " {" + v.Standaard + "}";
+}
+std::string Woorden(const BestandVraag& v) {
+  return " dialog [" + v.Titel + "] " + v.Filter + " in {" + PadTekst(v.BeginMap) + "} name {" +
+         PadTekst(v.Naam) + "}" + (v.OverschrijfVraag ? " overwrite-prompt" : "") +
+         (v.BestandMoetBestaan ? " must-exist" : "") + (v.MapBlijft ? " keep-directory" : "");
+}
+
+}  // namespace
+
+Script& Script::Voeg(Stap stap) {
+  stappen_.push_back(std::move(stap));
+  return *this;
+}
+
+Script& Script::Box(const Melding& melding, Antwoord antwoord, Intussen intussen) {
+  return Voeg({Woorden(melding), antwoord, {}, {}, std::move(intussen)});
+}
+Script& Script::InvoerBox(const InvoerVraag& vraag, const std::string& antwoord) {
+  return Voeg({Woorden(vraag), {}, antwoord, {}, {}});
+}
+Script& Script::Open(const BestandVraag& vraag, std::optional<fs::path> antwoord, Intussen intussen) {
+  return Voeg({"open" + Woorden(vraag), {}, {}, std::move(antwoord), std::move(intussen)});
+}
+Script& Script::Opslaan(const BestandVraag& vraag, std::optional<fs::path> antwoord, Intussen intussen) {
+  return Voeg({"save" + Woorden(vraag), {}, {}, std::move(antwoord), std::move(intussen)});
+}
+
+void Script::IsKlaar() {
+  for (const Stap& stap : stappen_) meldFout_("never asked: " + NaarUtf8(stap.Vraag));
+  stappen_.clear();
+  if (wacht_) meldFout_("the wait cursor was left");
+  wacht_ = false;
+}
+
+Script::Stap Script::Neem(const std::string& vraag) {
+  if (wacht_) meldFout_("asked under the wait cursor: " + NaarUtf8(vraag));
+  if (stappen_.empty() || stappen_.front().Vraag != vraag) {
+    const std::string verwacht = stappen_.empty() ? "nothing" : stappen_.front().Vraag;
+    meldFout_("asked: " + NaarUtf8(vraag) + "\nexpected: " + NaarUtf8(verwacht));
+    return {};
+  }
+  Stap stap = std::move(stappen_.front());
+  stappen_.pop_front();
+  if (stap.Onderwijl) stap.Onderwijl();
+  return stap;
+}
+
+fs::path Script::NeemPad(const std::string& vraag) {
+  const Stap stap = Neem(vraag);
+  if (!stap.Pad) throw Fout(FoutNummer::DialoogGeannuleerd);
+  return *stap.Pad;
+}
+
+Antwoord Script::Toon(const Melding& melding) {
+  return Neem(Woorden(melding)).Gekozen;
+}
+std::string Script::Invoer(const InvoerVraag& vraag) {
+  return Neem(Woorden(vraag)).Tekst;
+}
+fs::path Script::OpenDialoog(const BestandVraag& vraag) {
+  return NeemPad("open" + Woorden(vraag));
+}
+fs::path Script::OpslaanDialoog(const BestandVraag& vraag) {
+  return NeemPad("save" + Woorden(vraag));
+}
+
+void Script::Wachten(bool aan) {
+  if (aan == wacht_) meldFout_(aan ? "waits already" : "does not wait");
+  wacht_ = aan;
+  if (aan) ++keerGewacht_;
+}
+
+}  // namespace murvane::proef
