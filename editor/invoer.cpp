@@ -15,60 +15,72 @@ namespace {
 using enum VeldSoort;
 using enum Formaat;
 
+constexpr std::string_view Getal = "1234567890,.";
+constexpr std::string_view Cijferreeks = "1234567890";
+constexpr std::string_view DatumTekens = "1234567890-";
+
 /// The limits of fields of plain text have no effect; those of the band fields are what the labels promise.
+/// Name, kind, limits, format, keys, number of the change event, record field, Enter; of an array its first
+/// index and its length. The later txtdemp are the attenuation of a catalogue element, which is only shown.
+// clang-format off
 constexpr auto Velden = std::to_array<VeldRegel>({
     // fan
-    {"txtSpectrum", VeldSoort::Tekst, 0, 0, Heel},
-    {"txtLw", VeldSoort::Tekst, 0, 150, Een},
-    {"txtfan(0)", Numeriek, 0, 150, Twee},
-    {"txtfan(1)", Numeriek, 0, 100000, Heel},
-    {"txtfan(2)", Numeriek, 0, 100000, Heel},
-    {"txtfan(3)", Numeriek, 0, 50, Heel},
-    {"txtfan(4)", Numeriek, 0, 100000, Heel},
+    {"txtSpectrum", VeldSoort::Tekst, 0, 0, Heel, {}, 38, &FanRec::FanNaam, {}},
+    {"txtLw", VeldSoort::Tekst, 0, 150, Een, Getal, 20, &FanRec::Lw, {}, 0, 7},
+    {"txtfan(0)", Numeriek, 0, 150, Twee, Getal, 0, &FanRec::FanDebiet, {}, 0, 5},
+    {"txtfan(1)", Numeriek, 0, 100000, Heel, Cijferreeks, 0, &FanRec::FanDruk, {}, 0, 5},
+    {"txtfan(2)", Numeriek, 0, 100000, Heel, Cijferreeks, 0, &FanRec::FanToeren, {}, 0, 5},
+    {"txtfan(3)", Numeriek, 0, 50, Heel, Cijferreeks, 0, &FanRec::FanSchoepen, {}, 0, 5},
+    {"txtfan(4)", Numeriek, 0, 100000, Heel, Cijferreeks, 0, &FanRec::FanVermogen, {}, 0, 5},
     // ducts and bends
-    {"txtHoogte", Numeriek, 0, 5000, Heel},
-    {"txtBreedte", Numeriek, 0, 5000, Heel},
-    {"txtLengte", Numeriek, 0, 100, Een},
-    {"txtDebiet", Numeriek, 0, 5000, Twee},
-    {"txtdemp", Numeriek, 0, 150, Een},
+    {"txtHoogte", Numeriek, 0, 5000, Heel, Getal, 17, &ElementRec::Hoogte,
+     {"txtBreedte", "txtLengte", "txtDebiet", "lstProject"}},
+    {"txtBreedte", Numeriek, 0, 5000, Heel, Getal, 9, &ElementRec::Breedte,
+     {"txtLengte", "txtDebiet", "txtHoogte"}},
+    {"txtLengte", Numeriek, 0, 100, Een, Getal, 19, &ElementRec::Lengte, {"txtDebiet", "txtHoogte"}},
+    {"txtDebiet", Numeriek, 0, 5000, Twee, Getal, 10, &ElementRec::Debiet, {"txtHoogte"}},
+    {"txtdemp", Numeriek, 0, 150, Een, Getal, 11, &ElementRec::LAeq, {}, 0, 7},
     // branches
-    {"txtHAftak", Numeriek, 0, 5000, Heel},
-    {"txtBAftak", Numeriek, 0, 5000, Heel},
-    {"txtHHoofd", Numeriek, 0, 5000, Heel},
-    {"txtBHoofd", Numeriek, 0, 5000, Heel},
-    {"txtHDoor", Numeriek, 0, 5000, Heel},
-    {"txtBDoor", Numeriek, 0, 5000, Heel},
-    {"txtQAftak", Numeriek, 0, 5000, Twee},
-    {"txtRAftak", Numeriek, 0, 1, Twee},
+    {"txtHAftak", Numeriek, 0, 5000, Heel, Getal, 14, &ElementRec::Hoogte, {"txtBAftak", "txtRAftak"}},
+    {"txtBAftak", Numeriek, 0, 5000, Heel, Getal, 6, &ElementRec::Breedte, {"txtRAftak"}},
+    {"txtHHoofd", Numeriek, 0, 5000, Heel, Getal, 16, &ElementRec::HHoofd, {"txtBHoofd"}},
+    {"txtBHoofd", Numeriek, 0, 5000, Heel, Getal, 8, &ElementRec::BHoofd, {"txtHDoor"}},
+    {"txtHDoor", Numeriek, 0, 5000, Heel, Getal, 15, &ElementRec::HDoor, {"txtBDoor"}},
+    {"txtBDoor", Numeriek, 0, 5000, Heel, Getal, 7, &ElementRec::BDoor, {"txtHHoofd"}},
+    {"txtQAftak", Numeriek, 0, 5000, Twee, Getal, 25, &ElementRec::QAftak, {"txtHAftak"}},
+    {"txtRAftak", Numeriek, 0, 1, Twee, Getal, 27, &ElementRec::RAftak, {"txtQAftak", "txtHAftak"}},
     // section changes
-    {"txtH1Doorsnee", Numeriek, 0, 5000, Heel},
-    {"txtB1Doorsnee", Numeriek, 0, 5000, Heel},
-    {"txtH2Doorsnee", Numeriek, 0, 5000, Heel},
-    {"txtB2Doorsnee", Numeriek, 0, 5000, Heel},
-    {"txtLDoorsnee", Numeriek, 0, 100, Twee},
+    {"txtH1Doorsnee", Numeriek, 0, 5000, Heel, Getal, 12, &ElementRec::HHoofd,
+     {"txtB1Doorsnee", "txtH2Doorsnee"}},
+    {"txtB1Doorsnee", Numeriek, 0, 5000, Heel, Getal, 4, &ElementRec::BHoofd, {"txtH2Doorsnee"}},
+    {"txtH2Doorsnee", Numeriek, 0, 5000, Heel, Getal, 13, &ElementRec::HDoor, {"txtB2Doorsnee"}},
+    {"txtB2Doorsnee", Numeriek, 0, 5000, Heel, Getal, 5, &ElementRec::BDoor, {"txtLDoorsnee"}},
+    {"txtLDoorsnee", Numeriek, 0, 100, Twee, Getal, 18, &ElementRec::Lengte, {"txtH1Doorsnee"}},
     // dampers, outlets, catalogue elements
-    {"txtSnetto", Numeriek, 0, 5000, Heel},
-    {"txtWeerstand", Numeriek, 0, 5000, Heel},
-    {"txtruis", VeldSoort::Tekst, 0, 150, Een},
+    {"txtSnetto", Numeriek, 0, 5000, Heel, Getal, 37, &ElementRec::Snetto, {"txtWeerstand"}},
+    {"txtWeerstand", Numeriek, 0, 5000, Heel, Getal, 42, &ElementRec::Weerstand, {"txtSnetto", "lstProject"}},
+    {"txtdemp", VeldSoort::Tekst, 0, 150, Een, Getal, 11, &ElementRec::demp, {}, 7, 7, true},
+    {"txtruis", VeldSoort::Tekst, 0, 150, Een, Getal, 36, &ElementRec::ruis, {}, 0, 7, true},
     // room
-    {"txtRLengte", Numeriek, 0, 300, Een},
-    {"txtRBreedte", Numeriek, 0, 300, Een},
-    {"txtRHoogte", Numeriek, 0, 10, Een},
-    {"txtRNagalm", Numeriek, 0, 10, Twee},
-    {"txtRNR", Numeriek, 0, 150, Heel},
-    {"txtRDI", Numeriek, 1, 8, Heel},
-    {"txtRAantal", Numeriek, 0, 50, Heel},
-    {"txtRkanaal", VeldSoort::Tekst, 0, 150, Een},
-    {"txtRplafond", VeldSoort::Tekst, 0, 150, Een},
+    {"txtRLengte", Numeriek, 0, 300, Een, Getal, 33, &RuimteRec::RLengte, {"txtRBreedte"}},
+    {"txtRBreedte", Numeriek, 0, 300, Een, Getal, 29, &RuimteRec::RBreedte, {"txtRHoogte"}},
+    {"txtRHoogte", Numeriek, 0, 10, Een, Getal, 31, &RuimteRec::RHoogte, {"txtRNagalm"}},
+    {"txtRNagalm", Numeriek, 0, 10, Twee, Getal, 34, &RuimteRec::RNagalm, {"txtRNR"}},
+    {"txtRNR", Numeriek, 0, 150, Heel, Getal, 0, &RuimteRec::RNR, {"txtRDI", "txtRAantal", "txtRLengte"}},
+    {"txtRDI", Numeriek, 1, 8, Heel, Getal, 30, &RuimteRec::RDI, {"txtRAantal", "txtRLengte"}},
+    {"txtRAantal", Numeriek, 0, 50, Heel, Getal, 26, &RuimteRec::RAantal, {"txtRLengte"}},
+    {"txtRkanaal", VeldSoort::Tekst, 0, 150, Een, Getal, 32, &RuimteRec::Rkanaal, {}, 0, 7},
+    {"txtRplafond", VeldSoort::Tekst, 0, 150, Een, Getal, 35, &RuimteRec::Rplafond, {}, 0, 7},
     // project
-    {"txtProNaam", VeldSoort::Tekst, 0, 0, Heel},
-    {"txtProNum", VeldSoort::Tekst, 0, 0, Heel},
-    {"txtMyDate", Datum, -1e99, 1e99, Heel},
-    {"txtOmschrijving", VeldSoort::Tekst, 0, 0, Heel},
-    {"txtToelichting1", VeldSoort::Tekst, 0, 0, Heel},
-    {"txtToelichting2", VeldSoort::Tekst, 0, 0, Heel},
-    {"txtToelichting3", VeldSoort::Tekst, 0, 0, Heel},
+    {"txtProNaam", VeldSoort::Tekst, 0, 0, Heel, {}, 23, &ProjectRec::ProNaam, {"txtOmschrijving"}},
+    {"txtProNum", VeldSoort::Tekst, 0, 0, Heel, {}, 24, &ProjectRec::ProNum, {"txtMyDate"}},
+    {"txtMyDate", Datum, -1e99, 1e99, Heel, DatumTekens, 21, &ProjectRec::MyDate, {"txtProNaam"}},
+    {"txtOmschrijving", VeldSoort::Tekst, 0, 0, Heel, {}, 22, &ProjectRec::Omschrijving, {"txtToelichting1"}},
+    {"txtToelichting1", VeldSoort::Tekst, 0, 0, Heel, {}, 39, &ProjectRec::Toelichting1, {"txtToelichting2"}},
+    {"txtToelichting2", VeldSoort::Tekst, 0, 0, Heel, {}, 40, &ProjectRec::Toelichting2, {"txtToelichting3"}},
+    {"txtToelichting3", VeldSoort::Tekst, 0, 0, Heel, {}, 41, &ProjectRec::Toelichting3, {"txtProNum"}},
 });
+// clang-format on
 
 constexpr int Code(char c) {
   return static_cast<unsigned char>(c);
@@ -131,24 +143,94 @@ Validatie Ongeldig(std::string_view tekst, std::string_view toolTip) {
 
 Validatie ValiDateGetal(std::string_view tekst, const VeldRegel& regel, char decimaal) {
   const std::string_view werk = tekst.empty() ? "0" : tekst;
-  if (!IsNumeriek(werk)) return Ongeldig(tekst, "Voer geldig getal in");
+  if (!IsNumeriek(werk)) return Ongeldig(tekst, GeenGeldigGetal);
   const double getal = std::clamp(LeesGetal(werk), regel.Onder, regel.Boven);
   return Geldig(Opmaak(getal, regel.Weergave, decimaal), LeesGetal(Opmaak(getal, regel.Weergave, '.')));
 }
 
 Validatie ValiDateDatum(std::string_view tekst, std::string_view vandaag) {
   const std::string_view werk = Trim(tekst.empty() ? vandaag : tekst);
-  if (!IsDatum(werk)) return Ongeldig(tekst, "Voer geldige datum in (dd-mm-yyyy)");
+  if (!IsDatum(werk)) return Ongeldig(tekst, GeenGeldigeDatum);
   return Geldig(std::string(werk));
+}
+
+/// The name of a rule without the index that some have.
+constexpr std::string_view Reeksnaam(std::string_view naam) {
+  return naam.substr(0, naam.find('('));
+}
+
+bool Beschrijft(const VeldRegel& regel, VeldId veld) {
+  if (Reeksnaam(regel.Naam) != veld.Naam) return false;
+  if (regel.Aantal == 0) return veld.Index == -1;
+  if (regel.Naam != veld.Naam)
+    return regel.Naam.substr(veld.Naam.size() + 1) == std::to_string(veld.Index) + ")";
+  return veld.Index >= regel.Eerste && veld.Index < regel.Eerste + regel.Aantal;
+}
+
+template <typename Voorwaarde>
+const VeldRegel& Zoek(Voorwaarde voldoet) {
+  const auto* const regel = std::find_if(Velden.begin(), Velden.end(), voldoet);
+  if (regel == Velden.end()) throw Fout(FoutNummer::OngeldigArgument);
+  return *regel;
+}
+
+bool InCodepagina(char32_t teken) {
+  if (teken < 0x80 || (teken >= 0xA0 && teken <= 0xFF)) return teken >= ' ';
+  // the 27 characters that stand where Unicode has control characters
+  constexpr std::u32string_view Overige =
+      U"\u20AC\u201A\u0192\u201E\u2026\u2020\u2021\u02C6\u2030\u0160\u2039\u0152\u017D"
+      U"\u2018\u2019\u201C\u201D\u2022\u2013\u2014\u02DC\u2122\u0161\u203A\u0153\u017E\u0178";
+  return Overige.find(teken) != std::u32string_view::npos;
+}
+
+VeldId VolgendeInReeks(const VeldRegel& regel, VeldId veld) {
+  const int volgende = veld.Index + 1;
+  return {veld.Naam, volgende < regel.Eerste + regel.Aantal ? volgende : regel.Eerste};
 }
 
 }  // namespace
 
 const VeldRegel& Regel(std::string_view naam) {
-  const auto* const regel =
-      std::find_if(Velden.begin(), Velden.end(), [naam](const VeldRegel& veld) { return veld.Naam == naam; });
-  if (regel == Velden.end()) throw Fout(FoutNummer::OngeldigArgument);
-  return *regel;
+  return Zoek([naam](const VeldRegel& regel) { return regel.Naam == naam; });
+}
+
+const VeldRegel& Regel(VeldId veld) {
+  return Zoek([veld](const VeldRegel& regel) { return Beschrijft(regel, veld); });
+}
+
+Toets MagToets(const VeldRegel& regel, char32_t teken) {
+  constexpr char32_t Backspace = 8;
+  constexpr char32_t Escape = 27;
+  const bool mag = teken == Backspace || teken == Escape ||
+                   (regel.Toetsen.empty() ? InCodepagina(teken)
+                                          : teken < 0x80 && regel.Toetsen.find(static_cast<char>(teken)) !=
+                                                                std::string_view::npos);
+  return {.Toegestaan = mag, .Achtergrond = mag ? VeldKleur : FoutKleur};
+}
+
+std::optional<VeldId> VolgendVeld(VeldId veld, const std::function<bool(VeldId)>& beschikbaar) {
+  const VeldRegel* regel = &Regel(veld);
+  if (regel->Aantal > 0) return VolgendeInReeks(*regel, veld);
+  for (std::size_t stap = 0; stap < Velden.size(); ++stap) {  // a ring that is hidden whole has no end
+    std::string_view laatste;
+    for (const std::string_view opvolger : regel->Opvolgers) {
+      if (opvolger == veld.Naam) return {};
+      if (opvolger.empty()) break;
+      if (beschikbaar({opvolger})) return VeldId{opvolger};
+      laatste = opvolger;
+    }
+    if (laatste.empty() || laatste == "lstProject") return {};
+    regel = &Regel(VeldId{laatste});
+  }
+  return {};
+}
+
+int MaxTekens(const VeldRegel& regel) {
+  if (regel.Soort != VeldSoort::Tekst) return 0;
+  if (std::holds_alternative<murvane::Tekst<12> ProjectRec::*>(regel.Record)) return 12;
+  const bool tachtig = std::holds_alternative<murvane::Tekst<80> ProjectRec::*>(regel.Record) ||
+                       std::holds_alternative<murvane::Tekst<80> FanRec::*>(regel.Record);
+  return tachtig ? 80 : 0;
 }
 
 Validatie ValiDate(std::string_view tekst, const VeldRegel& regel, std::string_view vandaag, char decimaal) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -283,6 +284,203 @@ TEST(ValiDate, ChangesNoByteWithoutCase) {
       ++paren;
   }
   EXPECT_EQ(paren, 2 * 60);
+}
+
+/// What the table holds of a field besides its check; the number is that of its change event.
+struct Eigenschap {
+  VeldId veld;
+  std::string_view toetsen;
+  int berekend;
+  std::vector<std::string_view> opvolgers;
+};
+
+constexpr std::string_view Getal = "1234567890,.";
+constexpr std::string_view Cijfers = "1234567890";
+constexpr std::string_view DatumTekens = "1234567890-";
+
+const std::vector<Eigenschap>& Eigenschappen() {
+  static const std::vector<Eigenschap> rijen = {
+      {{"txtB1Doorsnee"}, Getal, 4, {"txtH2Doorsnee"}},
+      {{"txtB2Doorsnee"}, Getal, 5, {"txtLDoorsnee"}},
+      {{"txtBAftak"}, Getal, 6, {"txtRAftak"}},
+      {{"txtBDoor"}, Getal, 7, {"txtHHoofd"}},
+      {{"txtBHoofd"}, Getal, 8, {"txtHDoor"}},
+      {{"txtBreedte"}, Getal, 9, {"txtLengte", "txtDebiet", "txtHoogte"}},
+      {{"txtDebiet"}, Getal, 10, {"txtHoogte"}},
+      {{"txtH1Doorsnee"}, Getal, 12, {"txtB1Doorsnee", "txtH2Doorsnee"}},
+      {{"txtH2Doorsnee"}, Getal, 13, {"txtB2Doorsnee"}},
+      {{"txtHAftak"}, Getal, 14, {"txtBAftak", "txtRAftak"}},
+      {{"txtHDoor"}, Getal, 15, {"txtBDoor"}},
+      {{"txtHHoofd"}, Getal, 16, {"txtBHoofd"}},
+      {{"txtHoogte"}, Getal, 17, {"txtBreedte", "txtLengte", "txtDebiet", "lstProject"}},
+      {{"txtLDoorsnee"}, Getal, 18, {"txtH1Doorsnee"}},
+      {{"txtLengte"}, Getal, 19, {"txtDebiet", "txtHoogte"}},
+      {{"txtMyDate"}, DatumTekens, 21, {"txtProNaam"}},
+      {{"txtOmschrijving"}, "", 22, {"txtToelichting1"}},
+      {{"txtProNaam"}, "", 23, {"txtOmschrijving"}},
+      {{"txtProNum"}, "", 24, {"txtMyDate"}},
+      {{"txtQAftak"}, Getal, 25, {"txtHAftak"}},
+      {{"txtRAantal"}, Getal, 26, {"txtRLengte"}},
+      {{"txtRAftak"}, Getal, 27, {"txtQAftak", "txtHAftak"}},
+      {{"txtRBreedte"}, Getal, 29, {"txtRHoogte"}},
+      {{"txtRDI"}, Getal, 30, {"txtRAantal", "txtRLengte"}},
+      {{"txtRHoogte"}, Getal, 31, {"txtRNagalm"}},
+      {{"txtRLengte"}, Getal, 33, {"txtRBreedte"}},
+      {{"txtRNagalm"}, Getal, 34, {"txtRNR"}},
+      {{"txtRNR"}, Getal, 0, {"txtRDI", "txtRAantal", "txtRLengte"}},
+      {{"txtSnetto"}, Getal, 37, {"txtWeerstand"}},
+      {{"txtSpectrum"}, "", 38, {}},
+      {{"txtToelichting1"}, "", 39, {"txtToelichting2"}},
+      {{"txtToelichting2"}, "", 40, {"txtToelichting3"}},
+      {{"txtToelichting3"}, "", 41, {"txtProNum"}},
+      {{"txtWeerstand"}, Getal, 42, {"txtSnetto", "lstProject"}},
+      {{"txtdemp", 0}, Getal, 11, {}},
+      {{"txtdemp", 13}, Getal, 11, {}},
+      {{"txtLw", 0}, Getal, 20, {}},
+      {{"txtRkanaal", 6}, Getal, 32, {}},
+      {{"txtRplafond", 3}, Getal, 35, {}},
+      {{"txtruis", 6}, Getal, 36, {}},
+      {{"txtfan", 0}, Getal, 0, {}},
+      {{"txtfan", 1}, Cijfers, 0, {}},
+      {{"txtfan", 2}, Cijfers, 0, {}},
+      {{"txtfan", 3}, Cijfers, 0, {}},
+      {{"txtfan", 4}, Cijfers, 0, {}},
+  };
+  return rijen;
+}
+
+TEST(Regel, HoldsTheKeysTheChangeNumberAndTheEnterOrderOfEveryField) {
+  for (const Eigenschap& rij : Eigenschappen()) {
+    SCOPED_TRACE(rij.veld.Naam);
+    const VeldRegel& regel = Regel(rij.veld);
+    EXPECT_EQ(regel.Toetsen, rij.toetsen);
+    EXPECT_EQ(regel.Berekend, rij.berekend);
+    std::vector<std::string_view> opvolgers(regel.Opvolgers.begin(), regel.Opvolgers.end());
+    opvolgers.erase(std::remove(opvolgers.begin(), opvolgers.end(), ""), opvolgers.end());
+    EXPECT_EQ(opvolgers, rij.opvolgers);
+  }
+}
+
+TEST(Regel, FindsEachFieldOfAnArray) {
+  EXPECT_EQ(Regel(VeldId{"txtfan", 3}).Boven, 50);
+  EXPECT_EQ(Regel(VeldId{"txtfan", 4}).Boven, 100000);
+  EXPECT_EQ(Regel(VeldId{"txtdemp", 6}).Soort, VeldSoort::Numeriek);
+  EXPECT_EQ(Regel(VeldId{"txtdemp", 7}).Soort, VeldSoort::Tekst);
+  EXPECT_EQ(Regel(VeldId{"txtdemp", 7}).Weergave, Formaat::Een);
+}
+
+TEST(Regel, RefusesAnIndexThatTheFieldDoesNotHave) {
+  const std::vector<VeldId> velden = {{"txtLw", 7},     {"txtLw", -1},       {"txtLw"},
+                                      {"txtfan", 5},    {"txtfan"},          {"txtfan(0)", 0},
+                                      {"txtdemp", 14},  {"txtruis", 7},      {"txtRkanaal", 7},
+                                      {"txtHoogte", 0}, {"txtRplafond", -2}, {"", -1}};
+  for (const VeldId& veld : velden) {
+    SCOPED_TRACE(testing::Message() << veld.Naam << ' ' << veld.Index);
+    EXPECT_THROW((void)Regel(veld), Fout);
+  }
+}
+
+TEST(Regel, ShowsTheSpectraOfACatalogueElementWithoutTyping) {
+  for (int band = 0; band < 7; ++band) {
+    EXPECT_FALSE(Regel(VeldId{"txtdemp", band}).AlleenLezen);
+    EXPECT_TRUE(Regel(VeldId{"txtdemp", 7 + band}).AlleenLezen);
+    EXPECT_TRUE(Regel(VeldId{"txtruis", band}).AlleenLezen);
+  }
+}
+
+TEST(MagToets, TakesTheKeysOfTheFieldAndSwallowsOthersInRed) {
+  EXPECT_EQ(VeldKleur, 0xC0FFFFU);
+  EXPECT_EQ(FoutKleur, 255U);
+  for (const Eigenschap& rij : Eigenschappen()) {
+    if (rij.toetsen.empty()) continue;
+    SCOPED_TRACE(rij.veld.Naam);
+    for (char32_t teken = 0; teken < 0x130; ++teken) {
+      const bool mag = teken == 8 || teken == 27 ||
+                       std::any_of(rij.toetsen.begin(), rij.toetsen.end(),
+                                   [teken](char c) { return static_cast<char32_t>(c) == teken; });
+      const Toets toets = MagToets(Regel(rij.veld), teken);
+      EXPECT_EQ(toets.Toegestaan, mag) << static_cast<unsigned>(teken);
+      EXPECT_EQ(toets.Achtergrond, mag ? 0xC0FFFFU : 255U) << static_cast<unsigned>(teken);
+    }
+  }
+}
+
+TEST(MagToets, TakesTheWholeCodePageInAPlainText) {
+  const VeldRegel& regel = Regel("txtProNaam");
+  // € and Ÿ have their own places in the code page; ÿ and no-break space are at Unicode's
+  for (const char32_t teken :
+       {U'a', U' ', U'~', U'\u00A0', U'\u00FF', U'\u20AC', U'\u0178', U'\u017E', char32_t{8}, char32_t{27}}) {
+    EXPECT_TRUE(MagToets(regel, teken).Toegestaan) << static_cast<unsigned>(teken);
+    EXPECT_EQ(MagToets(regel, teken).Achtergrond, VeldKleur);
+  }
+  // controls, the page's undefined 81, Greek, an emoji
+  for (const char32_t teken :
+       {char32_t{0}, char32_t{9}, char32_t{13}, char32_t{0x81}, U'\u0100', U'\u03B1', U'\U0001F600'}) {
+    EXPECT_FALSE(MagToets(regel, teken).Toegestaan) << static_cast<unsigned>(teken);
+    EXPECT_EQ(MagToets(regel, teken).Achtergrond, FoutKleur);
+  }
+}
+
+/// Enter in a field while some of the window's fields are hidden.
+std::optional<VeldId> Enter(VeldId veld, const std::vector<std::string_view>& verborgen) {
+  return VolgendVeld(veld, [&verborgen](VeldId doel) {
+    return std::find(verborgen.begin(), verborgen.end(), doel.Naam) == verborgen.end();
+  });
+}
+
+TEST(VolgendVeld, TakesTheFirstSuccessorThatShows) {
+  for (const Eigenschap& rij : Eigenschappen()) {
+    std::vector<std::string_view> verborgen;
+    for (const std::string_view opvolger : rij.opvolgers) {
+      SCOPED_TRACE(testing::Message() << rij.veld.Naam << " -> " << opvolger);
+      EXPECT_EQ(Enter(rij.veld, verborgen), VeldId{opvolger});
+      verborgen.push_back(opvolger);
+    }
+  }
+}
+
+TEST(VolgendVeld, PassesOverAHiddenSuccessorWithoutAnAlternative) {
+  EXPECT_EQ(Enter({"txtH2Doorsnee"}, {"txtB2Doorsnee"}), VeldId{"txtLDoorsnee"});
+  EXPECT_EQ(Enter({"txtHHoofd"}, {"txtBHoofd", "txtHDoor"}), VeldId{"txtBDoor"});
+}
+
+TEST(VolgendVeld, StaysWhenNothingElseShows) {
+  EXPECT_EQ(Enter({"txtSpectrum"}, {}), std::nullopt);
+  EXPECT_EQ(Enter({"txtWeerstand"}, {"txtSnetto", "lstProject"}), std::nullopt);
+  // the free-field situation leaves the directivity factor alone on its tab
+  EXPECT_EQ(
+      Enter({"txtRDI"}, {"txtRAantal", "txtRLengte", "txtRBreedte", "txtRHoogte", "txtRNagalm", "txtRNR"}),
+      std::nullopt);
+  // a ring that is hidden whole, entered from outside it
+  EXPECT_EQ(Enter({"txtHAftak"}, {"txtBAftak", "txtRAftak", "txtQAftak", "txtHAftak"}), std::nullopt);
+  EXPECT_THROW((void)Enter({"txtOnbekend"}, {}), Fout);
+}
+
+TEST(VolgendVeld, GoesRoundAnArray) {
+  struct Rij {
+    const char* naam;
+    int eerste, laatste;
+  };
+  for (const Rij& rij : std::vector<Rij>{{"txtdemp", 0, 6},
+                                         {"txtdemp", 7, 13},
+                                         {"txtLw", 0, 6},
+                                         {"txtRkanaal", 0, 6},
+                                         {"txtRplafond", 0, 6},
+                                         {"txtruis", 0, 6},
+                                         {"txtfan", 0, 4}}) {
+    for (int i = rij.eerste; i < rij.laatste; ++i)
+      EXPECT_EQ(Enter({rij.naam, i}, {}), (VeldId{rij.naam, i + 1}));
+    EXPECT_EQ(Enter({rij.naam, rij.laatste}, {}), (VeldId{rij.naam, rij.eerste}));
+  }
+}
+
+TEST(MaxTekens, IsTheLengthOfTheRecordsText) {
+  for (const char* naam : {"txtProNaam", "txtOmschrijving", "txtToelichting1", "txtToelichting2",
+                           "txtToelichting3", "txtSpectrum"})
+    EXPECT_EQ(MaxTekens(Regel(naam)), 80) << naam;
+  EXPECT_EQ(MaxTekens(Regel("txtProNum")), 12);
+  for (const char* naam : {"txtMyDate", "txtHoogte", "txtLw", "txtRDI"})
+    EXPECT_EQ(MaxTekens(Regel(naam)), 0) << naam;
 }
 
 }  // namespace
