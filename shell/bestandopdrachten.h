@@ -8,7 +8,7 @@
 #include <filesystem>
 #include <string>
 
-#include "shell/dialogen.h"
+#include "editor/dialogen.h"
 #include "shell/programma.h"
 
 namespace murvane {

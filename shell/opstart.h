@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <string_view>
 
-#include "shell/dialogen.h"
+#include "editor/dialogen.h"
 #include "shell/programma.h"
 
 namespace murvane {

@@ -8,7 +8,7 @@
 #include <optional>
 #include <string>
 
-#include "shell/dialogen.h"
+#include "editor/dialogen.h"
 
 namespace murvane::proef {
 
