@@ -1,28 +1,10 @@
 #include "editor/tabsettings.h"
 
-#include <algorithm>
+#include "editor/elementlijst.h"
 
 namespace murvane {
 
 namespace {
-
-template <typename Rec, std::size_t N>
-std::vector<std::string> NamenVan(const Catalogus<Rec>& catalogus, Tekst<N> Rec::*naam) {
-  std::vector<std::string> uit;
-  for (std::size_t nummer = 1; static_cast<int>(nummer) <= catalogus.Aantal; ++nummer)
-    uit.emplace_back(TrimRechts((catalogus.Records[nummer].*naam).Heel()));
-  return uit;
-}
-
-std::vector<std::string> KetenRijen(const Project& project) {
-  std::vector<std::string> uit;
-  const int aantal = std::min<int>(project.ElementCount, MaxElementen);
-  for (int nummer = 1; nummer <= aantal; ++nummer) {
-    const ElementRec& element = project.Elementen[static_cast<std::size_t>(nummer)];
-    uit.push_back((std::to_string(nummer) + ". ").append(TrimRechts(element.Naam.Heel())));
-  }
-  return uit;
-}
 
 std::array<std::string, Banden> BandTeksten(const Project& project, std::string_view naam, char decimaal) {
   std::array<std::string, Banden> uit;
@@ -34,7 +16,10 @@ std::array<std::string, Banden> BandTeksten(const Project& project, std::string_
 }  // namespace
 
 std::vector<std::string> CatalogusRijen(const SpectrumCatalogus& catalogus) {
-  return NamenVan(catalogus, &SpectrumRec::SpecNaam);
+  std::vector<std::string> uit;
+  for (int nummer = 1; nummer <= catalogus.Aantal; ++nummer)
+    uit.emplace_back(TrimRechts(catalogus.Records[static_cast<std::size_t>(nummer)].SpecNaam.Heel()));
+  return uit;
 }
 
 VensterBeeld TabSettings(const Project& project, const Catalogi& catalogi, char decimaal) {
@@ -46,8 +31,8 @@ VensterBeeld TabSettings(const Project& project, const Catalogi& catalogi, char 
   beeld.lblLwA = LwATekst(project.Fan, decimaal);
   beeld.Fan = FanZichtVan(project);
   beeld.lstFan = CatalogusRijen(catalogi.CatFans);
-  beeld.lstTotaal = NamenVan(catalogi.CatElementen, &CatElementRec::CatNaam);
-  beeld.lstProject = KetenRijen(project);
+  beeld.lstTotaal = RijenTotaal(catalogi.CatElementen);
+  beeld.lstProject = RijenProject(project);
   beeld.cmbKanaal = CatalogusRijen(catalogi.CatRduct);
   beeld.cmbRkanaal = beeld.cmbKanaal;
   beeld.cmbRplafond = CatalogusRijen(catalogi.CatRplaf);

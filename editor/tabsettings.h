@@ -24,7 +24,7 @@ struct VensterBeeld {
   std::string lblLwA;
   FanZicht Fan{};
   std::vector<std::string> lstFan;
-  // elements; no row is selected
+  // elements, the rows of both lists with the blanks of their fixed texts; no row is selected
   std::vector<std::string> lstTotaal, lstProject, cmbKanaal;
   int Element = 0;               ///< number of the element that is open
   bool SSTab2Zichtbaar = false;  ///< the page of an element shows only when one is opened

@@ -12,6 +12,10 @@ namespace {
 
 using Rijen = std::vector<std::string>;
 
+std::string Gevuld(std::string_view naam) {
+  return std::string(Tekst<80>(naam).Heel());
+}
+
 Catalogi Lijsten() {
   Catalogi uit;
   uit.CatElementen.Aantal = 2;
@@ -96,9 +100,9 @@ TEST(TabSettings, FillsTheWindowFromTheRecords) {
 
 TEST(TabSettings, FillsTheListsAndOpensNoElement) {
   const VensterBeeld beeld = TabSettings(Gevuld(), Lijsten(), ',');
-  EXPECT_EQ(beeld.lstTotaal, (Rijen{"Aftakking rechthoekig", "Aftakking rond"}));
+  EXPECT_EQ(beeld.lstTotaal, (Rijen{Gevuld("Aftakking rechthoekig"), Gevuld("Aftakking rond")}));
   EXPECT_EQ(beeld.lstFan, (Rijen{"Fan A"}));
-  EXPECT_EQ(beeld.lstProject, (Rijen{"1. Kanaal rond", "2. Rooster"}));
+  EXPECT_EQ(beeld.lstProject, (Rijen{"1. " + Gevuld("Kanaal rond"), "2. " + Gevuld("Rooster")}));
   EXPECT_EQ(beeld.cmbKanaal, (Rijen{"Staal"}));
   EXPECT_EQ(beeld.cmbRkanaal, (Rijen{"Staal"}));
   EXPECT_EQ(beeld.cmbRplafond, (Rijen{"Gips"}));
@@ -131,16 +135,16 @@ TEST(TabSettings, ShowsANewProject) {
   EXPECT_EQ(beeld.RkanaalTekst, "<geen kanaalwand geselecteerd>" + std::string(50, ' '));
 }
 
-// A count that only a file can hold lists what there is.
-TEST(TabSettings, SurvivesACountOutOfRange) {
+// A count below 0, which only a file can hold, lists nothing; no file gives one above the array.
+TEST(TabSettings, ListsNoElementsForACountOutOfRange) {
   Project project;
   project.ElementCount = -1;
   EXPECT_TRUE(TabSettings(project, {}, '.').lstProject.empty());
   project.ElementCount = 501;
-  EXPECT_EQ(TabSettings(project, {}, '.').lstProject.size(), 500U);
+  EXPECT_THROW((void)TabSettings(project, {}, '.'), Fout);
   Catalogi negatief;
   negatief.CatFans.Aantal = -1;
-  EXPECT_TRUE(TabSettings(project, negatief, '.').lstFan.empty());
+  EXPECT_TRUE(TabSettings({}, negatief, '.').lstFan.empty());
 }
 
 }  // namespace
