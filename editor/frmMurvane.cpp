@@ -141,8 +141,8 @@ void frmMurvane::VulLijsten(const VensterBeeld& beeld) {
   cmbKanaal->ZetRijen(Rijen(beeld.cmbKanaal));
   cmbRkanaal->ZetRijen(Rijen(beeld.cmbRkanaal));
   cmbRplafond->ZetRijen(Rijen(beeld.cmbRplafond));
-  cmbRkanaal->setEditText(VanCp(beeld.RkanaalTekst));
-  cmbRplafond->setEditText(VanCp(beeld.RplafondTekst));
+  cmbRkanaal->ZetTekst(VanCp(beeld.RkanaalTekst));
+  cmbRplafond->ZetTekst(VanCp(beeld.RplafondTekst));
 }
 
 void frmMurvane::VulCatalogi() {
@@ -155,6 +155,7 @@ void frmMurvane::VulCatalogi() {
   cmbRkanaal->ZetRijen(Rijen(beeld.cmbRkanaal));
   cmbRplafond->ZetRijen(Rijen(beeld.cmbRplafond));
   ToonLijsten();
+  emit ToestandGewijzigd();
 }
 
 void frmMurvane::ToonFan(const FanZicht& zicht) {
@@ -299,7 +300,7 @@ void frmMurvane::Herstel(InvoerVeld& veld) {
 
 /// Gives a control the focus, and brings its tab into view; one that does not show does not get it.
 bool frmMurvane::GaNaar(const QString& naam) {
-  auto* const doel = findChild<QWidget*>(naam);
+  auto* const doel = naam.isEmpty() ? nullptr : findChild<QWidget*>(naam);
   if (doel == nullptr) return false;
   for (int blad = 0; blad < SSTab1->count(); ++blad) {
     if (SSTab1->widget(blad)->isAncestorOf(doel)) SSTab1->setCurrentIndex(blad);
@@ -368,7 +369,7 @@ void frmMurvane::Open(int n) {
       if (SSTab2->isAncestorOf(vak)) vak->ZetKleur(VeldKleur);
     }
     ZetTeksten(opening.Beeld.Teksten);
-    if (opening.Beeld.OpPagina == Pagina::Kanaal) cmbKanaal->setEditText(VanCp(opening.Beeld.cmbKanaal));
+    if (opening.Beeld.OpPagina == Pagina::Kanaal) cmbKanaal->ZetTekst(VanCp(opening.Beeld.cmbKanaal));
     for (const VeldStand& stand : opening.Beeld.Stand) ZetZichtbaar(stand.Veld, stand.Zichtbaar);
     if (opening.SSTab2Zichtbaar) SSTab2->setCurrentIndex(static_cast<int>(opening.Beeld.OpPagina));
     SSTab2->setVisible(opening.SSTab2Zichtbaar);
@@ -401,7 +402,7 @@ void frmMurvane::VoerUit(const RuimteUitslag& uitslag) {
 }
 
 void frmMurvane::VoerUit(Keuzevak& vak, const KeuzeUitslag& uitslag) {
-  if (uitslag.Tekst) vak.setEditText(VanCp(*uitslag.Tekst));
+  if (uitslag.Tekst) vak.ZetTekst(VanCp(*uitslag.Tekst));
   ZetTeksten(uitslag.Zet);
   if (!uitslag.Berekend.empty()) RoepBerekend(uitslag.Berekend);
 }

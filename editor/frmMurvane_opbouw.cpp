@@ -158,7 +158,9 @@ QWidget* frmMurvane::BouwVentilator() {
   auto* const rooster = Rooster(nullptr);
   VoegVeld(rooster, 0, {"txtSpectrum"}, "Ventilator", "", "lblspectrum");
   BandRij* const rij = VoegBanden("txtLw", 0, "Geluidsvermogen Lw in dB", true);
-  rooster->addWidget(MaakLabel("Lw in dB", "lblspectrum", rij->Vakken()[0]), 1, 0, Qt::AlignBottom);
+  QLabel* const lw = MaakLabel("Lw in dB", "lblspectrum", rij->Vakken()[0]);
+  lw->setMinimumHeight(rij->Vakken()[0]->sizeHint().height());
+  rooster->addWidget(lw, 1, 0, Qt::AlignBottom);
   rooster->addWidget(rij, 1, 1);
   lblLwA = new QLabel(blad);
   lblLwA->setObjectName("lblLwA");
@@ -369,20 +371,22 @@ QWidget* frmMurvane::BouwRuimte() {
   indeling->addLayout(maten);
   auto* const isolatie = Rooster(nullptr);
   bandKop_ = new BandKop(blad);
-  isolatie->addWidget(bandKop_, 0, 2);
+  isolatie->addWidget(bandKop_, 0, 1);
   const auto voeg = [&](int rij, Keuzevak* vak, const char* naam, const char* tekst) {
     BandRij* const banden = VoegBanden(naam, 0, QString(tekst) + ", isolatie in dB", false);
-    QLabel* const label = MaakLabel(tekst, "lblruimte", vak);
-    vak->setMinimumContentsLength(24);
-    isolatie->addWidget(label, rij, 0);
+    QLabel* const keuze = MaakLabel(tekst, "lblruimte", vak);
+    QLabel* const isolatieLabel = MaakLabel("Isolatie in dB", "lblruimte", banden->Vakken()[0]);
+    isolatie->addWidget(keuze, rij, 0);
     isolatie->addWidget(vak, rij, 1);
-    isolatie->addWidget(banden, rij, 2);
-    mee_[{naam, 0}].insert(mee_[{naam, 0}].end(), {label, vak});
+    isolatie->addWidget(isolatieLabel, rij + 1, 0);
+    isolatie->addWidget(banden, rij + 1, 1);
+    mee_[{naam, 0}].insert(mee_[{naam, 0}].end(), {keuze, vak, isolatieLabel});
   };
   cmbRkanaal = new Keuzevak("cmbRkanaal", "Kanaalwand", blad);
   voeg(1, cmbRkanaal, "txtRkanaal", "Kanaalwand");
   cmbRplafond = new Keuzevak("cmbRplafond", "Plafond", blad);
-  voeg(2, cmbRplafond, "txtRplafond", "Plafond");
+  voeg(3, cmbRplafond, "txtRplafond", "Plafond");
+  isolatie->setColumnMinimumWidth(0, maten->sizeHint().width() / 2);
   isolatie->setColumnStretch(1, 1);
   indeling->addLayout(isolatie);
   indeling->addStretch();
@@ -480,12 +484,12 @@ void frmMurvane::VerbindKeuzes() {
   });
   connect(cmbKanaal, &QComboBox::editTextChanged, this, [this](const QString& tekst) {
     if (vult_) return;
-    if (const auto nieuw = cmbKanaal_Change(NaarCp(tekst))) cmbKanaal->setEditText(VanCp(*nieuw));
+    if (const auto nieuw = cmbKanaal_Change(NaarCp(tekst))) cmbKanaal->ZetTekst(VanCp(*nieuw));
   });
   connect(cmbKanaal, &Keuzevak::Verlaten, this, [this] {
     if (Houdt()) return;
     const auto nieuw = cmbKanaal_LostFocus(project_, lijst_.HuidigElement, NaarCp(cmbKanaal->currentText()));
-    if (nieuw) cmbKanaal->setEditText(VanCp(*nieuw));
+    if (nieuw) cmbKanaal->ZetTekst(VanCp(*nieuw));
   });
   const auto verbind = [this](Keuzevak* vak, const SpectrumCatalogus& catalogus, auto klik, auto wijzig,
                               auto verlaat) {

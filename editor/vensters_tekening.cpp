@@ -48,7 +48,7 @@ QString Meng(const QColor& voor, const QColor& achter) {
 QByteArray InKleur(QString svg, const QPalette& palet) {
   const QColor lijn = palet.color(QPalette::WindowText);
   svg.replace("#888888", Meng(lijn, palet.color(QPalette::Window)));
-  svg.replace("#3a6ea5", palet.color(QPalette::Link).name());
+  svg.replace("#3a6ea5", palet.color(QPalette::Highlight).name());
   svg.replace("#111111", lijn.name());
   return svg.toUtf8();
 }

@@ -172,6 +172,16 @@ void Lijstvak::keyPressEvent(QKeyEvent* event) {
   QListWidget::keyPressEvent(event);
 }
 
+/// The toolkit makes the first row current on entry; entering a list clicks no row.
+void Lijstvak::focusInEvent(QFocusEvent* event) {
+  const int rij = currentRow();
+  {
+    const QScopedValueRollback<bool> stil(stil_, true);
+    QListWidget::focusInEvent(event);
+  }
+  if (rij < 0) ZetRij(rij);
+}
+
 Keuzevak::Keuzevak(const QString& objectNaam, const QString& naam, QWidget* ouder) : QComboBox(ouder) {
   setObjectName(objectNaam);
   setAccessibleName(naam);
@@ -192,6 +202,11 @@ void Keuzevak::ZetRijen(const QStringList& rijen) {
   addItems(rijen);
   setCurrentIndex(-1);
   setEditText(tekst);
+}
+
+void Keuzevak::ZetTekst(const QString& tekst) {
+  setEditText(tekst);
+  lineEdit()->setCursorPosition(0);
 }
 
 void Keuzevak::wheelEvent(QWheelEvent* event) {

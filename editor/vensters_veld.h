@@ -86,6 +86,7 @@ class Lijstvak : public QListWidget {
  protected:
   void mousePressEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
 
  private:
   bool stil_ = false;
@@ -99,6 +100,8 @@ class Keuzevak : public QComboBox {
   Keuzevak(const QString& objectNaam, const QString& naam, QWidget* ouder);
 
   void ZetRijen(const QStringList& rijen);
+  /// Shows a text, from its beginning.
+  void ZetTekst(const QString& tekst);
 
  signals:
   void Verlaten();

@@ -82,6 +82,15 @@ class ProjectVenster : public testing::Test {
     Druk(Qt::Key_Home);
     for (int n = 1; n < record; ++n) Druk(Qt::Key_Down);
   }
+  /// Saves a picture in the directory that the environment names, if it does.
+  void Bewaar(const QString& naam) {
+    const QString map = qEnvironmentVariable("MURVANE_BEELDEN");
+    const QPixmap beeld = venster->grab();
+    EXPECT_FALSE(beeld.isNull());
+    if (!map.isEmpty()) {
+      EXPECT_TRUE(beeld.save(map + "/" + naam + ".png"));
+    }
+  }
   void MaakBerekend() {
     (void)Berekend(venster->DeSessie(), vlag::Berekend, "");
     ASSERT_EQ(venster->DeSessie().Toestand, Toestand::Berekend);
@@ -156,6 +165,7 @@ TEST_F(ProjectVenster, ShowsEveryElementsPage) {
       const Pagina pagina = PaginaVan(type);
       EXPECT_EQ(Zoek<QStackedWidget>("SSTab2")->currentIndex(), static_cast<int>(pagina));
       EXPECT_TRUE(Zoek<QWidget>("SSTab2")->isVisible());
+      EXPECT_EQ(Zoek<QTabWidget>("SSTab1")->currentIndex(), 1);
       if (!EersteFocus(type).empty()) {
         EXPECT_EQ(Focus(), VanCp(EersteFocus(type)));
       }
@@ -566,16 +576,91 @@ TEST_F(ProjectVenster, ShowsTheProgress) {
   EXPECT_FALSE(Zoek<QProgressBar>("ProgressBar1")->isVisible());
 }
 
+TEST_F(ProjectVenster, EnteringAListClicksNoRow) {
+  OpenVoorbeeld("kantoor.mrv");
+  KiesTab(Tab::Kanaalelementen);
+  Zoek<QListWidget>("lstProject")->setFocus(Qt::TabFocusReason);
+  EXPECT_EQ(Zoek<QListWidget>("lstProject")->currentRow(), -1);
+  EXPECT_EQ(venster->DeLijst(), Elementlijst{});
+  Druk(Qt::Key_Down);
+  EXPECT_EQ(venster->DeLijst().HuidigElement, 1);
+}
+
+TEST_F(ProjectVenster, OpeningACatalogueElementLeavesTheFocus) {
+  Nieuw();
+  KiesRecord(12);
+  Druk(Qt::Key_Return);
+  EXPECT_EQ(Zoek<QTabWidget>("SSTab1")->currentIndex(), 1);
+  EXPECT_EQ(Focus(), "lstTotaal");
+  EXPECT_TRUE(Veld("txtruis_0")->isVisible());
+  EXPECT_TRUE(Veld("txtdemp_7")->isReadOnly());
+}
+
+TEST_F(ProjectVenster, TabFollowsTheEye) {
+  OpenVoorbeeld("kantoor.mrv");
+  for (const char* const naam : {"txtMyDate", "Image1", "txtProNaam", "txtOmschrijving", "txtToelichting1",
+                                 "txtToelichting2", "txtToelichting3"}) {
+    Druk(Qt::Key_Tab);
+    EXPECT_EQ(Focus(), naam);
+  }
+  KiesElement(1);
+  Zoek<QListWidget>("lstTotaal")->setFocus(Qt::TabFocusReason);
+  for (const char* const naam :
+       {"lstProject", "Toolbar2_Delete", "Toolbar2_Down", "Toolbar2_Up", "txtHoogte"}) {
+    Druk(Qt::Key_Tab);
+    EXPECT_EQ(Focus(), naam);
+  }
+}
+
+TEST_F(ProjectVenster, AChoiceOfWallShowsItsBands) {
+  OpenVoorbeeld("plafond.mrv");
+  KiesTab(Tab::Ruimtegegevens);
+  auto* const keuze = Zoek<QComboBox>("cmbRkanaal");
+  keuze->setFocus(Qt::TabFocusReason);
+  Druk(Qt::Key_Home);
+  keuze->setCurrentIndex(2);
+  emit keuze->activated(2);
+  EXPECT_EQ(project.Ruimte.Rkanaal[3], catalogi.CatRduct.Records[3].SpecWaarde[3]);
+  EXPECT_EQ(Veld("txtRkanaal_3")->text(), VanCp(HerstelTekst(project, 0, {"txtRkanaal", 3}, ',')));
+  keuze->setEditText("");
+  EXPECT_EQ(NaarCp(keuze->currentText()), GeenKanaalwandTekst());
+  keuze->setEditText("  ");
+  NaarVeld("txtRDI");
+  EXPECT_EQ(NaarCp(keuze->currentText()), GeenKanaalwandTekst());
+  EXPECT_EQ(Veld("txtRkanaal_3")->text(), "0,0");
+}
+
+TEST_F(ProjectVenster, RefilledCataloguesKeepTheProject) {
+  OpenVoorbeeld("plafond.mrv");
+  KiesRecord(5);
+  const QString was = Zoek<QComboBox>("cmbRplafond")->currentText();
+  MaakBerekend();
+  venster->VulCatalogi();
+  EXPECT_EQ(venster->DeLijst().CatalogusPositie, 0);
+  EXPECT_EQ(Zoek<QListWidget>("lstTotaal")->currentRow(), -1);
+  EXPECT_EQ(Zoek<QComboBox>("cmbRplafond")->currentText(), was);
+  EXPECT_EQ(venster->DeSessie().Toestand, Toestand::Berekend);
+}
+
+TEST_F(ProjectVenster, StaysReadableInADarkTheme) {
+  const QPalette was = QApplication::palette();
+  QPalette donker(QColor(45, 45, 48));
+  donker.setColor(QPalette::Base, QColor(30, 30, 30));
+  donker.setColor(QPalette::Highlight, QColor(70, 130, 200));
+  QApplication::setPalette(donker);
+  OpenVoorbeeld("kantoor.mrv");
+  EXPECT_EQ(Veld("txtProNum")->palette().color(QPalette::Base), KleurVan(VeldKleur));
+  EXPECT_EQ(Veld("txtProNum")->palette().color(QPalette::Text), QColor(Qt::black));
+  KiesElement(1);
+  Bewaar("donker-element");
+  KiesTab(Tab::Ventilator);
+  Bewaar("donker-fan");
+  QApplication::setPalette(was);
+}
+
 /// Pictures to look at, where a directory for them is named.
 TEST_F(ProjectVenster, CanBePictured) {
-  const QString map = qEnvironmentVariable("MURVANE_BEELDEN");
-  const auto maak = [&](const QString& naam) {
-    const QPixmap beeld = venster->grab();
-    EXPECT_FALSE(beeld.isNull());
-    if (!map.isEmpty()) {
-      EXPECT_TRUE(beeld.save(map + "/" + naam + ".png"));
-    }
-  };
+  const auto maak = [this](const QString& naam) { Bewaar(naam); };
   for (const char* const naam : Voorbeelden) {
     OpenVoorbeeld(naam);
     maak(QString(naam) + "-project");
