@@ -1,0 +1,544 @@
+#include "editor/frmMurvane.h"
+
+#include <QButtonGroup>
+#include <QCalendarWidget>
+#include <QCheckBox>
+#include <QEvent>
+#include <QGroupBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QProgressBar>
+#include <QRadioButton>
+#include <QScopedValueRollback>
+#include <QStackedWidget>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QToolButton>
+#include <array>
+
+#include "basis/tekst.h"
+#include "basis/vensters_hulp.h"
+#include "editor/validate.h"
+#include "editor/vensters_tekening.h"
+#include "editor/vensters_veld.h"
+
+namespace murvane {
+
+namespace {
+
+struct InvoerPlaats {
+  std::string_view Naam;
+  std::string ProjectInvoer::*Lid;
+};
+
+/// The single boxes of a run's input, those of the room last and in the order of the check.
+constexpr auto Plaatsen = std::to_array<InvoerPlaats>({
+    {"txtProNaam", &ProjectInvoer::txtProNaam},
+    {"txtProNum", &ProjectInvoer::txtProNum},
+    {"txtMyDate", &ProjectInvoer::txtMyDate},
+    {"txtOmschrijving", &ProjectInvoer::txtOmschrijving},
+    {"txtToelichting1", &ProjectInvoer::txtToelichting1},
+    {"txtToelichting2", &ProjectInvoer::txtToelichting2},
+    {"txtToelichting3", &ProjectInvoer::txtToelichting3},
+    {"txtSpectrum", &ProjectInvoer::txtSpectrum},
+    {"txtRBreedte", &ProjectInvoer::txtRBreedte},
+    {"txtRHoogte", &ProjectInvoer::txtRHoogte},
+    {"txtRLengte", &ProjectInvoer::txtRLengte},
+    {"txtRDI", &ProjectInvoer::txtRDI},
+    {"txtRNR", &ProjectInvoer::txtRNR},
+    {"txtRNagalm", &ProjectInvoer::txtRNagalm},
+    {"txtRAantal", &ProjectInvoer::txtRAantal},
+});
+constexpr std::size_t EersteRuimte = 8;
+
+QStringList Rijen(const std::vector<std::string>& rijen) {
+  QStringList uit;
+  for (const std::string& rij : rijen) uit.push_back(VanCp(TrimRechts(rij)));
+  return uit;
+}
+
+QDate DatumVan(const std::string& tekst) {
+  return QDate::fromString(VanCp(Trim(tekst)), "dd-MM-yyyy");
+}
+
+void KleurLijst(Lijstvak& vak, bool actief) {
+  QPalette palet;
+  vak.setPalette(palet);
+  if (actief) return ZetAchtergrond(vak, ActieveKleur);
+  palet.setColor(QPalette::Base, palet.color(QPalette::Button));
+  palet.setColor(QPalette::Text, palet.color(QPalette::ButtonText));
+  vak.setPalette(palet);
+}
+
+}  // namespace
+
+frmMurvane::frmMurvane(Project& project, const Catalogi& catalogi, Dialogen& dialogen, std::string vandaag,
+                       char decimaal, QWidget* ouder)
+    : QWidget(ouder),
+      project_(project),
+      catalogi_(catalogi),
+      dialogen_(dialogen),
+      vandaag_(std::move(vandaag)),
+      decimaal_(decimaal),
+      sessie_(Form_Load(project)) {
+  BouwOp();
+  ToonGeenProject();
+  ToonType();
+}
+
+// ---- The records on screen ----
+
+void frmMurvane::ToonProject(bool isNieuwOfGeopend) {
+  const QScopedValueRollback<bool> vult(vult_, true);
+  const VensterBeeld beeld = TabSettings(project_, catalogi_, decimaal_);
+  VulVelden(beeld);
+  VulLijsten(beeld);
+  ToonFan(beeld.Fan);
+  VrijVeld->setChecked(beeld.VrijVeld);
+  ToonRuimte(beeld.Ruimte);
+  ToonType();
+  ToonLijsten();
+  MonthView->hide();
+  SSTab1->show();
+  if (isNieuwOfGeopend) {
+    SSTab1->setCurrentIndex(static_cast<int>(StartPagina));
+    Vak({"txtProNum"})->setFocus();
+  }
+  emit ToestandGewijzigd();
+}
+
+void frmMurvane::ToonGeenProject() {
+  const QScopedValueRollback<bool> vult(vult_, true);
+  SSTab1->hide();
+  ProgressBar1->hide();
+  SSTab2->hide();
+  tekening_->hide();
+  MonthView->hide();
+  lblLwA->clear();
+  emit ToestandGewijzigd();
+}
+
+void frmMurvane::VulVelden(const VensterBeeld& beeld) {
+  for (const auto& [sleutel, vak] : velden_) {
+    vak->ZetKleur(VeldKleur);
+    vak->setToolTip({});
+  }
+  for (const InvoerPlaats& plaats : Plaatsen) ZetTekst({{plaats.Naam}, beeld.Velden.*plaats.Lid});
+  for (int band = 0; band < Banden; ++band) {
+    const auto i = static_cast<std::size_t>(band);
+    ZetTekst({{"txtLw", band}, beeld.Velden.txtLw[i]});
+    ZetTekst({{"txtRkanaal", band}, beeld.txtRkanaal[i]});
+    ZetTekst({{"txtRplafond", band}, beeld.txtRplafond[i]});
+  }
+  for (int i = 0; i < FanVakken; ++i) ZetTekst({{"txtfan", i}, beeld.txtfan[static_cast<std::size_t>(i)]});
+  ZetLwA(beeld.lblLwA);
+}
+
+void frmMurvane::VulLijsten(const VensterBeeld& beeld) {
+  lstFan->ZetRijen(Rijen(beeld.lstFan));
+  lstTotaal->ZetRijen(Rijen(beeld.lstTotaal));
+  lstProject->ZetRijen(Rijen(beeld.lstProject));
+  cmbKanaal->ZetRijen(Rijen(beeld.cmbKanaal));
+  cmbRkanaal->ZetRijen(Rijen(beeld.cmbRkanaal));
+  cmbRplafond->ZetRijen(Rijen(beeld.cmbRplafond));
+  cmbRkanaal->ZetTekst(VanCp(beeld.RkanaalTekst));
+  cmbRplafond->ZetTekst(VanCp(beeld.RplafondTekst));
+}
+
+void frmMurvane::VulCatalogi() {
+  const QScopedValueRollback<bool> vult(vult_, true);
+  const VensterBeeld beeld = TabSettings(project_, catalogi_, decimaal_);
+  lstTotaalGevuld(lijst_);
+  lstFan->ZetRijen(Rijen(beeld.lstFan));
+  lstTotaal->ZetRijen(Rijen(beeld.lstTotaal));
+  cmbKanaal->ZetRijen(Rijen(beeld.cmbKanaal));
+  cmbRkanaal->ZetRijen(Rijen(beeld.cmbRkanaal));
+  cmbRplafond->ZetRijen(Rijen(beeld.cmbRplafond));
+  ToonLijsten();
+  emit ToestandGewijzigd();
+}
+
+void frmMurvane::ToonFan(const FanZicht& zicht) {
+  optInvoer->setChecked(zicht.optInvoer);
+  optPrognose->setChecked(zicht.optPrognose);
+  const std::array<std::pair<QRadioButton*, bool>, 3> typen = {{{optAxiaal, zicht.optAxiaal},
+                                                                {optCentriVoor, zicht.optCentriVoor},
+                                                                {optCentriAchter, zicht.optCentriAchter}}};
+  for (const auto& [knop, aan] : typen) {
+    knop->setAutoExclusive(false);  // a fan without a type has none checked
+    knop->group()->setExclusive(false);
+    knop->setChecked(aan);
+    knop->group()->setExclusive(true);
+  }
+  vakFan_->setVisible(zicht.lstFan);
+  lstFan->setVisible(zicht.lstFan);
+  frameFan->setVisible(zicht.frameFan);
+}
+
+void frmMurvane::ToonRuimte(const RuimteZicht& zicht) {
+  ZetZichtbaar({"txtRLengte"}, zicht.txtRLengte);
+  ZetZichtbaar({"txtRBreedte"}, zicht.txtRBreedte);
+  ZetZichtbaar({"txtRHoogte"}, zicht.txtRHoogte);
+  ZetZichtbaar({"txtRNagalm"}, zicht.txtRNagalm);
+  ZetZichtbaar({"txtRNR"}, zicht.txtRNR);
+  ZetZichtbaar({"txtRDI"}, zicht.txtRDI);
+  ZetZichtbaar({"txtRAantal"}, zicht.txtRAantal);
+  ZetZichtbaar({"txtRkanaal", 0}, zicht.cmbRkanaal);
+  ZetZichtbaar({"txtRplafond", 0}, zicht.cmbRplafond);
+  bandKop_->setVisible(zicht.Bandkop());
+  VrijVeld->setVisible(zicht.VrijVeld);
+}
+
+void frmMurvane::ToonType() {
+  SSTab1->setTabEnabled(static_cast<int>(Tab::Ventilator), TypeVan(project_.Kop.RekenType).Pagina0);
+}
+
+void frmMurvane::ToonLijsten() {
+  lstTotaal->ZetRij(TotaalRij(lijst_));
+  lstProject->ZetRij(ProjectRij(lijst_));
+  KleurLijst(*lstTotaal, LijstKleur(lijst_, Lijst::lstTotaal) == ActieveKleur);
+  KleurLijst(*lstProject, LijstKleur(lijst_, Lijst::lstProject) == ActieveKleur);
+  for (std::size_t i = 0; i < knoppen_.size(); ++i)
+    knoppen_[i]->setEnabled(KnopAan(Toolbarknoppen[i], lijst_));
+  if (lijst_.SSTab2) return;
+  SSTab2->hide();
+  tekening_->hide();
+}
+
+void frmMurvane::ZetZichtbaar(VeldId veld, bool zichtbaar) {
+  if (const auto vak = velden_.find({veld.Naam, veld.Index}); vak != velden_.end())
+    vak->second->setVisible(zichtbaar);
+  const auto mee = mee_.find({veld.Naam, veld.Index});
+  if (mee == mee_.end()) return;
+  for (QWidget* const een : mee->second) een->setVisible(zichtbaar);
+}
+
+void frmMurvane::VormPagina() {
+  const int n = lijst_.HuidigElement;
+  if (n == 0) return;
+  const std::int16_t type = project_.Elementen[static_cast<std::size_t>(n)].ElementType;
+  for (const VeldId& veld : PaginaVelden(PaginaVan(type)))
+    ZetZichtbaar(veld, ElementVeldZichtbaar(project_, n, veld));
+}
+
+void frmMurvane::ZetVoortgang(int van, int totaal) {
+  ProgressBar1->setRange(0, totaal);
+  ProgressBar1->setValue(van);
+  ProgressBar1->setVisible(totaal > 0);
+}
+
+// ---- A field ----
+
+std::string frmMurvane::TekstVan(VeldId veld) const {
+  return NaarCp(Vak(veld)->text());
+}
+
+void frmMurvane::ZetTekst(const VeldTekst& tekst) {
+  Vak(tekst.Veld)->setText(VanCp(tekst.Tekst));
+}
+
+void frmMurvane::ZetTeksten(const std::vector<VeldTekst>& teksten) {
+  for (const VeldTekst& tekst : teksten) ZetTekst(tekst);
+}
+
+void frmMurvane::ZetLwA(const std::optional<std::string>& tekst) {
+  if (tekst) lblLwA->setText(VanCp(*tekst));
+}
+
+void frmMurvane::Gewijzigd(InvoerVeld& veld) {
+  if (vult_) return;
+  Veilig("Change", [&] {
+    const VeldGevolg gevolg = VeldGewijzigd(veld.Veld());
+    ZetTeksten(gevolg.Zet);
+    ZetLwA(gevolg.lblLwA);
+    RoepBerekend(gevolg.Berekend);
+  });
+}
+
+void frmMurvane::Verlaat(InvoerVeld& veld) {
+  if (vult_ || (terugNaar_ != nullptr && terugNaar_ != &veld)) return;
+  Veilig("LostFocus", [&] {
+    PasToe(
+        VerlaatVeld(project_, lijst_.HuidigElement, veld.Veld(), NaarCp(veld.text()), vandaag_, decimaal_));
+  });
+}
+
+void frmMurvane::PasToe(const VeldUitslag& uitslag) {
+  InvoerVeld* const vak = Vak(uitslag.Veld);
+  ZetTekst({uitslag.Veld, uitslag.Tekst});
+  if (!vak->isReadOnly()) vak->ZetKleur(uitslag.Achtergrond);
+  vak->setToolTip(VanCp(uitslag.ToolTip));
+  ZetLwA(uitslag.lblLwA);
+  if (!uitslag.Geldig) GaTerug(vak);
+}
+
+/// The focus can only be given back once the control that is getting it has it. Until then other fields are
+/// not checked: two invalid ones would pass it to each other for ever.
+void frmMurvane::GaTerug(InvoerVeld* veld) {
+  if (terugNaar_ != nullptr) return;
+  terugNaar_ = veld;
+  const auto terug = [this] {
+    GaNaar(terugNaar_->objectName());
+    terugNaar_ = nullptr;
+  };
+  QMetaObject::invokeMethod(this, terug, Qt::QueuedConnection);
+}
+
+void frmMurvane::NaarVolgende(const InvoerVeld& veld) {
+  const auto beschikbaar = [this](VeldId id) {
+    const auto vak = velden_.find({id.Naam, id.Index});
+    return vak == velden_.end() || !vak->second->isHidden();
+  };
+  if (const auto volgende = VolgendVeld(veld.Veld(), beschikbaar)) GaNaar(ObjectNaam(*volgende));
+}
+
+void frmMurvane::Herstel(InvoerVeld& veld) {
+  veld.setText(VanCp(HerstelTekst(project_, lijst_.HuidigElement, veld.Veld(), decimaal_)));
+  veld.setToolTip({});
+  veld.selectAll();
+}
+
+/// Gives a control the focus, and brings its tab into view; one that does not show does not get it.
+bool frmMurvane::GaNaar(const QString& naam) {
+  auto* const doel = naam.isEmpty() ? nullptr : findChild<QWidget*>(naam);
+  if (doel == nullptr) return false;
+  for (int blad = 0; blad < SSTab1->count(); ++blad) {
+    if (SSTab1->widget(blad)->isAncestorOf(doel)) SSTab1->setCurrentIndex(blad);
+  }
+  if (!doel->isVisibleTo(SSTab1) || !doel->isEnabled()) return false;
+  doel->setFocus(Qt::OtherFocusReason);
+  return true;
+}
+
+void frmMurvane::BewaarVeld() {
+  (void)IsGeldigNaBewaren();
+}
+
+bool frmMurvane::IsGeldigNaBewaren() {
+  QWidget* const focus = focusWidget();
+  if (focus == nullptr || !focus->isVisibleTo(this)) return true;
+  if (auto* const veld = qobject_cast<InvoerVeld*>(focus)) Verlaat(*veld);
+  if (auto* const keuze = qobject_cast<Keuzevak*>(focus)) emit keuze->Verlaten();
+  return terugNaar_ == nullptr;
+}
+
+// ---- What procedures return ----
+
+void frmMurvane::RoepBerekend(std::string_view nummer) {
+  VoerUit(Berekend(sessie_, vlag::Gewijzigd, nummer));
+}
+
+void frmMurvane::VoerUit(const Gevolg& gevolg) {
+  if (gevolg.SluitVensters) emit SluitVensters();
+  if (gevolg.WisRapport) emit WisRapport();
+  emit ToestandGewijzigd();
+}
+
+void frmMurvane::VoerUit(const LijstUitkomst& uitkomst) {
+  if (uitkomst.Accepteer > 0) (void)Accepteer(uitkomst.Accepteer);
+  if (uitkomst.Melding) dialogen_.Toon(*uitkomst.Melding);
+  if (uitkomst.lstProject == Vulling::RijErbij)
+    lstProject->addItem(VanCp(TrimRechts(RijProject(project_, project_.ElementCount))));
+  if (uitkomst.lstProject == Vulling::Opnieuw) lstProject->ZetRijen(Rijen(RijenProject(project_)));
+  ToonLijsten();
+  if (uitkomst.Open > 0) Open(uitkomst.Open);
+  if (!uitkomst.Berekend.empty()) RoepBerekend(uitkomst.Berekend);
+  emit ToestandGewijzigd();
+}
+
+bool frmMurvane::Accepteer(int n) {
+  ElementInvoer invoer;
+  invoer.cmbKanaal = NaarCp(cmbKanaal->currentText());
+  for (const VeldId& veld : AcceptVelden(project_.Elementen[static_cast<std::size_t>(n)].ElementType))
+    invoer.Teksten.push_back({veld, TekstVan(veld)});
+  bool geldig = true;
+  for (const VeldUitslag& uitslag : Accept(project_, n, invoer, decimaal_)) {
+    PasToe(uitslag);
+    geldig = geldig && uitslag.Geldig;
+  }
+  return geldig;
+}
+
+/// Fills and shows the page of element n. The field that loses the focus by it was stored before; what it
+/// holds now belongs to another element, so its leaving is not handled.
+void frmMurvane::Open(int n) {
+  const ElementOpening opening = OpenElement(project_, n, decimaal_);
+  {
+    const QScopedValueRollback<bool> vult(vult_, true);
+    for (const auto& [sleutel, vak] : velden_) {
+      if (SSTab2->isAncestorOf(vak)) vak->ZetKleur(VeldKleur);
+    }
+    ZetTeksten(opening.Beeld.Teksten);
+    if (opening.Beeld.OpPagina == Pagina::Kanaal) cmbKanaal->ZetTekst(VanCp(opening.Beeld.cmbKanaal));
+    for (const VeldStand& stand : opening.Beeld.Stand) ZetZichtbaar(stand.Veld, stand.Zichtbaar);
+    if (opening.SSTab2Zichtbaar) SSTab2->setCurrentIndex(static_cast<int>(opening.Beeld.OpPagina));
+    SSTab2->setVisible(opening.SSTab2Zichtbaar);
+    tekening_->setVisible(opening.SSTab2Zichtbaar);
+    tekening_->ZetType(project_.Elementen[static_cast<std::size_t>(n)].ElementType);
+    tekening_->Belicht({});
+  }
+  ZetTeksten(opening.Zet);
+  const QScopedValueRollback<bool> vult(vult_, true);
+  if (SSTab1->currentIndex() == static_cast<int>(Tab::Kanaalelementen)) GaNaar(VanCp(opening.Focus));
+}
+
+void frmMurvane::VoerUit(const FanUitslag& uitslag) {
+  for (const VeldUitslag& veld : uitslag.Velden) PasToe(veld);
+  ZetTeksten(uitslag.Zet);
+  ZetLwA(uitslag.lblLwA);
+  ToonFan(uitslag.Zicht);
+  VormPagina();
+  if (uitslag.KiesRij) lstFan->ZetRij(*uitslag.KiesRij);
+  if (uitslag.Box) dialogen_.Toon(*uitslag.Box);
+  if (uitslag.Focus) GaNaar(ObjectNaam(*uitslag.Focus));
+  if (uitslag.OpenEersteElement) VoerUit(lstProject_Click(lijst_, project_, 0));
+  emit ToestandGewijzigd();
+}
+
+void frmMurvane::VoerUit(const RuimteUitslag& uitslag) {
+  ToonRuimte(uitslag.Zicht);
+  ZetTeksten(uitslag.Zet);
+  RoepBerekend(uitslag.Berekend);
+}
+
+void frmMurvane::VoerUit(Keuzevak& vak, const KeuzeUitslag& uitslag) {
+  if (uitslag.Tekst) vak.ZetTekst(VanCp(*uitslag.Tekst));
+  ZetTeksten(uitslag.Zet);
+  if (!uitslag.Berekend.empty()) RoepBerekend(uitslag.Berekend);
+}
+
+// ---- Events ----
+
+void frmMurvane::TotaalToets(int toets) {
+  if (toets == Qt::Key_Return) Voegtoe();
+  if (toets == Qt::Key_Insert) Voegin();
+}
+
+void frmMurvane::ProjectToets(int toets) {
+  if (toets == Qt::Key_Delete) Wis();
+}
+
+void frmMurvane::Voegtoe() {
+  if (Houdt()) return;
+  Veilig("lstTotaal_DblClick",
+         [this] { VoerUit(lstTotaal_DblClick(lijst_, project_, catalogi_.CatElementen)); });
+}
+
+void frmMurvane::Voegin() {
+  if (Houdt()) return;
+  Veilig("Insert", [this] { VoerUit(Insert(lijst_, project_, catalogi_.CatElementen)); });
+}
+
+void frmMurvane::Wis() {
+  if (Houdt()) return;
+  Veilig("lstProject_DblClick", [this] {
+    const LijstUitkomst vraag = lstProject_DblClick(lijst_);
+    if (!vraag.Melding) return;
+    const Antwoord antwoord = dialogen_.Toon(*vraag.Melding);
+    if (vraag.Melding->Soort == MeldingSoort::Vraag) VoerUit(WisElement(lijst_, project_, antwoord));
+  });
+}
+
+void frmMurvane::Verplaats(int toets) {
+  Veilig("UpDown", [&] { VoerUit(UpDown(lijst_, project_, toets)); });
+}
+
+void frmMurvane::KnopKlik(const Toolbarknop& knop) {
+  if (!IsGeldigNaBewaren()) return;
+  if (knop.Sleutel == "Add") Voegtoe();
+  if (knop.Sleutel == "Prop") Voegin();
+  if (knop.Sleutel == "Delete") Wis();
+  if (knop.Sleutel == "Down") Verplaats(ToetsOmlaag);
+  if (knop.Sleutel == "Up") Verplaats(ToetsOmhoog);
+}
+
+void frmMurvane::FanOK() {
+  std::array<std::string, FanVakken> teksten;
+  for (int i = 0; i < FanVakken; ++i) teksten[static_cast<std::size_t>(i)] = TekstVan({"txtfan", i});
+  Veilig("cmdFanOK_Click", [&] { VoerUit(cmdFanOK_Click(project_, teksten, decimaal_)); });
+}
+
+void frmMurvane::Image1_Click() {
+  if (!MonthView->isHidden()) return MonthView->hide();
+  const QDate datum = DatumVan(TekstVan({"txtMyDate"}));
+  MonthView->setSelectedDate(datum.isValid() ? datum : DatumVan(vandaag_));
+  MonthView->resize(MonthView->sizeHint());
+  MonthView->move(Image1->mapTo(MonthView->parentWidget(), QPoint(0, Image1->height() + 2)));
+  MonthView->raise();
+  MonthView->show();
+  MonthView->setFocus();
+}
+
+void frmMurvane::MonthView_DateClick(const QDate& datum) {
+  if (MonthView->isHidden()) return;
+  Vak({"txtMyDate"})->setText(datum.toString("dd-MM-yyyy"));
+  GaNaar("txtMyDate");
+  MonthView->hide();
+}
+
+void frmMurvane::KiesType(std::int16_t rekenType) {
+  Veilig("KiesRekenType", [&] {
+    VoerUit(KiesRekenType(sessie_, project_, rekenType));
+    ToonType();
+    VoerUit(VrVldSet(project_));
+    VormPagina();
+    SSTab1->setCurrentIndex(static_cast<int>(StartPagina));
+  });
+}
+
+ProjectInvoer frmMurvane::LeesInvoer() const {
+  ProjectInvoer invoer;
+  for (const InvoerPlaats& plaats : Plaatsen) invoer.*plaats.Lid = TekstVan({plaats.Naam});
+  for (int band = 0; band < Banden; ++band)
+    invoer.txtLw[static_cast<std::size_t>(band)] = TekstVan({"txtLw", band});
+  return invoer;
+}
+
+bool frmMurvane::NeemOverEnBeoordeel() {
+  std::optional<Bevinding> bevinding;
+  {
+    const Zandloper wacht(dialogen_);
+    if (!IsGeldigNaBewaren()) return false;
+    if (lijst_.HuidigElement > 0 && !Accepteer(lijst_.HuidigElement)) return false;
+    const ProjectInvoer invoer = LeesInvoer();
+    if (const auto ongeldig = OngeldigeLw(invoer)) {
+      PasToe(*ongeldig);
+      return false;
+    }
+    NeemOver(project_, invoer, decimaal_);
+    for (std::size_t i = EersteRuimte; i < Plaatsen.size(); ++i)
+      ZetTekst({{Plaatsen[i].Naam}, HerstelTekst(project_, 0, {Plaatsen[i].Naam}, decimaal_)});
+    bevinding = Beoordeel(project_);
+  }
+  if (bevinding) NaarRegel(*bevinding);
+  return !bevinding;
+}
+
+void frmMurvane::NaarRegel(const Bevinding& bevinding) {
+  dialogen_.Toon({MeldingSoort::Uitroep, "Waarschuwing", bevinding.Melding});
+  SSTab1->setCurrentIndex(static_cast<int>(bevinding.OpTab));
+  if (bevinding.Element > 0) VoerUit(lstProject_Click(lijst_, project_, bevinding.Element - 1));
+  const QScopedValueRollback<bool> vult(vult_, true);
+  if (!bevinding.Veld.empty()) GaNaar(VanCp(bevinding.Veld));
+}
+
+void frmMurvane::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::PaletteChange && Image1 != nullptr) {
+    ZetIconen();
+    ToonLijsten();
+  }
+  QWidget::changeEvent(event);
+}
+
+/// The wheel changes no tab; Escape closes the calendar.
+bool frmMurvane::eventFilter(QObject* object, QEvent* event) {
+  if (object == SSTab1->tabBar()) return event->type() == QEvent::Wheel;
+  const bool escape =
+      event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
+  if (object != MonthView || !escape) return QWidget::eventFilter(object, event);
+  GaNaar("txtMyDate");
+  MonthView->hide();
+  return true;
+}
+
+}  // namespace murvane

@@ -1,0 +1,519 @@
+// The controls of the project window: their names, texts and places. The order in which they are made is the
+// order of the Tab key.
+
+#include <QButtonGroup>
+#include <QCalendarWidget>
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStackedWidget>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include "basis/vensters_hulp.h"
+#include "editor/frmMurvane.h"
+#include "editor/vensters_tekening.h"
+#include "editor/vensters_veld.h"
+
+namespace murvane {
+
+namespace {
+
+constexpr int Marge = 12;
+constexpr int Ruimte = 8;
+constexpr int GetalBreedte = 90;
+
+struct KnopTekst {
+  std::string_view Sleutel;
+  const char* Tekst;
+  const char* Beeld;
+};
+
+constexpr auto KnopTeksten = std::to_array<KnopTekst>({
+    {"Add", "Toevoegen", "toevoegen"},
+    {"Prop", "Invoegen", "invoegen"},
+    {"Delete", "Wissen", "wissen"},
+    {"Down", "Omlaag", "omlaag"},
+    {"Up", "Omhoog", "omhoog"},
+});
+
+const KnopTekst& TekstVanKnop(std::string_view sleutel) {
+  for (const KnopTekst& knop : KnopTeksten) {
+    if (knop.Sleutel == sleutel) return knop;
+  }
+  return KnopTeksten.front();
+}
+
+QVBoxLayout* Kolom(QWidget* ouder, int marge = Marge) {
+  auto* const indeling = new QVBoxLayout(ouder);
+  indeling->setContentsMargins(marge, marge, marge, marge);
+  indeling->setSpacing(Ruimte);
+  return indeling;
+}
+
+QGridLayout* Rooster(QWidget* ouder, int marge = 0) {
+  auto* const indeling = new QGridLayout(ouder);
+  indeling->setContentsMargins(marge, marge, marge, marge);
+  indeling->setHorizontalSpacing(Ruimte);
+  indeling->setVerticalSpacing(Ruimte);
+  return indeling;
+}
+
+template <typename Knop>
+Knop* MaakKnop(const char* naam, const QString& tekst, QWidget* ouder) {
+  auto* const knop = new Knop(tekst, ouder);
+  knop->setObjectName(naam);
+  knop->setAccessibleName(tekst);
+  return knop;
+}
+
+}  // namespace
+
+QLabel* frmMurvane::MaakLabel(const QString& tekst, const char* reeks, QWidget* buddy) {
+  auto* const label = new QLabel(tekst, this);
+  label->setObjectName(QString(reeks) + "_" + QString::number(labels_[reeks]++));
+  label->setBuddy(buddy);
+  return label;
+}
+
+void frmMurvane::MeldAan(InvoerVeld* veld) {
+  velden_[{veld->Veld().Naam, veld->Veld().Index}] = veld;
+  connect(veld, &QLineEdit::textChanged, this, [this, veld] { Gewijzigd(*veld); });
+  connect(veld, &InvoerVeld::Verlaten, this, [this, veld] { Verlaat(*veld); });
+  connect(veld, &InvoerVeld::Enter, this, [this, veld] { NaarVolgende(*veld); });
+  connect(veld, &InvoerVeld::Escape, this, [this, veld] { Herstel(*veld); });
+  connect(veld, &InvoerVeld::Gekregen, this, [this, veld] { tekening_->Belicht(veld->objectName()); });
+}
+
+InvoerVeld* frmMurvane::VoegVeld(QGridLayout* indeling, int rij, VeldId veld, const QString& tekst,
+                                 const QString& eenheid, const char* labels, int kolom) {
+  const QString naam = eenheid.isEmpty() ? tekst : tekst + " in " + eenheid;
+  auto* const vak = new InvoerVeld(veld, naam, this);
+  QLabel* const label = MaakLabel(tekst, labels, vak);
+  indeling->addWidget(label, rij, kolom);
+  indeling->addWidget(vak, rij, kolom + 1);
+  std::vector<QWidget*>& mee = mee_[{veld.Naam, veld.Index}];
+  mee.push_back(label);
+  if (vak->alignment() & Qt::AlignRight) {
+    vak->setFixedWidth(GetalBreedte);
+    QLabel* const achter = MaakLabel(eenheid, labels, vak);
+    indeling->addWidget(achter, rij, kolom + 2);
+    mee.push_back(achter);
+  }
+  MeldAan(vak);
+  return vak;
+}
+
+BandRij* frmMurvane::VoegBanden(std::string_view naam, int eerste, const QString& tekst, bool metKop) {
+  auto* const rij = new BandRij(naam, eerste, tekst, metKop, this);
+  for (InvoerVeld* const vak : rij->Vakken()) MeldAan(vak);
+  mee_[{naam, eerste}].push_back(rij);
+  rijen_[{naam, eerste}] = rij;
+  return rij;
+}
+
+void frmMurvane::BouwOp() {
+  setObjectName("frmMurvane");
+  setWindowTitle(VanCp(VensterTitel()));
+  auto* const indeling = Kolom(this, Ruimte);
+  SSTab1 = new QTabWidget(this);
+  SSTab1->setObjectName("SSTab1");
+  SSTab1->setAccessibleName("Invoer van het project");
+  SSTab1->tabBar()->installEventFilter(this);
+  SSTab1->addTab(BouwVentilator(), "Ventilator");
+  SSTab1->addTab(BouwElementen(), "Kanaalelementen");
+  SSTab1->addTab(BouwRuimte(), "Ruimtegegevens");
+  SSTab1->addTab(BouwProject(), "Projectgegevens");
+  indeling->addWidget(SSTab1, 1);
+  indeling->addStretch(0);
+  ProgressBar1 = new QProgressBar(this);
+  ProgressBar1->setObjectName("ProgressBar1");
+  ProgressBar1->setAccessibleName("Voortgang van de berekening");
+  indeling->addWidget(ProgressBar1);
+  VerbindKeuzes();
+  ZetIconen();
+}
+
+QWidget* frmMurvane::BouwVentilator() {
+  auto* const blad = new QWidget(this);
+  auto* const indeling = Kolom(blad);
+  optInvoer = MaakKnop<QRadioButton>("optInvoer", "Ventilator uit de lijst", blad);
+  optPrognose = MaakKnop<QRadioButton>("optPrognose", "Prognose uit de ventilatorgegevens", blad);
+  auto* const bron = new QHBoxLayout;
+  bron->setSpacing(3 * Ruimte);
+  bron->addWidget(optInvoer);
+  bron->addWidget(optPrognose);
+  bron->addStretch();
+  indeling->addLayout(bron);
+  vakFan_ = BouwFanLijst();
+  indeling->addWidget(vakFan_, 1);
+  indeling->addWidget(BouwFanPrognose());
+  auto* const rooster = Rooster(nullptr);
+  VoegVeld(rooster, 0, {"txtSpectrum"}, "Ventilator", "", "lblspectrum");
+  BandRij* const rij = VoegBanden("txtLw", 0, "Geluidsvermogen Lw in dB", true);
+  QLabel* const lw = MaakLabel("Lw in dB", "lblspectrum", rij->Vakken()[0]);
+  lw->setMinimumHeight(rij->Vakken()[0]->sizeHint().height());
+  rooster->addWidget(lw, 1, 0, Qt::AlignBottom);
+  rooster->addWidget(rij, 1, 1);
+  lblLwA = new QLabel(blad);
+  lblLwA->setObjectName("lblLwA");
+  lblLwA->setAccessibleName("Geluidsvermogen in dB(A)");
+  rooster->addWidget(lblLwA, 2, 1);
+  indeling->addLayout(rooster);
+  indeling->addStretch(0);
+  return blad;
+}
+
+QWidget* frmMurvane::BouwFanLijst() {
+  auto* const vak = new QWidget(this);
+  auto* const indeling = Kolom(vak, 0);
+  lstFan = new Lijstvak("lstFan", "Lijst ventilatoren", vak);
+  indeling->addWidget(MaakLabel("Lijst ventilatoren", "lblspectrum", lstFan));
+  indeling->addWidget(lstFan, 1);
+  return vak;
+}
+
+QWidget* frmMurvane::BouwFanPrognose() {
+  frameFan = new QGroupBox("Ventilatorgegevens", this);
+  frameFan->setObjectName("frameFan");
+  auto* const indeling = Rooster(frameFan, Marge);
+  VoegVeld(indeling, 0, {"txtfan", 0}, "Luchtdebiet", "m³/s", "lblfan");
+  VoegVeld(indeling, 1, {"txtfan", 1}, "Totale druk", "Pa", "lblfan");
+  VoegVeld(indeling, 2, {"txtfan", 2}, "Toerental", "omw/min", "lblfan");
+  VoegVeld(indeling, 3, {"txtfan", 3}, "Aantal schoepen", "stuks", "lblfan");
+  VoegVeld(indeling, 4, {"txtfan", 4}, "Asvermogen", "W", "lblfan");
+  optAxiaal = MaakKnop<QRadioButton>("optAxiaal", "Axiaal", frameFan);
+  optCentriVoor = MaakKnop<QRadioButton>("optCentriVoor", "Centrifugaal, voorwaarts gebogen", frameFan);
+  optCentriAchter = MaakKnop<QRadioButton>("optCentriAchter", "Centrifugaal, achterwaarts gebogen", frameFan);
+  auto* const typen = new QButtonGroup(frameFan);
+  int rij = 0;
+  for (QRadioButton* const type : {optAxiaal, optCentriVoor, optCentriAchter}) {
+    typen->addButton(type);
+    indeling->addWidget(type, rij++, 4);
+  }
+  indeling->setColumnMinimumWidth(3, 3 * Ruimte);
+  cmdFanOK = MaakKnop<QPushButton>("cmdFanOK", "OK", frameFan);
+  cmdFanCancel = MaakKnop<QPushButton>("cmdFanCancel", "Annuleren", frameFan);
+  auto* const knoppen = new QHBoxLayout;
+  knoppen->addWidget(cmdFanOK);
+  knoppen->addWidget(cmdFanCancel);
+  knoppen->addStretch();
+  indeling->addLayout(knoppen, 4, 4);
+  indeling->setColumnStretch(4, 1);
+  return frameFan;
+}
+
+QWidget* frmMurvane::BouwElementen() {
+  auto* const blad = new QWidget(this);
+  auto* const indeling = Kolom(blad);
+  auto* const lijsten = new QHBoxLayout;
+  lijsten->setSpacing(2 * Marge);
+  lstTotaal = new Lijstvak("lstTotaal", "Lijst kanaalelementen", blad);
+  lijsten->addWidget(BouwLijst(lstTotaal, "Lijst kanaalelementen", "Toolbar1"));
+  lstProject = new Lijstvak("lstProject", "Kanaalelementen project", blad);
+  lijsten->addWidget(BouwLijst(lstProject, "Kanaalelementen project", "Toolbar2"));
+  indeling->addLayout(lijsten, 1);
+  indeling->addWidget(BouwPaginas());
+  return blad;
+}
+
+QWidget* frmMurvane::BouwLijst(Lijstvak* lijst, const QString& titel, const QString& toolbar) {
+  auto* const vak = new QWidget(this);
+  auto* const indeling = Kolom(vak, 0);
+  indeling->addWidget(MaakLabel(titel, "lbllijst", lijst));
+  indeling->addWidget(lijst, 1);
+  indeling->addWidget(BouwKnoppen(toolbar));
+  return vak;
+}
+
+QWidget* frmMurvane::BouwKnoppen(const QString& toolbar) {
+  auto* const balk = new QWidget(this);
+  balk->setObjectName(toolbar);
+  auto* const indeling = new QHBoxLayout(balk);
+  indeling->setContentsMargins(0, 0, 0, 0);
+  for (const Toolbarknop& regel : Toolbarknoppen) {
+    if (VanCp(regel.Toolbar) != toolbar) continue;
+    auto* const knop = new QToolButton(balk);
+    knop->setObjectName(toolbar + "_" + VanCp(regel.Sleutel));
+    knop->setText(TekstVanKnop(regel.Sleutel).Tekst);
+    knop->setToolTip(VanCp(regel.ToolTip));
+    knop->setAccessibleName(knop->text());
+    knop->setAccessibleDescription(knop->toolTip());
+    knop->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    connect(knop, &QToolButton::clicked, this, [this, &regel] { KnopKlik(regel); });
+    indeling->addWidget(knop);
+    knoppen_.push_back(knop);
+  }
+  indeling->addStretch();
+  return balk;
+}
+
+QWidget* frmMurvane::BouwPaginas() {
+  SSTab2 = new QStackedWidget(this);
+  SSTab2->setObjectName("SSTab2");
+  tekening_ = new Tekening(this);
+  for (QWidget* const pagina : {BouwKanaalPagina(), BouwAftakPagina(), BouwDoorsneePagina(),
+                                BouwWeerstandPagina(), BouwSpectrumPagina()})
+    SSTab2->addWidget(pagina);
+  auto* const vak = new QWidget(this);
+  auto* const indeling = new QHBoxLayout(vak);
+  indeling->setContentsMargins(0, 0, 0, 0);
+  indeling->setSpacing(Marge);
+  indeling->addWidget(SSTab2, 0);
+  indeling->addWidget(tekening_, 1);
+  vak->setFixedHeight(vak->sizeHint().height());
+  return vak;
+}
+
+QWidget* frmMurvane::BouwKanaalPagina() {
+  auto* const pagina = new QWidget(this);
+  auto* const indeling = Kolom(pagina, 0);
+  auto* const maten = Rooster(nullptr);
+  VoegVeld(maten, 0, {"txtHoogte"}, "Hoogte of diameter", "mm", "lblPlan");
+  VoegVeld(maten, 1, {"txtBreedte"}, "Breedte", "mm", "lblPlan");
+  VoegVeld(maten, 2, {"txtLengte"}, "Lengte", "m", "lblPlan");
+  VoegVeld(maten, 3, {"txtDebiet"}, "Luchtdebiet", "m³/s", "lblPlan");
+  maten->setColumnStretch(3, 1);
+  indeling->addLayout(maten);
+  BandRij* const rij = VoegBanden("txtdemp", 0, "Geluidsniveau buiten het kanaal in dB(A)", true);
+  QLabel* const titel = MaakLabel("Geluidsniveau buiten het kanaal in dB(A)", "lblPlan", rij->Vakken()[0]);
+  mee_[{"txtdemp", 0}].push_back(titel);
+  indeling->addWidget(titel);
+  indeling->addWidget(rij);
+  cmbKanaal = new Keuzevak("cmbKanaal", "Kanaalwand", this);
+  QLabel* const wand = MaakLabel("Kanaalwand", "lblPlan", cmbKanaal);
+  mee_[{"cmbKanaal", -1}] = {wand, cmbKanaal};
+  indeling->addWidget(wand);
+  indeling->addWidget(cmbKanaal);
+  indeling->addStretch();
+  return pagina;
+}
+
+QWidget* frmMurvane::BouwAftakPagina() {
+  auto* const pagina = new QWidget(this);
+  auto* const kolom = Kolom(pagina, 0);
+  auto* const maten = Rooster(nullptr);
+  VoegVeld(maten, 0, {"txtHAftak"}, "Hoogte of diameter aftakking", "mm", "lblPlan");
+  VoegVeld(maten, 1, {"txtBAftak"}, "Breedte aftakking", "mm", "lblPlan");
+  VoegVeld(maten, 2, {"txtRAftak"}, "Afronding r/d aftakking", "", "lblPlan");
+  VoegVeld(maten, 3, {"txtQAftak"}, "Luchtdebiet aftakking", "m³/s", "lblPlan");
+  VoegVeld(maten, 4, {"txtHHoofd"}, "Hoogte of diameter hoofdkanaal", "mm", "lblPlan");
+  VoegVeld(maten, 5, {"txtBHoofd"}, "Breedte hoofdkanaal", "mm", "lblPlan");
+  VoegVeld(maten, 6, {"txtHDoor"}, "Hoogte of diameter doorgaand kanaal", "mm", "lblPlan");
+  VoegVeld(maten, 7, {"txtBDoor"}, "Breedte doorgaand kanaal", "mm", "lblPlan");
+  maten->setColumnStretch(3, 1);
+  kolom->addLayout(maten);
+  kolom->addStretch();
+  return pagina;
+}
+
+QWidget* frmMurvane::BouwDoorsneePagina() {
+  auto* const pagina = new QWidget(this);
+  auto* const kolom = Kolom(pagina, 0);
+  auto* const maten = Rooster(nullptr);
+  VoegVeld(maten, 0, {"txtH1Doorsnee"}, "Hoogte of diameter intrede", "mm", "lblPlan");
+  VoegVeld(maten, 1, {"txtB1Doorsnee"}, "Breedte intrede", "mm", "lblPlan");
+  VoegVeld(maten, 2, {"txtH2Doorsnee"}, "Hoogte of diameter uittrede", "mm", "lblPlan");
+  VoegVeld(maten, 3, {"txtB2Doorsnee"}, "Breedte uittrede", "mm", "lblPlan");
+  VoegVeld(maten, 4, {"txtLDoorsnee"}, "Lengte", "m", "lblPlan");
+  maten->setColumnStretch(3, 1);
+  kolom->addLayout(maten);
+  kolom->addStretch();
+  return pagina;
+}
+
+QWidget* frmMurvane::BouwWeerstandPagina() {
+  auto* const pagina = new QWidget(this);
+  auto* const kolom = Kolom(pagina, 0);
+  auto* const maten = Rooster(nullptr);
+  VoegVeld(maten, 0, {"txtSnetto"}, "Netto doorlaat", "cm²", "lblPlan");
+  VoegVeld(maten, 1, {"txtWeerstand"}, "Weerstand", "Pa", "lblPlan");
+  maten->setColumnStretch(3, 1);
+  kolom->addLayout(maten);
+  kolom->addStretch();
+  return pagina;
+}
+
+QWidget* frmMurvane::BouwSpectrumPagina() {
+  auto* const pagina = new QWidget(this);
+  auto* const indeling = Kolom(pagina, 0);
+  BandRij* const demping = VoegBanden("txtdemp", 7, "Invoegdemping in dB", true);
+  indeling->addWidget(MaakLabel("Invoegdemping in dB", "lblPlan", demping->Vakken()[0]));
+  indeling->addWidget(demping);
+  BandRij* const ruis = VoegBanden("txtruis", 0, "Eigenruis in dB", true);
+  indeling->addWidget(MaakLabel("Eigenruis in dB", "lblPlan", ruis->Vakken()[0]));
+  indeling->addWidget(ruis);
+  indeling->addStretch();
+  return pagina;
+}
+
+QWidget* frmMurvane::BouwRuimte() {
+  auto* const blad = new QWidget(this);
+  auto* const indeling = Kolom(blad);
+  VrijVeld = MaakKnop<QCheckBox>("VrijVeld", "Vrije-veldsituatie", blad);
+  indeling->addWidget(VrijVeld);
+  auto* const maten = Rooster(nullptr);
+  VoegVeld(maten, 0, {"txtRLengte"}, "Lengte vertrek", "m", "lblruimte");
+  VoegVeld(maten, 1, {"txtRBreedte"}, "Breedte vertrek", "m", "lblruimte");
+  VoegVeld(maten, 2, {"txtRHoogte"}, "Hoogte vertrek", "m", "lblruimte");
+  VoegVeld(maten, 3, {"txtRNagalm"}, "Nagalmtijd", "s", "lblruimte");
+  VoegVeld(maten, 4, {"txtRNR"}, "Toelaatbaar geluidsniveau", "dB(A)", "lblruimte");
+  VoegVeld(maten, 5, {"txtRDI"}, "Richtingsfactor", "1, 2, 4 of 8", "lblruimte");
+  VoegVeld(maten, 6, {"txtRAantal"}, "Aantal roosters", "stuks", "lblruimte");
+  maten->setColumnStretch(3, 1);
+  indeling->addLayout(maten);
+  auto* const isolatie = Rooster(nullptr);
+  bandKop_ = new BandKop(blad);
+  isolatie->addWidget(bandKop_, 0, 1);
+  const auto voeg = [&](int rij, Keuzevak* vak, const char* naam, const char* tekst) {
+    BandRij* const banden = VoegBanden(naam, 0, QString(tekst) + ", isolatie in dB", false);
+    QLabel* const keuze = MaakLabel(tekst, "lblruimte", vak);
+    QLabel* const isolatieLabel = MaakLabel("Isolatie in dB", "lblruimte", banden->Vakken()[0]);
+    isolatie->addWidget(keuze, rij, 0);
+    isolatie->addWidget(vak, rij, 1);
+    isolatie->addWidget(isolatieLabel, rij + 1, 0);
+    isolatie->addWidget(banden, rij + 1, 1);
+    mee_[{naam, 0}].insert(mee_[{naam, 0}].end(), {keuze, vak, isolatieLabel});
+  };
+  cmbRkanaal = new Keuzevak("cmbRkanaal", "Kanaalwand", blad);
+  voeg(1, cmbRkanaal, "txtRkanaal", "Kanaalwand");
+  cmbRplafond = new Keuzevak("cmbRplafond", "Plafond", blad);
+  voeg(3, cmbRplafond, "txtRplafond", "Plafond");
+  isolatie->setColumnMinimumWidth(0, maten->sizeHint().width() / 2);
+  isolatie->setColumnStretch(1, 1);
+  indeling->addLayout(isolatie);
+  indeling->addStretch();
+  return blad;
+}
+
+QWidget* frmMurvane::BouwProject() {
+  auto* const blad = new QWidget(this);
+  auto* const kolom = Kolom(blad);
+  auto* const indeling = Rooster(nullptr);
+  InvoerVeld* const nummer = VoegVeld(indeling, 0, {"txtProNum"}, "Projectnummer", "", "lblproject");
+  nummer->setMaximumWidth(160);
+  indeling->addWidget(MaakLabel("Datum", "lblproject", nullptr), 1, 0);
+  indeling->addWidget(BouwDatum(), 1, 1);
+  qobject_cast<QLabel*>(indeling->itemAtPosition(1, 0)->widget())->setBuddy(Vak({"txtMyDate"}));
+  VoegVeld(indeling, 2, {"txtProNaam"}, "Projectnaam", "", "lblproject");
+  VoegVeld(indeling, 3, {"txtOmschrijving"}, "Omschrijving", "", "lblproject");
+  VoegVeld(indeling, 4, {"txtToelichting1"}, "Toelichting", "", "lblproject");
+  VoegVeld(indeling, 5, {"txtToelichting2"}, "", "", "lblproject")->setAccessibleName("Toelichting, regel 2");
+  VoegVeld(indeling, 6, {"txtToelichting3"}, "", "", "lblproject")->setAccessibleName("Toelichting, regel 3");
+  kolom->addLayout(indeling);
+  kolom->addStretch();
+  MonthView = new QCalendarWidget(blad);
+  MonthView->setObjectName("MonthView");
+  MonthView->setAccessibleName("Kalender");
+  MonthView->setLocale(QLocale(QLocale::Dutch, QLocale::Netherlands));
+  MonthView->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+  MonthView->setAutoFillBackground(true);
+  MonthView->installEventFilter(this);
+  return blad;
+}
+
+QWidget* frmMurvane::BouwDatum() {
+  auto* const vak = new QWidget(this);
+  auto* const indeling = new QHBoxLayout(vak);
+  indeling->setContentsMargins(0, 0, 0, 0);
+  auto* const datum = new InvoerVeld({"txtMyDate"}, "Datum", vak);
+  datum->setMaximumWidth(160);
+  MeldAan(datum);
+  Image1 = new QToolButton(vak);
+  Image1->setObjectName("Image1");
+  Image1->setAccessibleName("Kalender tonen of verbergen");
+  Image1->setToolTip("Kalender");
+  indeling->addWidget(datum);
+  indeling->addWidget(Image1);
+  indeling->addStretch();
+  return vak;
+}
+
+void frmMurvane::VerbindKeuzes() {
+  connect(optInvoer, &QRadioButton::clicked, this, [this] {
+    Veilig("optInvoer_Click",
+           [this] { VoerUit(optInvoer_Click(project_, catalogi_.CatFans, laatsteFan_, decimaal_)); });
+  });
+  connect(optPrognose, &QRadioButton::clicked, this, [this] {
+    Veilig("optPrognose_Click", [this] { VoerUit(optPrognose_Click(project_, SSTab1->currentIndex())); });
+  });
+  const std::array<std::pair<QRadioButton*, std::int16_t>, 3> typen = {
+      {{optAxiaal, fantype::Axiaal},
+       {optCentriVoor, fantype::CentrifugaalVoorwaarts},
+       {optCentriAchter, fantype::CentrifugaalAchterwaarts}}};
+  for (const auto& [knop, type] : typen) {
+    connect(knop, &QRadioButton::clicked, this, [this, fanType = type] {
+      Veilig("FanTypeGekozen", [this, fanType] { VoerUit(FanTypeGekozen(project_, fanType)); });
+    });
+  }
+  connect(cmdFanOK, &QPushButton::clicked, this, &frmMurvane::FanOK);
+  connect(cmdFanCancel, &QPushButton::clicked, this, [this] {
+    Veilig("cmdFanCancel_Click",
+           [this] { VoerUit(cmdFanCancel_Click(project_, catalogi_.CatFans, laatsteFan_, decimaal_)); });
+  });
+  connect(lstFan, &Lijstvak::Geklikt, this, [this](int rij) {
+    Veilig("lstFan_Click",
+           [&] { VoerUit(lstFan_Click(project_, rij, catalogi_.CatFans, laatsteFan_, decimaal_)); });
+  });
+  connect(lstTotaal, &Lijstvak::Geklikt, this, [this](int rij) {
+    if (Houdt()) return ToonLijsten();
+    Veilig("lstTotaal_Click", [&] { VoerUit(lstTotaal_Click(lijst_, rij)); });
+  });
+  connect(lstProject, &Lijstvak::Geklikt, this, [this](int rij) {
+    if (Houdt()) return ToonLijsten();
+    Veilig("lstProject_Click", [&] { VoerUit(lstProject_Click(lijst_, project_, rij)); });
+  });
+  connect(lstTotaal, &QListWidget::itemDoubleClicked, this, &frmMurvane::Voegtoe);
+  connect(lstProject, &QListWidget::itemDoubleClicked, this, &frmMurvane::Wis);
+  connect(lstTotaal, &Lijstvak::Toets, this, &frmMurvane::TotaalToets);
+  connect(lstProject, &Lijstvak::Toets, this, &frmMurvane::ProjectToets);
+  connect(VrijVeld, &QCheckBox::clicked, this,
+          [this](bool aan) { Veilig("VrijVeld_Click", [&] { VoerUit(VrijVeld_Click(project_, aan)); }); });
+  connect(cmbKanaal, &QComboBox::activated, this, [this](int rij) {
+    Veilig("cmbKanaal_Click", [&] {
+      if (cmbKanaal_Click(project_, lijst_.HuidigElement, rij, catalogi_.CatRduct))
+        RoepBerekend(WandBerekend);
+    });
+  });
+  connect(cmbKanaal, &QComboBox::editTextChanged, this, [this](const QString& tekst) {
+    if (vult_) return;
+    if (const auto nieuw = cmbKanaal_Change(NaarCp(tekst))) cmbKanaal->ZetTekst(VanCp(*nieuw));
+  });
+  connect(cmbKanaal, &Keuzevak::Verlaten, this, [this] {
+    if (Houdt()) return;
+    const auto nieuw = cmbKanaal_LostFocus(project_, lijst_.HuidigElement, NaarCp(cmbKanaal->currentText()));
+    if (nieuw) cmbKanaal->ZetTekst(VanCp(*nieuw));
+  });
+  const auto verbind = [this](Keuzevak* vak, const SpectrumCatalogus& catalogus, auto klik, auto wijzig,
+                              auto verlaat) {
+    connect(vak, &QComboBox::activated, this, [=, this, &catalogus](int rij) {
+      Veilig("cmbR_Click", [&] { VoerUit(*vak, klik(project_, rij, catalogus, decimaal_)); });
+    });
+    connect(vak, &QComboBox::editTextChanged, this, [=, this](const QString& tekst) {
+      if (!vult_) VoerUit(*vak, wijzig(NaarCp(tekst)));
+    });
+    connect(vak, &Keuzevak::Verlaten, this, [=, this] {
+      if (!Houdt()) VoerUit(*vak, verlaat(project_, NaarCp(vak->currentText()), decimaal_));
+    });
+  };
+  verbind(cmbRkanaal, catalogi_.CatRduct, cmbRkanaal_Click, cmbRkanaal_Change, cmbRkanaal_LostFocus);
+  verbind(cmbRplafond, catalogi_.CatRplaf, cmbRplafond_Click, cmbRplafond_Change, cmbRplafond_LostFocus);
+  connect(Image1, &QToolButton::clicked, this, &frmMurvane::Image1_Click);
+  connect(MonthView, &QCalendarWidget::clicked, this, &frmMurvane::MonthView_DateClick);
+  connect(MonthView, &QCalendarWidget::activated, this, &frmMurvane::MonthView_DateClick);
+}
+
+void frmMurvane::ZetIconen() {
+  for (std::size_t i = 0; i < knoppen_.size(); ++i)
+    knoppen_[i]->setIcon(Icoon(TekstVanKnop(Toolbarknoppen[i].Sleutel).Beeld, palette()));
+  Image1->setIcon(Icoon("kalender", palette()));
+}
+
+}  // namespace murvane

@@ -1,0 +1,124 @@
+#include "editor/vensters_tekening.h"
+
+#include <QEvent>
+#include <QFile>
+#include <QPainter>
+#include <algorithm>
+#include <array>
+
+#include "project/records.h"
+
+namespace murvane {
+
+namespace {
+
+struct Beeld {
+  std::int16_t Type;
+  const char* Naam;
+  const char* Omschrijving;
+};
+
+constexpr auto Beelden = std::to_array<Beeld>({
+    {elementtype::AftakRecht, "aftak-recht", "Aftakking, rechthoekig"},
+    {elementtype::AftakRond, "aftak-rond", "Aftakking, rond"},
+    {elementtype::BochtHaaks, "bocht-haaks", "Bocht, haaks"},
+    {elementtype::BochtRecht, "bocht-recht", "Bocht, rechthoekig"},
+    {elementtype::BochtRond, "bocht-rond", "Bocht, rond"},
+    {elementtype::DrsneeRecht, "doorsnede-recht", "Doorsnedeverandering, rechthoekig"},
+    {elementtype::DrsneeRond, "doorsnede-rond", "Doorsnedeverandering, rond"},
+    {elementtype::KanaalRecht, "kanaal-recht", "Kanaal, rechthoekig"},
+    {elementtype::KanaalRond, "kanaal-rond", "Kanaal, rond"},
+    {elementtype::Klep, "regelklep", "Regelklep"},
+    {elementtype::Rooster, "rooster", "Rooster"},
+    {elementtype::Catalogus, "catalogus", "Element uit de catalogus"},
+});
+
+QString LeesBron(const QString& pad) {
+  QFile bestand(pad);
+  return bestand.open(QIODevice::ReadOnly) ? QString::fromUtf8(bestand.readAll()) : QString();
+}
+
+QString Meng(const QColor& voor, const QColor& achter) {
+  return QColor((voor.red() + achter.red()) / 2, (voor.green() + achter.green()) / 2,
+                (voor.blue() + achter.blue()) / 2)
+      .name();
+}
+
+/// The drawings name three colours: line, shade and flow.
+QByteArray InKleur(QString svg, const QPalette& palet) {
+  const QColor lijn = palet.color(QPalette::WindowText);
+  svg.replace("#888888", Meng(lijn, palet.color(QPalette::Window)));
+  svg.replace("#3a6ea5", palet.color(QPalette::Highlight).name());
+  svg.replace("#111111", lijn.name());
+  return svg.toUtf8();
+}
+
+/// Orange stands out on a light and on a dark ground alike.
+void BelichtGroep(QString& svg, const QString& id) {
+  const qsizetype van = svg.indexOf("<g id=\"" + id + "\"");
+  const qsizetype tot = van < 0 ? -1 : svg.indexOf("</g>", van);
+  if (tot < 0) return;
+  QString groep = svg.mid(van, tot - van);
+  groep.replace("#111111", "#e8590c").replace("#3a6ea5", "#e8590c");
+  groep.replace("font-style=\"italic\"", "font-style=\"italic\" font-weight=\"bold\"");
+  groep.replace("stroke-width=\"1.2\"", "stroke-width=\"2.4\"");
+  svg.replace(van, tot - van, groep);
+}
+
+}  // namespace
+
+QIcon Icoon(const QString& naam, const QPalette& palet) {
+  QIcon icoon;
+  QSvgRenderer svg(InKleur(LeesBron(":/shell/beelden/" + naam + ".svg"), palet));
+  for (const int maat : {16, 24, 32, 48, 64}) {
+    QPixmap beeld(maat, maat);
+    beeld.fill(Qt::transparent);
+    QPainter schilder(&beeld);
+    svg.render(&schilder);
+    schilder.end();
+    icoon.addPixmap(beeld);
+  }
+  return icoon;
+}
+
+Tekening::Tekening(QWidget* ouder) : QWidget(ouder) {
+  setObjectName("Tekening");
+  setMinimumSize(200, 125);
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  svg_.setAspectRatioMode(Qt::KeepAspectRatio);
+}
+
+void Tekening::ZetType(std::int16_t elementType) {
+  const auto* const beeld = std::find_if(Beelden.begin(), Beelden.end(),
+                                         [elementType](const Beeld& een) { return een.Type == elementType; });
+  const bool bekend = beeld != Beelden.end();
+  bron_ = bekend ? LeesBron(QString(":/editor/beelden/") + beeld->Naam + ".svg") : QString();
+  setAccessibleName(bekend ? QString("Tekening: ") + beeld->Omschrijving : QString("Tekening"));
+  Laad();
+}
+
+void Tekening::Belicht(const QString& veldNaam) {
+  belicht_ = veldNaam;
+  Laad();
+}
+
+void Tekening::Laad() {
+  QString svg = bron_;
+  BelichtGroep(svg, belicht_);
+  if (svg.isEmpty()) svg = "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 1 1\"/>";
+  svg_.load(InKleur(svg, palette()));
+  svg_.setAspectRatioMode(Qt::KeepAspectRatio);
+  update();
+}
+
+void Tekening::paintEvent(QPaintEvent* /*event*/) {
+  QPainter schilder(this);
+  svg_.render(&schilder, QRectF(rect()));
+}
+
+void Tekening::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::PaletteChange) Laad();
+  QWidget::changeEvent(event);
+}
+
+}  // namespace murvane

@@ -1,0 +1,39 @@
+#pragma once
+// The drawings of the elements and the icons, in the colours of the theme.
+
+#include <QIcon>
+#include <QSvgRenderer>
+#include <QWidget>
+#include <cstdint>
+#include <string_view>
+
+namespace murvane {
+
+/// An icon out of the program's resources.
+[[nodiscard]] QIcon Icoon(const QString& naam, const QPalette& palet);
+
+/// The line drawing of an element type, in which the dimension of one field is lit.
+class Tekening : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit Tekening(QWidget* ouder);
+
+  void ZetType(std::int16_t elementType);
+  /// Lights the dimension of a field; one that the drawing does not show lights nothing.
+  void Belicht(const QString& veldNaam);
+  [[nodiscard]] const QString& Belicht() const { return belicht_; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  void Laad();
+
+  QString bron_;
+  QString belicht_;
+  QSvgRenderer svg_;
+};
+
+}  // namespace murvane

@@ -1,0 +1,221 @@
+#include "editor/vensters_veld.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QScopedValueRollback>
+#include <QSignalBlocker>
+#include <QVBoxLayout>
+#include <QWheelEvent>
+
+#include "basis/vensters_hulp.h"
+
+namespace murvane {
+
+namespace {
+
+constexpr std::array<const char*, Banden> BandNamen = {"63", "125", "250", "500", "1000", "2000", "4000"};
+
+bool BlijftInVeld(Qt::FocusReason reden) {
+  return reden == Qt::ActiveWindowFocusReason || reden == Qt::PopupFocusReason ||
+         reden == Qt::MenuBarFocusReason;
+}
+
+bool IsEnter(int toets) {
+  return toets == Qt::Key_Return || toets == Qt::Key_Enter;
+}
+
+/// The character that a key types; 0 for a key that edits, moves or is a shortcut.
+char32_t Teken(const QKeyEvent& event) {
+  const auto tekens = event.text().toUcs4();
+  if (tekens.isEmpty() || tekens.front() < ' ' || tekens.front() == 0x7F) return 0;
+  const bool sneltoets = (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == Qt::ControlModifier;
+  return sneltoets ? 0 : tekens.front();
+}
+
+int VakBreedte(const QWidget& vak) {
+  return vak.fontMetrics().horizontalAdvance("0000,00") + 14;
+}
+
+QHBoxLayout* Regelindeling(QWidget* ouder) {
+  auto* const indeling = new QHBoxLayout(ouder);
+  indeling->setContentsMargins(0, 0, 0, 0);
+  indeling->setSpacing(6);
+  return indeling;
+}
+
+QLabel* Bandnaam(int band, QWidget* ouder) {
+  auto* const label = new QLabel(BandNamen[static_cast<std::size_t>(band)], ouder);
+  label->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
+  label->setFixedWidth(VakBreedte(*label));
+  return label;
+}
+
+}  // namespace
+
+QString ObjectNaam(VeldId veld) {
+  const QString naam = VanCp(veld.Naam);
+  return veld.Index < 0 ? naam : naam + "_" + QString::number(veld.Index);
+}
+
+InvoerVeld::InvoerVeld(VeldId veld, const QString& naam, QWidget* ouder)
+    : QLineEdit(ouder), veld_(veld), regel_(Regel(veld)) {
+  setObjectName(ObjectNaam(veld));
+  setAccessibleName(naam);
+  if (const int meest = MaxTekens(regel_); meest > 0) setMaxLength(meest);
+  if (regel_.Soort == VeldSoort::Numeriek || regel_.Aantal > 0) setAlignment(Qt::AlignRight);
+  setReadOnly(regel_.AlleenLezen);
+  ZetAchtergrond(*this, kleur_);
+}
+
+void InvoerVeld::ZetKleur(std::uint32_t bgr) {
+  if (bgr == kleur_) return;
+  kleur_ = bgr;
+  ZetAchtergrond(*this, bgr);
+}
+
+void InvoerVeld::keyPressEvent(QKeyEvent* event) {
+  if (IsEnter(event->key())) return emit Enter();
+  if (event->key() == Qt::Key_Escape) {
+    ZetKleur(MagToets(regel_, 27).Achtergrond);
+    return emit Escape();
+  }
+  const char32_t teken = event->key() == Qt::Key_Backspace ? 8 : Teken(*event);
+  if (teken != 0 && !isReadOnly()) {
+    const murvane::Toets toets = MagToets(regel_, teken);
+    ZetKleur(toets.Achtergrond);
+    if (!toets.Toegestaan) return;
+  }
+  QLineEdit::keyPressEvent(event);
+}
+
+void InvoerVeld::focusInEvent(QFocusEvent* event) {
+  QLineEdit::focusInEvent(event);
+  if (!BlijftInVeld(event->reason())) selectAll();
+  kiesAlles_ = event->reason() == Qt::MouseFocusReason;
+  emit Gekregen();
+}
+
+void InvoerVeld::focusOutEvent(QFocusEvent* event) {
+  QLineEdit::focusOutEvent(event);
+  if (!BlijftInVeld(event->reason())) emit Verlaten();
+}
+
+void InvoerVeld::mouseReleaseEvent(QMouseEvent* event) {
+  QLineEdit::mouseReleaseEvent(event);
+  if (kiesAlles_ && !hasSelectedText()) selectAll();  // the press has dropped the selection of the entry
+  kiesAlles_ = false;
+}
+
+BandRij::BandRij(std::string_view naam, int eerste, const QString& omschrijving, bool metKop, QWidget* ouder)
+    : QWidget(ouder) {
+  auto* const indeling = Regelindeling(this);
+  for (int band = 0; band < Banden; ++band) {
+    const QString bandNaam = BandNamen[static_cast<std::size_t>(band)];
+    auto* const vak = new InvoerVeld({naam, eerste + band}, omschrijving + ", " + bandNaam + " Hz", this);
+    vak->setFixedWidth(VakBreedte(*vak));
+    vakken_[static_cast<std::size_t>(band)] = vak;
+    auto* const kolom = new QVBoxLayout;
+    kolom->setSpacing(2);
+    if (metKop) {
+      QLabel* const kop = Bandnaam(band, this);
+      kop->setBuddy(vak);
+      kolom->addWidget(kop);
+    }
+    kolom->addWidget(vak);
+    indeling->addLayout(kolom);
+  }
+  indeling->addStretch();
+}
+
+BandKop::BandKop(QWidget* ouder) : QWidget(ouder) {
+  auto* const indeling = Regelindeling(this);
+  for (int band = 0; band < Banden; ++band) indeling->addWidget(Bandnaam(band, this));
+  indeling->addStretch();
+}
+
+Lijstvak::Lijstvak(const QString& objectNaam, const QString& naam, QWidget* ouder) : QListWidget(ouder) {
+  setObjectName(objectNaam);
+  setAccessibleName(naam);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setTextElideMode(Qt::ElideRight);
+  connect(this, &QListWidget::currentRowChanged, this, [this](int rij) {
+    if (!stil_) emit Geklikt(rij);
+  });
+}
+
+void Lijstvak::ZetRijen(const QStringList& rijen) {
+  const QScopedValueRollback<bool> stil(stil_, true);
+  clear();
+  addItems(rijen);
+}
+
+void Lijstvak::ZetRij(int rij) {
+  const QScopedValueRollback<bool> stil(stil_, true);
+  setCurrentRow(rij);
+  if (rij < 0) clearSelection();
+}
+
+void Lijstvak::mousePressEvent(QMouseEvent* event) {
+  const bool opRij = itemAt(event->position().toPoint()) != nullptr;
+  if (!opRij && count() > 0) return;  // the blank space behind the rows
+  {
+    const QScopedValueRollback<bool> stil(stil_, true);
+    QListWidget::mousePressEvent(event);
+  }
+  if (event->button() == Qt::LeftButton) emit Geklikt(currentRow());
+}
+
+void Lijstvak::keyPressEvent(QKeyEvent* event) {
+  if (IsEnter(event->key())) return emit Toets(Qt::Key_Return);
+  if (event->key() == Qt::Key_Insert || event->key() == Qt::Key_Delete) return emit Toets(event->key());
+  QListWidget::keyPressEvent(event);
+}
+
+/// The toolkit makes the first row current on entry; entering a list clicks no row.
+void Lijstvak::focusInEvent(QFocusEvent* event) {
+  const int rij = currentRow();
+  {
+    const QScopedValueRollback<bool> stil(stil_, true);
+    QListWidget::focusInEvent(event);
+  }
+  if (rij < 0) ZetRij(rij);
+}
+
+Keuzevak::Keuzevak(const QString& objectNaam, const QString& naam, QWidget* ouder) : QComboBox(ouder) {
+  setObjectName(objectNaam);
+  setAccessibleName(naam);
+  setEditable(true);
+  setInsertPolicy(QComboBox::NoInsert);
+  setCompleter(nullptr);
+  setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  setMinimumContentsLength(30);
+  setMaxVisibleItems(20);
+  ZetAchtergrond(*lineEdit(), VeldKleur);
+  lineEdit()->setAccessibleName(naam);
+}
+
+void Keuzevak::ZetRijen(const QStringList& rijen) {
+  const QSignalBlocker stil(this);
+  const QString tekst = currentText();
+  clear();
+  addItems(rijen);
+  setCurrentIndex(-1);
+  setEditText(tekst);
+}
+
+void Keuzevak::ZetTekst(const QString& tekst) {
+  setEditText(tekst);
+  lineEdit()->setCursorPosition(0);
+}
+
+void Keuzevak::wheelEvent(QWheelEvent* event) {
+  event->ignore();
+}
+
+void Keuzevak::focusOutEvent(QFocusEvent* event) {
+  QComboBox::focusOutEvent(event);
+  if (!BlijftInVeld(event->reason())) emit Verlaten();
+}
+
+}  // namespace murvane

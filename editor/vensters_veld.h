@@ -1,0 +1,114 @@
+#pragma once
+// The controls of the project window: an input field with its rule, a row of seven band fields, a list and a
+// combo box. They tell what the user does; what it means is decided elsewhere.
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <array>
+#include <cstdint>
+
+#include "editor/invoer.h"
+
+class QHBoxLayout;
+
+namespace murvane {
+
+/// The object name of a field: an element of an array adds its index.
+[[nodiscard]] QString ObjectNaam(VeldId veld);
+
+/// An input field: it swallows the characters that its rule refuses, and selects its text on entry.
+class InvoerVeld : public QLineEdit {
+  Q_OBJECT
+
+ public:
+  InvoerVeld(VeldId veld, const QString& naam, QWidget* ouder);
+
+  [[nodiscard]] VeldId Veld() const { return veld_; }
+  void ZetKleur(std::uint32_t bgr);
+
+ signals:
+  void Gekregen();
+  /// The focus went to another control; not to a menu, a pop-up or another window.
+  void Verlaten();
+  void Enter();
+  void Escape();
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+
+ private:
+  VeldId veld_;
+  const VeldRegel& regel_;
+  std::uint32_t kleur_ = VeldKleur;
+  bool kiesAlles_ = false;
+};
+
+/// Seven fields of an array, band 63 first; with the bands' captions over them where asked.
+class BandRij : public QWidget {
+  Q_OBJECT
+
+ public:
+  BandRij(std::string_view naam, int eerste, const QString& omschrijving, bool metKop, QWidget* ouder);
+
+  [[nodiscard]] const std::array<InvoerVeld*, Banden>& Vakken() const { return vakken_; }
+
+ private:
+  std::array<InvoerVeld*, Banden> vakken_{};
+};
+
+/// The bands' captions, to stand over rows without their own.
+class BandKop : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit BandKop(QWidget* ouder);
+};
+
+/// A list whose rows are clicked: by the mouse, also the row that is selected already, or by the arrow keys.
+class Lijstvak : public QListWidget {
+  Q_OBJECT
+
+ public:
+  Lijstvak(const QString& objectNaam, const QString& naam, QWidget* ouder);
+
+  /// Shows other rows, or selects one, without a click.
+  void ZetRijen(const QStringList& rijen);
+  void ZetRij(int rij);
+
+ signals:
+  void Geklikt(int rij);
+  void Toets(int qtToets);  ///< Enter, Insert or Delete; Enter is always Qt::Key_Return
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+
+ private:
+  bool stil_ = false;
+};
+
+/// A combo box with a text of its own that the wheel does not change.
+class Keuzevak : public QComboBox {
+  Q_OBJECT
+
+ public:
+  Keuzevak(const QString& objectNaam, const QString& naam, QWidget* ouder);
+
+  void ZetRijen(const QStringList& rijen);
+  /// Shows a text, from its beginning.
+  void ZetTekst(const QString& tekst);
+
+ signals:
+  void Verlaten();
+
+ protected:
+  void wheelEvent(QWheelEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+};
+
+}  // namespace murvane
