@@ -13,7 +13,7 @@ namespace murvane {
 /// What the start finds outside the program.
 struct StartGegevens {
   std::filesystem::path HuidigeMap;  ///< becomes DataDir
-  Datum Vandaag;
+  DatumVeld Vandaag;
   std::string_view Opdrachtregel;  ///< the whole argument text (UTF-8): one project path, in quotes or not
   char Decimaal = ',';
 };

@@ -14,9 +14,9 @@ std::string MetNullen(unsigned getal, std::size_t breedte) {
 
 }  // namespace
 
-Datum DatumTekst(std::chrono::year_month_day datum) {
+DatumVeld DatumTekst(std::chrono::year_month_day datum) {
   const auto jaar = static_cast<unsigned>(static_cast<int>(datum.year()));
-  return Datum(MetNullen(static_cast<unsigned>(datum.day()), 2) + "-" +
+  return DatumVeld(MetNullen(static_cast<unsigned>(datum.day()), 2) + "-" +
                MetNullen(static_cast<unsigned>(datum.month()), 2) + "-" + MetNullen(jaar, 4));
 }
 

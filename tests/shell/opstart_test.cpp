@@ -59,7 +59,7 @@ class Opstart : public testing::Test {
   }
   Vervolg Start(std::string_view opdrachtregel = {}) {
     const Vervolg vervolg =
-        MDIForm_Load(programma_, script_, {Map("hier"), Datum("20-11-2026"), opdrachtregel, '.'});
+        MDIForm_Load(programma_, script_, {Map("hier"), DatumVeld("20-11-2026"), opdrachtregel, '.'});
     script_.IsKlaar();
     return vervolg;
   }
