@@ -648,6 +648,7 @@ TEST_F(ProjectVenster, StaysReadableInADarkTheme) {
   donker.setColor(QPalette::Base, QColor(30, 30, 30));
   donker.setColor(QPalette::Highlight, QColor(70, 130, 200));
   QApplication::setPalette(donker);
+  QCoreApplication::processEvents();
   OpenVoorbeeld("kantoor.mrv");
   EXPECT_EQ(Veld("txtProNum")->palette().color(QPalette::Base), KleurVan(VeldKleur));
   EXPECT_EQ(Veld("txtProNum")->palette().color(QPalette::Text), QColor(Qt::black));
