@@ -188,7 +188,7 @@ Keuzevak::Keuzevak(const QString& objectNaam, const QString& naam, QWidget* oude
   setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   setMinimumContentsLength(30);
   setMaxVisibleItems(20);
-  ZetAchtergrond(*lineEdit(), VeldKleur);
+  ZetAchtergrond(*this, VeldKleur);  // its box follows, also when the theme changes
   lineEdit()->setAccessibleName(naam);
 }
 
