@@ -185,7 +185,6 @@ void frmMurvane::ToonRuimte(const RuimteZicht& zicht) {
   ZetZichtbaar({"txtRAantal"}, zicht.txtRAantal);
   ZetZichtbaar({"txtRkanaal", 0}, zicht.cmbRkanaal);
   ZetZichtbaar({"txtRplafond", 0}, zicht.cmbRplafond);
-  bandKop_->setVisible(zicht.Bandkop());
   VrijVeld->setVisible(zicht.VrijVeld);
 }
 
@@ -338,7 +337,7 @@ void frmMurvane::VoerUit(const LijstUitkomst& uitkomst) {
   if (uitkomst.Accepteer > 0) (void)Accepteer(uitkomst.Accepteer);
   if (uitkomst.Melding) dialogen_.Toon(*uitkomst.Melding);
   if (uitkomst.lstProject == Vulling::RijErbij)
-    lstProject->addItem(VanCp(TrimRechts(RijProject(project_, project_.ElementCount))));
+    lstProject->VoegRij(VanCp(TrimRechts(RijProject(project_, project_.ElementCount))));
   if (uitkomst.lstProject == Vulling::Opnieuw) lstProject->ZetRijen(Rijen(RijenProject(project_)));
   ToonLijsten();
   if (uitkomst.Open > 0) Open(uitkomst.Open);

@@ -98,8 +98,9 @@ class frmMurvane : public QWidget {
   QWidget* BouwDatum();
   InvoerVeld* VoegVeld(QGridLayout* indeling, int rij, VeldId veld, const QString& tekst,
                        const QString& eenheid, const char* labels, int kolom = 0);
-  BandRij* VoegBanden(std::string_view naam, int eerste, const QString& tekst, bool metKop);
+  BandRij* VoegBanden(std::string_view naam, int eerste, const QString& tekst);
   QLabel* MaakLabel(const QString& tekst, const char* reeks, QWidget* buddy);
+  QLabel* BandLabel(const QString& tekst, const char* reeks, const BandRij* rij);
   void MeldAan(InvoerVeld* veld);
   void VerbindKeuzes();
   void ZetIconen();
@@ -173,8 +174,7 @@ class frmMurvane : public QWidget {
 
   std::map<Sleutel, InvoerVeld*> velden_;
   std::map<Sleutel, std::vector<QWidget*>> mee_;  ///< what shows with a field or with an array's first
-  std::map<Sleutel, BandRij*> rijen_;
-  std::map<QString, int> labels_;  ///< how many labels of a series there are
+  std::map<QString, int> labels_;                 ///< how many labels of a series there are
 
   QTabWidget* SSTab1 = nullptr;
   QStackedWidget* SSTab2 = nullptr;
@@ -189,7 +189,6 @@ class frmMurvane : public QWidget {
   QRadioButton *optAxiaal = nullptr, *optCentriVoor = nullptr, *optCentriAchter = nullptr;
   QPushButton *cmdFanOK = nullptr, *cmdFanCancel = nullptr;
   Keuzevak *cmbKanaal = nullptr, *cmbRkanaal = nullptr, *cmbRplafond = nullptr;
-  QWidget* bandKop_ = nullptr;
   QCheckBox* VrijVeld = nullptr;
   QToolButton* Image1 = nullptr;
   QCalendarWidget* MonthView = nullptr;

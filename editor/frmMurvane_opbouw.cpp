@@ -83,6 +83,13 @@ QLabel* frmMurvane::MaakLabel(const QString& tekst, const char* reeks, QWidget* 
   return label;
 }
 
+/// The label to the left of a row of bands, level with its boxes.
+QLabel* frmMurvane::BandLabel(const QString& tekst, const char* reeks, const BandRij* rij) {
+  QLabel* const label = MaakLabel(tekst, reeks, rij->Vakken()[0]);
+  label->setMinimumHeight(rij->Vakken()[0]->sizeHint().height());
+  return label;
+}
+
 void frmMurvane::MeldAan(InvoerVeld* veld) {
   velden_[{veld->Veld().Naam, veld->Veld().Index}] = veld;
   connect(veld, &QLineEdit::textChanged, this, [this, veld] { Gewijzigd(*veld); });
@@ -111,11 +118,10 @@ InvoerVeld* frmMurvane::VoegVeld(QGridLayout* indeling, int rij, VeldId veld, co
   return vak;
 }
 
-BandRij* frmMurvane::VoegBanden(std::string_view naam, int eerste, const QString& tekst, bool metKop) {
-  auto* const rij = new BandRij(naam, eerste, tekst, metKop, this);
+BandRij* frmMurvane::VoegBanden(std::string_view naam, int eerste, const QString& tekst) {
+  auto* const rij = new BandRij(naam, eerste, tekst, this);
   for (InvoerVeld* const vak : rij->Vakken()) MeldAan(vak);
   mee_[{naam, eerste}].push_back(rij);
-  rijen_[{naam, eerste}] = rij;
   return rij;
 }
 
@@ -157,10 +163,8 @@ QWidget* frmMurvane::BouwVentilator() {
   indeling->addWidget(BouwFanPrognose());
   auto* const rooster = Rooster(nullptr);
   VoegVeld(rooster, 0, {"txtSpectrum"}, "Ventilator", "", "lblspectrum");
-  BandRij* const rij = VoegBanden("txtLw", 0, "Geluidsvermogen Lw in dB", true);
-  QLabel* const lw = MaakLabel("Lw in dB", "lblspectrum", rij->Vakken()[0]);
-  lw->setMinimumHeight(rij->Vakken()[0]->sizeHint().height());
-  rooster->addWidget(lw, 1, 0, Qt::AlignBottom);
+  BandRij* const rij = VoegBanden("txtLw", 0, "Geluidsvermogen Lw in dB");
+  rooster->addWidget(BandLabel("Lw in dB", "lblspectrum", rij), 1, 0, Qt::AlignBottom);
   rooster->addWidget(rij, 1, 1);
   lblLwA = new QLabel(blad);
   lblLwA->setObjectName("lblLwA");
@@ -282,7 +286,7 @@ QWidget* frmMurvane::BouwKanaalPagina() {
   VoegVeld(maten, 3, {"txtDebiet"}, "Luchtdebiet", "m³/s", "lblPlan");
   maten->setColumnStretch(3, 1);
   indeling->addLayout(maten);
-  BandRij* const rij = VoegBanden("txtdemp", 0, "Geluidsniveau buiten het kanaal in dB(A)", true);
+  BandRij* const rij = VoegBanden("txtdemp", 0, "Geluidsniveau buiten het kanaal in dB(A)");
   QLabel* const titel = MaakLabel("Geluidsniveau buiten het kanaal in dB(A)", "lblPlan", rij->Vakken()[0]);
   mee_[{"txtdemp", 0}].push_back(titel);
   indeling->addWidget(titel);
@@ -344,10 +348,10 @@ QWidget* frmMurvane::BouwWeerstandPagina() {
 QWidget* frmMurvane::BouwSpectrumPagina() {
   auto* const pagina = new QWidget(this);
   auto* const indeling = Kolom(pagina, 0);
-  BandRij* const demping = VoegBanden("txtdemp", 7, "Invoegdemping in dB", true);
+  BandRij* const demping = VoegBanden("txtdemp", 7, "Invoegdemping in dB");
   indeling->addWidget(MaakLabel("Invoegdemping in dB", "lblPlan", demping->Vakken()[0]));
   indeling->addWidget(demping);
-  BandRij* const ruis = VoegBanden("txtruis", 0, "Eigenruis in dB", true);
+  BandRij* const ruis = VoegBanden("txtruis", 0, "Eigenruis in dB");
   indeling->addWidget(MaakLabel("Eigenruis in dB", "lblPlan", ruis->Vakken()[0]));
   indeling->addWidget(ruis);
   indeling->addStretch();
@@ -367,28 +371,22 @@ QWidget* frmMurvane::BouwRuimte() {
   VoegVeld(maten, 4, {"txtRNR"}, "Toelaatbaar geluidsniveau", "dB(A)", "lblruimte");
   VoegVeld(maten, 5, {"txtRDI"}, "Richtingsfactor", "1, 2, 4 of 8", "lblruimte");
   VoegVeld(maten, 6, {"txtRAantal"}, "Aantal roosters", "stuks", "lblruimte");
-  maten->setColumnStretch(3, 1);
-  indeling->addLayout(maten);
-  auto* const isolatie = Rooster(nullptr);
-  bandKop_ = new BandKop(blad);
-  isolatie->addWidget(bandKop_, 0, 1);
   const auto voeg = [&](int rij, Keuzevak* vak, const char* naam, const char* tekst) {
-    BandRij* const banden = VoegBanden(naam, 0, QString(tekst) + ", isolatie in dB", false);
+    BandRij* const banden = VoegBanden(naam, 0, QString(tekst) + ", isolatie in dB");
     QLabel* const keuze = MaakLabel(tekst, "lblruimte", vak);
-    QLabel* const isolatieLabel = MaakLabel("Isolatie in dB", "lblruimte", banden->Vakken()[0]);
-    isolatie->addWidget(keuze, rij, 0);
-    isolatie->addWidget(vak, rij, 1);
-    isolatie->addWidget(isolatieLabel, rij + 1, 0);
-    isolatie->addWidget(banden, rij + 1, 1);
-    mee_[{naam, 0}].insert(mee_[{naam, 0}].end(), {keuze, vak, isolatieLabel});
+    QLabel* const isolatie = BandLabel("Isolatie in dB", "lblruimte", banden);
+    maten->addWidget(keuze, rij, 0);
+    maten->addWidget(vak, rij, 1, 1, 3);
+    maten->addWidget(isolatie, rij + 1, 0, Qt::AlignBottom);
+    maten->addWidget(banden, rij + 1, 1, 1, 3);
+    mee_[{naam, 0}].insert(mee_[{naam, 0}].end(), {keuze, vak, isolatie});
   };
   cmbRkanaal = new Keuzevak("cmbRkanaal", "Kanaalwand", blad);
-  voeg(1, cmbRkanaal, "txtRkanaal", "Kanaalwand");
+  voeg(7, cmbRkanaal, "txtRkanaal", "Kanaalwand");
   cmbRplafond = new Keuzevak("cmbRplafond", "Plafond", blad);
-  voeg(3, cmbRplafond, "txtRplafond", "Plafond");
-  isolatie->setColumnMinimumWidth(0, maten->sizeHint().width() / 2);
-  isolatie->setColumnStretch(1, 1);
-  indeling->addLayout(isolatie);
+  voeg(9, cmbRplafond, "txtRplafond", "Plafond");
+  maten->setColumnStretch(3, 1);
+  indeling->addLayout(maten);
   indeling->addStretch();
   return blad;
 }

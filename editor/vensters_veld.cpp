@@ -107,7 +107,7 @@ void InvoerVeld::mouseReleaseEvent(QMouseEvent* event) {
   kiesAlles_ = false;
 }
 
-BandRij::BandRij(std::string_view naam, int eerste, const QString& omschrijving, bool metKop, QWidget* ouder)
+BandRij::BandRij(std::string_view naam, int eerste, const QString& omschrijving, QWidget* ouder)
     : QWidget(ouder) {
   auto* const indeling = Regelindeling(this);
   for (int band = 0; band < Banden; ++band) {
@@ -117,20 +117,12 @@ BandRij::BandRij(std::string_view naam, int eerste, const QString& omschrijving,
     vakken_[static_cast<std::size_t>(band)] = vak;
     auto* const kolom = new QVBoxLayout;
     kolom->setSpacing(2);
-    if (metKop) {
-      QLabel* const kop = Bandnaam(band, this);
-      kop->setBuddy(vak);
-      kolom->addWidget(kop);
-    }
+    QLabel* const kop = Bandnaam(band, this);
+    kop->setBuddy(vak);
+    kolom->addWidget(kop);
     kolom->addWidget(vak);
     indeling->addLayout(kolom);
   }
-  indeling->addStretch();
-}
-
-BandKop::BandKop(QWidget* ouder) : QWidget(ouder) {
-  auto* const indeling = Regelindeling(this);
-  for (int band = 0; band < Banden; ++band) indeling->addWidget(Bandnaam(band, this));
   indeling->addStretch();
 }
 
@@ -147,7 +139,12 @@ Lijstvak::Lijstvak(const QString& objectNaam, const QString& naam, QWidget* oude
 void Lijstvak::ZetRijen(const QStringList& rijen) {
   const QScopedValueRollback<bool> stil(stil_, true);
   clear();
-  addItems(rijen);
+  for (const QString& rij : rijen) VoegRij(rij);
+}
+
+void Lijstvak::VoegRij(const QString& tekst) {
+  auto* const rij = new QListWidgetItem(tekst, this);
+  rij->setToolTip(tekst);  // whole, where the list is too narrow for it
 }
 
 void Lijstvak::ZetRij(int rij) {
@@ -191,7 +188,7 @@ Keuzevak::Keuzevak(const QString& objectNaam, const QString& naam, QWidget* oude
   setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   setMinimumContentsLength(30);
   setMaxVisibleItems(20);
-  ZetAchtergrond(*lineEdit(), VeldKleur);
+  ZetAchtergrond(*this, VeldKleur);  // its box follows, also when the theme changes
   lineEdit()->setAccessibleName(naam);
 }
 

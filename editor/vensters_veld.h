@@ -47,25 +47,17 @@ class InvoerVeld : public QLineEdit {
   bool kiesAlles_ = false;
 };
 
-/// Seven fields of an array, band 63 first; with the bands' captions over them where asked.
+/// Seven fields of an array, band 63 first, under the bands' captions.
 class BandRij : public QWidget {
   Q_OBJECT
 
  public:
-  BandRij(std::string_view naam, int eerste, const QString& omschrijving, bool metKop, QWidget* ouder);
+  BandRij(std::string_view naam, int eerste, const QString& omschrijving, QWidget* ouder);
 
   [[nodiscard]] const std::array<InvoerVeld*, Banden>& Vakken() const { return vakken_; }
 
  private:
   std::array<InvoerVeld*, Banden> vakken_{};
-};
-
-/// The bands' captions, to stand over rows without their own.
-class BandKop : public QWidget {
-  Q_OBJECT
-
- public:
-  explicit BandKop(QWidget* ouder);
 };
 
 /// A list whose rows are clicked: by the mouse, also the row that is selected already, or by the arrow keys.
@@ -77,6 +69,7 @@ class Lijstvak : public QListWidget {
 
   /// Shows other rows, or selects one, without a click.
   void ZetRijen(const QStringList& rijen);
+  void VoegRij(const QString& tekst);
   void ZetRij(int rij);
 
  signals:

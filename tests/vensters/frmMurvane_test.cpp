@@ -87,6 +87,13 @@ class ProjectVenster : public testing::Test {
     const QString map = qEnvironmentVariable("MURVANE_BEELDEN");
     const QPixmap beeld = venster->grab();
     EXPECT_FALSE(beeld.isNull());
+    for (const QWidget* const vak : venster->findChildren<QWidget*>()) {
+      const bool tekst =
+          qobject_cast<const QLabel*>(vak) != nullptr || qobject_cast<const QAbstractButton*>(vak) != nullptr;
+      if (!tekst || !vak->isVisible()) continue;
+      EXPECT_GE(vak->width(), vak->sizeHint().width()) << vak->objectName().toStdString();
+      EXPECT_GE(vak->height(), vak->sizeHint().height()) << vak->objectName().toStdString();
+    }
     if (!map.isEmpty()) {
       EXPECT_TRUE(beeld.save(map + "/" + naam + ".png"));
     }
@@ -630,6 +637,73 @@ TEST_F(ProjectVenster, AChoiceOfWallShowsItsBands) {
   EXPECT_EQ(Veld("txtRkanaal_3")->text(), "0,0");
 }
 
+TEST_F(ProjectVenster, EveryFieldTellsItsNumber) {
+  OpenVoorbeeld("kantoor.mrv");
+  int aantal = 0;
+  for (InvoerVeld* const veld : venster->findChildren<InvoerVeld*>()) {
+    if (veld->isReadOnly()) continue;
+    ++aantal;
+    veld->selectAll();
+    MaakBerekend();
+    QTest::keyClick(veld, Qt::Key_7);
+    EXPECT_EQ(veld->text(), "7") << veld->objectName().toStdString();
+    const int nummer = Regel(veld->Veld()).Berekend;
+    EXPECT_EQ(venster->DeSessie().Aanroep, nummer == 0 ? "" : std::to_string(nummer));
+    EXPECT_EQ(venster->DeSessie().Toestand, Toestand::Open);
+    QTest::keyClick(veld, Qt::Key_Escape);
+    EXPECT_EQ(veld->text(), VanCp(HerstelTekst(project, 0, veld->Veld(), ',')));
+  }
+  // 8 of the fan with 5 of its data, 4 + 7 of ducts, 8, 5 and 2 of the other pages, 7 + 14 of the room, 7
+  EXPECT_EQ(aantal, 8 + 5 + 11 + 15 + 21 + 7);
+}
+
+TEST_F(ProjectVenster, EveryLabelBelongsToAControl) {
+  for (const QLabel* const label : venster->findChildren<QLabel*>()) {
+    if (label->objectName() == "lblLwA" || label->objectName().startsWith("qt_")) continue;
+    EXPECT_NE(label->buddy(), nullptr) << label->text().toStdString();
+    EXPECT_FALSE(label->text().contains('&'));
+  }
+}
+
+TEST_F(ProjectVenster, AMouseClickOnTheOpenElementOpensItAgain) {
+  OpenVoorbeeld("kantoor.mrv");
+  KiesElement(1);
+  KiesRecord(3);
+  EXPECT_FALSE(Zoek<QWidget>("SSTab2")->isVisible());
+  KiesElement(1);
+  EXPECT_TRUE(Zoek<QWidget>("SSTab2")->isVisible());
+  EXPECT_EQ(Focus(), "txtHoogte");
+}
+
+TEST_F(ProjectVenster, ADoubleClickAddsAndDeletes) {
+  Nieuw();
+  KiesTab(Tab::Kanaalelementen);
+  auto* const totaal = Zoek<QListWidget>("lstTotaal");
+  const QPoint rij8 = totaal->visualItemRect(totaal->item(7)).center();
+  QTest::mouseClick(totaal->viewport(), Qt::LeftButton, {}, rij8);
+  QTest::mouseDClick(totaal->viewport(), Qt::LeftButton, {}, rij8);
+  EXPECT_EQ(project.ElementCount, 1);
+  auto* const keten = Zoek<QListWidget>("lstProject");
+  script.Box({MeldingSoort::Vraag, "Kanaalelementen wissen", "Kanaalelement 1 wissen?", Knoppen::OkCancel},
+             Antwoord::OK);
+  const QPoint rij1 = keten->visualItemRect(keten->item(0)).center();
+  QTest::mouseClick(keten->viewport(), Qt::LeftButton, {}, rij1);
+  QTest::mouseDClick(keten->viewport(), Qt::LeftButton, {}, rij1);
+  EXPECT_EQ(project.ElementCount, 0);
+  EXPECT_EQ(keten->count(), 0);
+  EXPECT_FALSE(Zoek<QWidget>("SSTab2")->isVisible());
+}
+
+TEST_F(ProjectVenster, OpeningAnElementKeepsWhatItsFieldsRound) {
+  OpenVoorbeeld("kantoor.mrv");
+  project.Elementen[3].Breedte = 312.4;
+  KiesElement(1);
+  NaarVeld("txtBreedte");
+  Zoek<QListWidget>("lstProject")->setCurrentRow(2);
+  EXPECT_EQ(Veld("txtBreedte")->text(), "312");
+  EXPECT_EQ(project.Elementen[3].Breedte, 312.4);
+}
+
 TEST_F(ProjectVenster, RefilledCataloguesKeepTheProject) {
   OpenVoorbeeld("plafond.mrv");
   KiesRecord(5);
@@ -648,9 +722,11 @@ TEST_F(ProjectVenster, StaysReadableInADarkTheme) {
   donker.setColor(QPalette::Base, QColor(30, 30, 30));
   donker.setColor(QPalette::Highlight, QColor(70, 130, 200));
   QApplication::setPalette(donker);
+  QCoreApplication::processEvents();
   OpenVoorbeeld("kantoor.mrv");
   EXPECT_EQ(Veld("txtProNum")->palette().color(QPalette::Base), KleurVan(VeldKleur));
   EXPECT_EQ(Veld("txtProNum")->palette().color(QPalette::Text), QColor(Qt::black));
+  EXPECT_EQ(Zoek<QComboBox>("cmbKanaal")->lineEdit()->palette().color(QPalette::Base), KleurVan(VeldKleur));
   KiesElement(1);
   Bewaar("donker-element");
   KiesTab(Tab::Ventilator);
