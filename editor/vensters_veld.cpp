@@ -197,11 +197,15 @@ void Keuzevak::ZetRijen(const QStringList& rijen) {
   const QString tekst = currentText();
   clear();
   addItems(rijen);
-  setCurrentIndex(-1);
-  setEditText(tekst);
+  ZetTekst(tekst);
 }
 
+/// The arrow keys walk on from the row that the text names, not from the one chosen before.
 void Keuzevak::ZetTekst(const QString& tekst) {
+  {
+    const QSignalBlocker stil(this);
+    setCurrentIndex(findText(tekst.trimmed(), Qt::MatchExactly | Qt::MatchCaseSensitive));
+  }
   setEditText(tekst);
   lineEdit()->setCursorPosition(0);
 }
