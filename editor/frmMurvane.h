@@ -102,6 +102,8 @@ class frmMurvane : public QWidget {
   QLabel* MaakLabel(const QString& tekst, const char* reeks, QWidget* buddy);
   QLabel* BandLabel(const QString& tekst, const char* reeks, const BandRij* rij);
   void MeldAan(InvoerVeld* veld);
+  void VerbindFan();
+  void VerbindLijsten();
   void VerbindKeuzes();
   void ZetIconen();
 

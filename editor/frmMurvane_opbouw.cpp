@@ -143,6 +143,8 @@ void frmMurvane::BouwOp() {
   ProgressBar1->setObjectName("ProgressBar1");
   ProgressBar1->setAccessibleName("Voortgang van de berekening");
   indeling->addWidget(ProgressBar1);
+  VerbindFan();
+  VerbindLijsten();
   VerbindKeuzes();
   ZetIconen();
 }
@@ -434,7 +436,7 @@ QWidget* frmMurvane::BouwDatum() {
   return vak;
 }
 
-void frmMurvane::VerbindKeuzes() {
+void frmMurvane::VerbindFan() {
   connect(optInvoer, &QRadioButton::clicked, this, [this] {
     Veilig("optInvoer_Click",
            [this] { VoerUit(optInvoer_Click(project_, catalogi_.CatFans, laatsteFan_, decimaal_)); });
@@ -460,6 +462,9 @@ void frmMurvane::VerbindKeuzes() {
     Veilig("lstFan_Click",
            [&] { VoerUit(lstFan_Click(project_, rij, catalogi_.CatFans, laatsteFan_, decimaal_)); });
   });
+}
+
+void frmMurvane::VerbindLijsten() {
   connect(lstTotaal, &Lijstvak::Geklikt, this, [this](int rij) {
     if (Houdt()) return ToonLijsten();
     Veilig("lstTotaal_Click", [&] { VoerUit(lstTotaal_Click(lijst_, rij)); });
@@ -472,6 +477,9 @@ void frmMurvane::VerbindKeuzes() {
   connect(lstProject, &QListWidget::itemDoubleClicked, this, &frmMurvane::Wis);
   connect(lstTotaal, &Lijstvak::Toets, this, &frmMurvane::TotaalToets);
   connect(lstProject, &Lijstvak::Toets, this, &frmMurvane::ProjectToets);
+}
+
+void frmMurvane::VerbindKeuzes() {
   connect(VrijVeld, &QCheckBox::clicked, this,
           [this](bool aan) { Veilig("VrijVeld_Click", [&] { VoerUit(VrijVeld_Click(project_, aan)); }); });
   connect(cmbKanaal, &QComboBox::activated, this, [this](int rij) {
