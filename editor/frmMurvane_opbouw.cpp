@@ -164,7 +164,7 @@ QWidget* frmMurvane::BouwVentilator() {
   indeling->addWidget(vakFan_, 1);
   indeling->addWidget(BouwFanPrognose());
   auto* const rooster = Rooster(nullptr);
-  VoegVeld(rooster, 0, {"txtSpectrum"}, "Ventilator", "", "lblspectrum");
+  VoegVeld(rooster, 0, {"txtSpectrum"}, "Naam ventilator", "", "lblspectrum");
   BandRij* const rij = VoegBanden("txtLw", 0, "Geluidsvermogen Lw in dB");
   rooster->addWidget(BandLabel("Lw in dB", "lblspectrum", rij), 1, 0, Qt::AlignBottom);
   rooster->addWidget(rij, 1, 1);
@@ -190,8 +190,8 @@ QWidget* frmMurvane::BouwFanPrognose() {
   frameFan = new QGroupBox("Ventilatorgegevens", this);
   frameFan->setObjectName("frameFan");
   auto* const indeling = Rooster(frameFan, Marge);
-  VoegVeld(indeling, 0, {"txtfan", 0}, "Luchtdebiet", "m³/s", "lblfan");
-  VoegVeld(indeling, 1, {"txtfan", 1}, "Totale druk", "Pa", "lblfan");
+  VoegVeld(indeling, 0, {"txtfan", 0}, "Totale luchtverplaatsing", "m³/s", "lblfan");
+  VoegVeld(indeling, 1, {"txtfan", 1}, "Totaal drukverlies", "Pa", "lblfan");
   VoegVeld(indeling, 2, {"txtfan", 2}, "Toerental", "omw/min", "lblfan");
   VoegVeld(indeling, 3, {"txtfan", 3}, "Aantal schoepen", "stuks", "lblfan");
   VoegVeld(indeling, 4, {"txtfan", 4}, "Asvermogen", "W", "lblfan");
@@ -288,10 +288,15 @@ QWidget* frmMurvane::BouwKanaalPagina() {
   VoegVeld(maten, 3, {"txtDebiet"}, "Luchtdebiet", "m³/s", "lblPlan");
   maten->setColumnStretch(3, 1);
   indeling->addLayout(maten);
-  BandRij* const rij = VoegBanden("txtdemp", 0, "Geluidsniveau buiten het kanaal in dB(A)");
-  QLabel* const titel = MaakLabel("Geluidsniveau buiten het kanaal in dB(A)", "lblPlan", rij->Vakken()[0]);
-  mee_[{"txtdemp", 0}].push_back(titel);
-  indeling->addWidget(titel);
+  BandRij* const rij = VoegBanden("txtdemp", 0, "Geluidsinstraling, LAeq in dB(A)");
+  auto* const titels = new QHBoxLayout;
+  for (const char* titel : {"Geluidsinstraling", "LAeq in dB(A)"}) {
+    QLabel* const label = MaakLabel(titel, "lblPlan", rij->Vakken()[0]);
+    mee_[{"txtdemp", 0}].push_back(label);
+    titels->addWidget(label);
+  }
+  titels->addStretch();
+  indeling->addLayout(titels);
   indeling->addWidget(rij);
   cmbKanaal = new Keuzevak("cmbKanaal", "Kanaalwand", this);
   QLabel* const wand = MaakLabel("Kanaalwand", "lblPlan", cmbKanaal);
@@ -363,7 +368,7 @@ QWidget* frmMurvane::BouwSpectrumPagina() {
 QWidget* frmMurvane::BouwRuimte() {
   auto* const blad = new QWidget(this);
   auto* const indeling = Kolom(blad);
-  VrijVeld = MaakKnop<QCheckBox>("VrijVeld", "Vrije-veldsituatie", blad);
+  VrijVeld = MaakKnop<QCheckBox>("VrijVeld", "vrij-veldsituatie", blad);
   indeling->addWidget(VrijVeld);
   auto* const maten = Rooster(nullptr);
   VoegVeld(maten, 0, {"txtRLengte"}, "Lengte vertrek", "m", "lblruimte");

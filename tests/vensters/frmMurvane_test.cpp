@@ -889,5 +889,22 @@ TEST_F(ProjectVenster, CanBePictured) {
   }
 }
 
+TEST_F(ProjectVenster, HasTheCaptionsOfItsFields) {
+  QStringList opschriften;
+  for (const auto* label : venster->findChildren<QLabel*>()) opschriften << label->text();
+  for (const char* opschrift :
+       {"Naam ventilator", "Totale luchtverplaatsing", "Totaal drukverlies", "Toerental", "Aantal schoepen",
+        "Asvermogen", "Geluidsinstraling", "LAeq in dB(A)", "Invoegdemping in dB", "Eigenruis in dB",
+        "Lijst kanaalelementen", "Kanaalelementen project", "Nagalmtijd", "Richtingsfactor",
+        "Toelaatbaar geluidsniveau", "Aantal roosters"})
+    EXPECT_TRUE(opschriften.contains(opschrift)) << opschrift;
+  EXPECT_EQ(Zoek<QCheckBox>("VrijVeld")->text(), "vrij-veldsituatie");
+  const auto* tabs = Zoek<QTabWidget>("SSTab1");
+  EXPECT_EQ(tabs->tabText(0), "Ventilator");
+  EXPECT_EQ(tabs->tabText(1), "Kanaalelementen");
+  EXPECT_EQ(tabs->tabText(2), "Ruimtegegevens");
+  EXPECT_EQ(tabs->tabText(3), "Projectgegevens");
+}
+
 }  // namespace
 }  // namespace murvane
