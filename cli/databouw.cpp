@@ -11,8 +11,10 @@
 #include "basis/json.h"
 #include "catalogue/catjson.h"
 #include "cli/uitslag.h"
+#include "editor/elementpagina.h"
 #include "project/projectfile.h"
 #include "project/projectjson.h"
+#include "shell/run.h"
 #include "shell/settings.h"
 
 namespace murvane {
@@ -58,12 +60,26 @@ std::string CatalogusImage(std::string_view json, CatalogusSoort soort) {
   return std::visit([](const auto& catalogus) { return CatalogusBytes(catalogus); }, inhoud.Inhoud);
 }
 
+/// A sample as the program saves it after a run: every element was opened once, and the results stand in it.
+/// A project that cannot be calculated is stored as its source says.
+std::string ProjectImage(std::string_view json) {
+  constexpr char Decimaal = ',';  // of the report, which is not kept
+  Project project = ProjectUitJson(json);
+  Project berekend = project;
+  for (int n = 1; n <= berekend.ElementCount; ++n) (void)ProjectSettings(berekend, n, Decimaal);
+  Resultaten resultaten;
+  Rapport rapport;
+  const ProjectInvoer invoer = InvoerVan(berekend, Decimaal);
+  const bool geweigerd = VoerUit(berekend, invoer, {}, Decimaal, resultaten, rapport).has_value();
+  return ProjectBytes(geweigerd ? project : berekend);
+}
+
 Databestand MaakVanStam(const std::string& stam, std::string_view json) {
   if (stam == "murvane") return {stam + ".set", InstellingenImage(json)};
   for (const CatalogusNaam& catalogus : CatalogusNamen) {
     if (stam == catalogus.stam) return {stam + ".dat", CatalogusImage(json, catalogus.soort)};
   }
-  return {stam + ".mrv", ProjectBytes(ProjectUitJson(json))};
+  return {stam + ".mrv", ProjectImage(json)};
 }
 
 bool HeeftAl(const fs::path& pad, std::string_view bytes) {

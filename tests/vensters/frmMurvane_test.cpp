@@ -802,20 +802,6 @@ class Overtypen : public ProjectVenster {
       }
     }
   }
-  /// What no key reaches and no calculation reads: a bend's wall, which opening it writes as none, the room's
-  /// name, and the blanks behind a name out of a catalogue.
-  static Project MetNamenVan(Project een, const Project& ander) {
-    for (std::size_t n = 1; n < een.Elementen.size(); ++n) {
-      ElementRec& element = een.Elementen[n];
-      const bool kanaal =
-          element.ElementType == elementtype::KanaalRecht || element.ElementType == elementtype::KanaalRond;
-      if (!kanaal) element.Kanaal = ander.Elementen[n].Kanaal;
-    }
-    een.Ruimte.RNaam = ander.Ruimte.RNaam;
-    een.Ruimte.RkanaalNaam = Trim(een.Ruimte.RkanaalNaam);
-    een.Ruimte.RplafondNaam = Trim(een.Ruimte.RplafondNaam);
-    return een;
-  }
   void TypRuimte(const Project& doel) {
     KiesTab(Tab::Ruimtegegevens);
     for (const char* const naam :
@@ -851,14 +837,8 @@ TEST_F(Overtypen, GivesTheSampleItself) {
     Resultaten resultaten;
     Rapport rapport;
     ASSERT_FALSE(VoerUit(project, InvoerVan(project, ','), {}, ',', resultaten, rapport));
-    Project berekend = doel;
-    ASSERT_FALSE(VoerUit(berekend, InvoerVan(berekend, ','), {}, ',', resultaten, rapport));
-    EXPECT_EQ(ProjectNaarJson(MetNamenVan(project, berekend)), ProjectNaarJson(berekend)) << naam;
-    EXPECT_EQ(project.Fan.FanNaam.Getrimd(), doel.Fan.FanNaam.Getrimd());
-    EXPECT_EQ(project.Fan.Lw, doel.Fan.Lw);
-    EXPECT_EQ(project.Ruimte.Rkanaal, doel.Ruimte.Rkanaal);
-    EXPECT_EQ(project.Ruimte.RNagalm, doel.Ruimte.RNagalm);
-    EXPECT_EQ(project.Ruimte.RAantal, doel.Ruimte.RAantal);
+    EXPECT_EQ(ProjectNaarJson(project), ProjectNaarJson(doel)) << naam;
+    EXPECT_EQ(ProjectBytes(project), ProjectBytes(doel)) << naam;
   }
 }
 
