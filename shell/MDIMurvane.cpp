@@ -21,6 +21,8 @@ namespace murvane {
 
 namespace {
 
+constexpr int StatusMarge = 4;
+
 QString Naam(std::string_view tekst) {
   return QString::fromUtf8(tekst.data(), static_cast<qsizetype>(tekst.size()));
 }
@@ -115,6 +117,7 @@ void MDIMurvane::MaakStatusbalk() {
   paneel1_->setObjectName("StatusBar1_1");
   paneel2_->setObjectName("StatusBar1_2");
   paneel3_->setObjectName("StatusBar1_3");
+  for (QLabel* paneel : {paneel1_, paneel2_, paneel3_}) paneel->setMargin(StatusMarge);
   statusBar()->addWidget(beeld_);
   statusBar()->addWidget(paneel1_, 2);
   statusBar()->addWidget(paneel2_, 1);

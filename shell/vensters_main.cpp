@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "basis/vensters_stijl.h"
 #include "editor/vensters_dialogen.h"
 #include "shell/MDIMurvane.h"
 #include "shell/opstart.h"
@@ -41,6 +42,7 @@ int main(int argc, char** argv) {
   const char decimaal = murvane::RegionaalDecimaalteken();
   QApplication toepassing(argc, argv);
   QApplication::setApplicationName("MurVane");
+  murvane::ZetStijl(toepassing);
   QLocale::setDefault(QLocale(QLocale::Dutch, QLocale::Netherlands));
   QTranslator vertaling;
   if (LaadVertaling(vertaling)) QCoreApplication::installTranslator(&vertaling);

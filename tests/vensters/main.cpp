@@ -3,10 +3,12 @@
 #include <QApplication>
 #include <QStyleFactory>
 
+#include "basis/vensters_stijl.h"
+
 int main(int aantal, char** argumenten) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
-  QApplication::setStyle(QStyleFactory::create("Fusion"));
-  const QApplication toepassing(aantal, argumenten);
+  QApplication toepassing(aantal, argumenten);
+  murvane::ZetStijl(toepassing, QStyleFactory::create("Fusion"));
   testing::InitGoogleTest(&aantal, argumenten);
   return RUN_ALL_TESTS();
 }
