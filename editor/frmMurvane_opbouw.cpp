@@ -28,7 +28,6 @@ namespace {
 
 constexpr int Marge = 12;
 constexpr int Ruimte = 8;
-constexpr int GetalBreedte = 90;
 
 struct KnopTekst {
   std::string_view Sleutel;
@@ -49,6 +48,11 @@ const KnopTekst& TekstVanKnop(std::string_view sleutel) {
     if (knop.Sleutel == sleutel) return knop;
   }
   return KnopTeksten.front();
+}
+
+/// Room for the widest number or date that a field takes, in the letters that the user has.
+int GetalBreedte(const QWidget& vak) {
+  return vak.fontMetrics().horizontalAdvance("100000,00") + 30;
 }
 
 QVBoxLayout* Kolom(QWidget* ouder, int marge = Marge) {
@@ -136,7 +140,7 @@ InvoerVeld* frmMurvane::VoegVeld(QGridLayout* indeling, int rij, VeldId veld, co
   std::vector<QWidget*>& mee = mee_[{veld.Naam, veld.Index}];
   mee.push_back(label);
   if (vak->alignment() & Qt::AlignRight) {
-    vak->setFixedWidth(GetalBreedte);
+    vak->setFixedWidth(GetalBreedte(*vak));
     QLabel* const achter = MaakLabel(eenheid, labels, vak);
     indeling->addWidget(achter, rij, kolom + 2);
     mee.push_back(achter);
@@ -458,7 +462,7 @@ QWidget* frmMurvane::BouwProject() {
   auto* const kolom = Blok(blad);
   auto* const indeling = Rooster(nullptr);
   InvoerVeld* const nummer = VoegVeld(indeling, 0, {"txtProNum"}, "Projectnummer", "", "lblproject");
-  nummer->setMaximumWidth(160);
+  nummer->setMaximumWidth(2 * GetalBreedte(*nummer));
   indeling->addWidget(MaakLabel("Datum", "lblproject", nullptr), 1, 0);
   indeling->addWidget(BouwDatum(), 1, 1);
   qobject_cast<QLabel*>(indeling->itemAtPosition(1, 0)->widget())->setBuddy(Vak({"txtMyDate"}));
@@ -481,7 +485,7 @@ QWidget* frmMurvane::BouwDatum() {
   auto* const indeling = new QHBoxLayout(vak);
   indeling->setContentsMargins(0, 0, 0, 0);
   auto* const datum = new InvoerVeld({"txtMyDate"}, "Datum", vak);
-  datum->setMaximumWidth(160);
+  datum->setMaximumWidth(2 * GetalBreedte(*datum));
   MeldAan(datum);
   Image1 = new Balkknop(vak);
   Image1->setObjectName("Image1");

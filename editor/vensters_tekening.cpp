@@ -12,8 +12,8 @@ namespace murvane {
 
 namespace {
 
-/// Twice the size at which the drawings were made.
-constexpr QSize Grootst(960, 600);
+/// Somewhat over the size at which the drawings were made.
+constexpr QSize Grootst(640, 400);
 
 struct Beeld {
   std::int16_t Type;

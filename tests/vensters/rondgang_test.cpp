@@ -47,11 +47,16 @@ namespace {
 
 const std::filesystem::path Data = std::filesystem::path(MURVANE_BRON) / "data";
 
-/// The screen in logical pixels. Letters that are larger than the toolkit's 96 dpi come with a screen to
-/// match, as a display of 200 % has one of 2048x1536.
+/// The size of the letters that the user has, against the system's own.
+double Letters() {
+  static const double gewoon = QApplication::font().pointSizeF();
+  return QApplication::font().pointSizeF() / gewoon;
+}
+
+/// The screen in logical pixels. Large letters come with a screen to match, as a display of 200 % has one of
+/// 2048x1536.
 QSize Scherm() {
-  const double letters = QApplication::primaryScreen()->logicalDotsPerInchY() / 96;
-  return QSize(1024, 768) * std::max(letters, 1.0);
+  return QSize(1024, 768) * Letters();
 }
 
 /// What a window manager keeps of the screen for the title bar and a task bar.
@@ -221,13 +226,17 @@ const std::vector<Stand>& Fotos() {
   return tabel;
 }
 
+/// Those in which one window shows; that of the results covers the project's.
+std::vector<Stand> EnkeleFotos() {
+  std::vector<Stand> fotos = Fotos();
+  std::erase_if(fotos, [](const Stand& foto) { return foto.Naam == "resultaten"; });
+  return fotos;
+}
+
 /// The windows of the program.
 const std::vector<Stand>& Standen() {
   static const std::vector<Stand> tabel = [] {
-    std::vector<Stand> standen;
-    for (const Stand& foto : Fotos()) {
-      if (foto.Naam != "resultaten") standen.push_back(foto);  // below, as a window of its own
-    }
+    std::vector<Stand> standen = EnkeleFotos();
     VoegTabs(standen);
     standen.push_back({"prognose van de ventilator", [](Wereld& w) {
                          w.MaakTab("mnuVent", false, Tab::Ventilator);
@@ -584,35 +593,39 @@ void ControleerTekst(const QWidget& vak) {
   if (const auto* const balk = qobject_cast<const QTabBar*>(&vak)) ControleerTabs(*balk);
 }
 
+void ControleerTeksten(const QWidget& venster) {
+  for (const QWidget* const vak : Zichtbaar(venster)) ControleerTekst(*vak);
+  const auto* const balk = venster.findChild<QMenuBar*>();
+  if (balk == nullptr) return;  // a window of its own
+  for (QAction* const menu : balk->actions()) {
+    const QRect plek = balk->actionGeometry(menu);
+    EXPECT_GE(plek.width(), balk->fontMetrics().horizontalAdvance(menu->text()))
+        << menu->text().toStdString();
+    EXPECT_LE(plek.right(), balk->width()) << menu->text().toStdString();
+  }
+}
+
 TEST(Rondgang, NoTextIsCut) {
-  Bezoek([](Wereld&, QWidget& venster) {
-    for (const QWidget* const vak : Zichtbaar(venster)) ControleerTekst(*vak);
-    const auto* const balk = venster.findChild<QMenuBar*>();
-    if (balk == nullptr) return;  // a window of its own
-    for (QAction* const menu : balk->actions()) {
-      const QRect plek = balk->actionGeometry(menu);
-      EXPECT_GE(plek.width(), balk->fontMetrics().horizontalAdvance(menu->text()))
-          << menu->text().toStdString();
-      EXPECT_LE(plek.right(), balk->width()) << menu->text().toStdString();
-    }
-  });
+  Bezoek([](Wereld&, QWidget& venster) { ControleerTeksten(venster); });
 }
 
 // ---- Places ----
 
+void ControleerMaten(const QWidget& venster) {
+  const QSize ruimte = Scherm() - QSize(0, Randen);
+  EXPECT_LE(venster.width(), ruimte.width());
+  EXPECT_LE(venster.height(), ruimte.height());
+  for (const QWidget* const vak : Zichtbaar(venster)) {
+    const QWidget* const ouder = vak->parentWidget();
+    if (ouder->inherits("QTabBar") || ouder->inherits("QAbstractScrollArea")) continue;
+    const QSize kleinste = vak->minimumSizeHint().expandedTo(vak->minimumSize());
+    EXPECT_GE(vak->width(), kleinste.width()) << Naam(*vak);
+    EXPECT_GE(vak->height(), kleinste.height()) << Naam(*vak);
+  }
+}
+
 TEST(Rondgang, EveryWindowFitsASmallScreen) {
-  Bezoek([](Wereld&, QWidget& venster) {
-    const QSize ruimte = Scherm() - QSize(0, Randen);
-    EXPECT_LE(venster.width(), ruimte.width());
-    EXPECT_LE(venster.height(), ruimte.height());
-    for (const QWidget* const vak : Zichtbaar(venster)) {
-      if (vak->parentWidget()->inherits("QTabBar") || vak->parentWidget()->inherits("QAbstractScrollArea"))
-        continue;
-      const QSize kleinste = vak->minimumSizeHint().expandedTo(vak->minimumSize());
-      EXPECT_GE(vak->width(), kleinste.width()) << Naam(*vak);
-      EXPECT_GE(vak->height(), kleinste.height()) << Naam(*vak);
-    }
-  });
+  Bezoek([](Wereld&, QWidget& venster) { ControleerMaten(venster); });
 }
 
 TEST(Rondgang, ALongFileNameWidensNothing) {
@@ -645,6 +658,36 @@ TEST(Rondgang, NothingLiesOverAnother) {
       }
     }
   });
+}
+
+/// Letters of another size, which the user has chosen for the whole system.
+class AndereLetters {
+ public:
+  explicit AndereLetters(double maal) : was_(QApplication::font()) {
+    (void)Letters();  // those of the system, before they change
+    QFont groot = was_;
+    groot.setPointSizeF(maal * was_.pointSizeF());
+    QApplication::setFont(groot);
+  }
+  AndereLetters(const AndereLetters&) = delete;
+  AndereLetters& operator=(const AndereLetters&) = delete;
+  ~AndereLetters() { QApplication::setFont(was_); }
+
+ private:
+  QFont was_;
+};
+
+TEST(Rondgang, LargeLettersAreNotCutEither) {
+  for (const double maal : {1.25, 1.5, 2.0}) {
+    SCOPED_TRACE(maal);
+    const AndereLetters letters(maal);
+    Bezoek(
+        [](Wereld&, QWidget& venster) {
+          ControleerTeksten(venster);
+          ControleerMaten(venster);
+        },
+        EnkeleFotos());
+  }
 }
 
 // ---- The focus shows ----
@@ -702,7 +745,7 @@ void ControleerFocus(QWidget& venster) {
 
 // What has no picture of its own has the same controls with other texts.
 TEST(Rondgang, TheFocusShows) {
-  Bezoek([](Wereld&, QWidget& venster) { ControleerFocus(venster); }, Fotos());
+  Bezoek([](Wereld&, QWidget& venster) { ControleerFocus(venster); }, EnkeleFotos());
 }
 
 /// A theme of light letters on a dark ground.
@@ -725,7 +768,7 @@ class Donker {
 
 TEST(Rondgang, TheFocusShowsInADarkTheme) {
   const Donker donker;
-  Bezoek([](Wereld&, QWidget& venster) { ControleerFocus(venster); }, Fotos());
+  Bezoek([](Wereld&, QWidget& venster) { ControleerFocus(venster); }, EnkeleFotos());
 }
 
 // ---- The wheel ----
