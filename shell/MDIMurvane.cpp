@@ -13,6 +13,7 @@
 #include "basis/vensters_hulp.h"
 #include "calc/reken.h"
 #include "editor/frmMurvane.h"
+#include "editor/vensters_tekening.h"
 #include "reports/frmResultaat.h"
 #include "shell/bestandopdrachten.h"
 #include "shell/hoofdvenster.h"
@@ -113,7 +114,6 @@ void MDIMurvane::MaakStatusbalk() {
   paneel3_ = new QLabel(this);
   beeld_->setObjectName("StatusBar1_1_beeld");
   beeld_->setAccessibleName("Berekend");
-  beeld_->setPixmap(QIcon(":/shell/beelden/berekend.svg").pixmap(16, 16));
   paneel1_->setObjectName("StatusBar1_1");
   paneel2_->setObjectName("StatusBar1_2");
   paneel3_->setObjectName("StatusBar1_3");
@@ -135,6 +135,7 @@ void MDIMurvane::ToonToestand() {
   for (const TypeRegel& regel : TypeRegels)
     findChild<QAction*>(Naam(regel.Menu))->setChecked(regel.RekenType == programma_.Project.Kop.RekenType);
   const StatusBalk balk = StatusVan(sessie, programma_.Project);
+  beeld_->setPixmap(Icoon("berekend", palette()).pixmap(16, 16));
   beeld_->setVisible(balk.Paneel1Beeld != 0);
   paneel1_->setText(VanCp(balk.Paneel1));
   paneel2_->setText(VanCp(balk.Paneel2));
