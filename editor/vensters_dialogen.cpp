@@ -5,6 +5,7 @@
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 
@@ -98,29 +99,36 @@ std::filesystem::path Vraag(QWidget* ouder, const BestandVraag& vraag, QFileDial
   return VanQt(dialoog.selectedFiles().constFirst());
 }
 
+/// The window that a dialog stands before: the one in hand. There is none while the program starts.
+QWidget* Ouder() {
+  return QApplication::activeWindow();
+}
+
 }  // namespace
 
 Antwoord SchermDialogen::Toon(const Melding& melding) {
   MeldingVenster box(Icoon(melding.Soort), VanCp(melding.Titel), VanCp(melding.Tekst),
-                     KnoppenVan(melding.Knoppen), ouder_);
+                     KnoppenVan(melding.Knoppen), Ouder());
   box.setTextFormat(Qt::PlainText);
   const int knop = box.exec();
   return AntwoordVan(knop, melding.Knoppen, box.Weggeklikt());
 }
 
 std::string SchermDialogen::Invoer(const InvoerVraag& vraag) {
-  bool gelukt = false;
-  const QString antwoord = QInputDialog::getText(ouder_, VanCp(vraag.Titel), VanCp(vraag.Tekst), QLineEdit::Normal,
-                                                 VanCp(vraag.Standaard), &gelukt);
-  return gelukt ? NaarCp(antwoord) : std::string();
+  QInputDialog dialoog(Ouder());
+  dialoog.setWindowTitle(VanCp(vraag.Titel));
+  dialoog.setLabelText(VanCp(vraag.Tekst).replace('&', "&&"));  // the label takes one for a mnemonic
+  if (auto* const label = dialoog.findChild<QLabel*>()) label->setTextFormat(Qt::PlainText);
+  dialoog.setTextValue(VanCp(vraag.Standaard));
+  return dialoog.exec() == QDialog::Accepted ? NaarCp(dialoog.textValue()) : std::string();
 }
 
 std::filesystem::path SchermDialogen::OpenDialoog(const BestandVraag& vraag) {
-  return Vraag(ouder_, vraag, QFileDialog::AcceptOpen);
+  return Vraag(Ouder(), vraag, QFileDialog::AcceptOpen);
 }
 
 std::filesystem::path SchermDialogen::OpslaanDialoog(const BestandVraag& vraag) {
-  return Vraag(ouder_, vraag, QFileDialog::AcceptSave);
+  return Vraag(Ouder(), vraag, QFileDialog::AcceptSave);
 }
 
 void SchermDialogen::Wachten(bool aan) {

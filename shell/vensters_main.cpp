@@ -46,7 +46,7 @@ int main(int argc, char** argv) {
   if (LaadVertaling(vertaling)) QCoreApplication::installTranslator(&vertaling);
 
   murvane::Programma programma;
-  murvane::SchermDialogen dialogen(nullptr);
+  murvane::SchermDialogen dialogen;
   toepassing.ZetDialogen(&dialogen);
   const std::string opdrachtregel = QApplication::arguments().mid(1).join(' ').toStdString();
   std::error_code geen;

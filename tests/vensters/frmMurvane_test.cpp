@@ -586,6 +586,12 @@ TEST_F(ProjectVenster, ShowsTheProgress) {
   EXPECT_FALSE(Zoek<QProgressBar>("ProgressBar1")->isVisible());
 }
 
+TEST_F(ProjectVenster, TheProgressBarIsGrey) {
+  const QPalette palet = Zoek<QProgressBar>("ProgressBar1")->palette();
+  EXPECT_EQ(palet.color(QPalette::Highlight), QColor(0x80, 0x80, 0x80));
+  EXPECT_EQ(palet.color(QPalette::Base), QColor(0xE0, 0xE0, 0xE0));
+}
+
 TEST_F(ProjectVenster, EnteringAListClicksNoRow) {
   OpenVoorbeeld("kantoor.mrv");
   KiesTab(Tab::Kanaalelementen);
@@ -594,6 +600,58 @@ TEST_F(ProjectVenster, EnteringAListClicksNoRow) {
   EXPECT_EQ(venster->DeLijst(), Elementlijst{});
   Druk(Qt::Key_Down);
   EXPECT_EQ(venster->DeLijst().HuidigElement, 1);
+}
+
+TEST_F(ProjectVenster, OnlyTheLeftButtonSelectsARow) {
+  OpenVoorbeeld("kantoor.mrv");
+  KiesElement(1);
+  auto* lijst = Zoek<QListWidget>("lstProject");
+  const QPoint derde = lijst->visualItemRect(lijst->item(2)).center();
+  QTest::mouseClick(lijst->viewport(), Qt::RightButton, {}, derde);
+  EXPECT_EQ(lijst->currentRow(), 0);
+  EXPECT_EQ(venster->DeLijst().HuidigElement, 1);
+  QTest::mouseClick(lijst->viewport(), Qt::LeftButton, {}, derde);
+  EXPECT_EQ(lijst->currentRow(), 2);
+  EXPECT_EQ(venster->DeLijst().HuidigElement, 3);
+}
+
+TEST_F(ProjectVenster, TheSelectedRowCanBeClickedByKeyboard) {
+  OpenVoorbeeld("kantoor.mrv");
+  for (const Qt::Key toets : {Qt::Key_Space, Qt::Key_Return}) {
+    KiesElement(1);
+    Zoek<QListWidget>("lstTotaal")->setFocus();
+    Druk(Qt::Key_Down);
+    EXPECT_TRUE(Zoek<QWidget>("SSTab2")->isHidden());
+    Zoek<QListWidget>("lstProject")->setFocus();
+    Druk(toets);
+    EXPECT_TRUE(Zoek<QWidget>("SSTab2")->isVisible());
+    EXPECT_EQ(venster->DeLijst().Actief, Lijst::lstProject);
+  }
+}
+
+TEST_F(ProjectVenster, AChosenDateMendsARedField) {
+  OpenVoorbeeld("kantoor.mrv");
+  NaarVeld("txtMyDate");
+  Typ("3a");
+  EXPECT_TRUE(IsRood("txtMyDate"));
+  Zoek<QToolButton>("Image1")->click();
+  emit Zoek<QCalendarWidget>("MonthView")->clicked(QDate(2026, 3, 4));
+  EXPECT_EQ(Veld("txtMyDate")->text(), "04-03-2026");
+  EXPECT_FALSE(IsRood("txtMyDate"));
+}
+
+TEST_F(ProjectVenster, ARedFieldHoldsTheFreeField) {
+  OpenVoorbeeld("kantoor.mrv");
+  KiesTab(Tab::Ruimtegegevens);
+  NaarVeld("txtRLengte");
+  Typ("1,2,3");
+  auto* vrij = Zoek<QCheckBox>("VrijVeld");
+  vrij->setFocus(Qt::MouseFocusReason);
+  vrij->click();
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(vrij->isChecked());
+  EXPECT_EQ(project.VrijVeld, 0);
+  EXPECT_EQ(Focus(), "txtRLengte");
 }
 
 TEST_F(ProjectVenster, OpeningACatalogueElementLeavesTheFocus) {
