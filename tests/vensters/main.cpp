@@ -2,9 +2,20 @@
 
 #include <QApplication>
 #include <QStyleFactory>
+#include <iostream>
+
+namespace {
+
+/// The off-screen platform tells at every pop-up what it cannot do.
+void MeldBericht(QtMsgType, const QMessageLogContext&, const QString& bericht) {
+  if (!bericht.startsWith("This plugin does not support")) std::cerr << bericht.toStdString() << '\n';
+}
+
+}  // namespace
 
 int main(int aantal, char** argumenten) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
+  qInstallMessageHandler(MeldBericht);
   QApplication::setStyle(QStyleFactory::create("Fusion"));
   const QApplication toepassing(aantal, argumenten);
   testing::InitGoogleTest(&aantal, argumenten);
