@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QStyleFactory>
 #include <iostream>
 
@@ -13,11 +12,13 @@ void MeldBericht(QtMsgType, const QMessageLogContext&, const QString& bericht) {
 
 }  // namespace
 
+#include "shell/vensters_toepassing.h"
+
 int main(int aantal, char** argumenten) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   qInstallMessageHandler(MeldBericht);
   QApplication::setStyle(QStyleFactory::create("Fusion"));
-  const QApplication toepassing(aantal, argumenten);
+  const murvane::Toepassing toepassing(aantal, argumenten);
   testing::InitGoogleTest(&aantal, argumenten);
   return RUN_ALL_TESTS();
 }
