@@ -65,6 +65,17 @@ class MeldingVenster : public QMessageBox {
   bool weggeklikt_ = false;
 };
 
+/// A dialog stands before the window that is in use, not behind it or elsewhere on the screen. Just after
+/// another dialog none is in use yet.
+QWidget* Ouder(QWidget* ouder) {
+  if (ouder != nullptr) return ouder;
+  if (QApplication::activeWindow() != nullptr) return QApplication::activeWindow();
+  for (QWidget* const venster : QApplication::topLevelWidgets()) {
+    if (venster->isVisible() && venster->windowType() == Qt::Window) return venster;
+  }
+  return nullptr;
+}
+
 /// Paths go through as they are: a name that is not UTF-8 stays the same file.
 QString NaarQt(const std::filesystem::path& pad) {
   return QString::fromStdString(PadTekst(pad));
@@ -83,7 +94,7 @@ QString FilterVan(const std::string& filter) {
 }
 
 std::filesystem::path Vraag(QWidget* ouder, const BestandVraag& vraag, QFileDialog::AcceptMode wijze) {
-  QFileDialog dialoog(ouder, VanCp(vraag.Titel));
+  QFileDialog dialoog(Ouder(ouder), VanCp(vraag.Titel));
   // The toolkit's own dialog: the system's would speak the system's language.
   dialoog.setOption(QFileDialog::DontUseNativeDialog);
   dialoog.setAcceptMode(wijze);
@@ -102,7 +113,7 @@ std::filesystem::path Vraag(QWidget* ouder, const BestandVraag& vraag, QFileDial
 
 Antwoord SchermDialogen::Toon(const Melding& melding) {
   MeldingVenster box(Icoon(melding.Soort), VanCp(melding.Titel), VanCp(melding.Tekst),
-                     KnoppenVan(melding.Knoppen), ouder_);
+                     KnoppenVan(melding.Knoppen), Ouder(ouder_));
   box.setTextFormat(Qt::PlainText);
   const int knop = box.exec();
   return AntwoordVan(knop, melding.Knoppen, box.Weggeklikt());
@@ -110,8 +121,8 @@ Antwoord SchermDialogen::Toon(const Melding& melding) {
 
 std::string SchermDialogen::Invoer(const InvoerVraag& vraag) {
   bool gelukt = false;
-  const QString antwoord = QInputDialog::getText(ouder_, VanCp(vraag.Titel), VanCp(vraag.Tekst), QLineEdit::Normal,
-                                                 VanCp(vraag.Standaard), &gelukt);
+  const QString antwoord = QInputDialog::getText(Ouder(ouder_), VanCp(vraag.Titel), VanCp(vraag.Tekst),
+                                                 QLineEdit::Normal, VanCp(vraag.Standaard), &gelukt);
   return gelukt ? NaarCp(antwoord) : std::string();
 }
 

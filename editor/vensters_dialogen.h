@@ -9,7 +9,8 @@ namespace murvane {
 
 class SchermDialogen : public Dialogen {
  public:
-  /// `ouder` is the window that the dialogs stand before; it outlives this object.
+  /// `ouder` is the window that the dialogs stand before; it outlives this object. Without one it is the
+  /// window that is in use when they appear.
   explicit SchermDialogen(QWidget* ouder) : ouder_(ouder) {}
 
   Antwoord Toon(const Melding& melding) override;

@@ -3,6 +3,8 @@
 #include <QStyleFactory>
 #include <iostream>
 
+#include "shell/vensters_toepassing.h"
+
 namespace {
 
 /// The off-screen platform tells at every pop-up what it cannot do.
@@ -11,8 +13,6 @@ void MeldBericht(QtMsgType, const QMessageLogContext&, const QString& bericht) {
 }
 
 }  // namespace
-
-#include "shell/vensters_toepassing.h"
 
 int main(int aantal, char** argumenten) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
