@@ -106,6 +106,7 @@ void frmMurvane::ToonProject(bool isNieuwOfGeopend) {
   MonthView->hide();
   SSTab1->show();
   if (isNieuwOfGeopend) {
+    laatsteFan_ = 0;  // a fan of the list that was chosen for another project
     SSTab1->setCurrentIndex(static_cast<int>(StartPagina));
     Vak({"txtProNum"})->setFocus();
   }
@@ -322,6 +323,10 @@ bool frmMurvane::GaNaar(const QString& naam) {
   return true;
 }
 
+bool frmMurvane::IsGeldig(const InvoerVeld& veld) const {
+  return ValiDate(NaarCp(veld.text()), Regel(veld.Veld()), vandaag_, decimaal_).Geldig;
+}
+
 bool frmMurvane::BewaarVeld() {
   return Bewaar(true);
 }
@@ -330,8 +335,10 @@ bool frmMurvane::BewaarVeld() {
 bool frmMurvane::Bewaar(bool ookRDI) {
   QWidget* const focus = focusWidget();
   if (focus == nullptr || !focus->isVisibleTo(this)) return true;
-  auto* const veld = qobject_cast<InvoerVeld*>(focus);
-  if (veld != nullptr && (ookRDI || veld->Veld().Naam != "txtRDI")) Verlaat(*veld);
+  if (auto* const veld = qobject_cast<InvoerVeld*>(focus)) {
+    const bool zoAls = !ookRDI && veld->Veld().Naam == "txtRDI" && IsGeldig(*veld);
+    if (!zoAls) Verlaat(*veld);
+  }
   if (auto* const keuze = qobject_cast<Keuzevak*>(focus)) emit keuze->Verlaten();
   return terugNaar_ == nullptr;
 }
@@ -355,8 +362,9 @@ void frmMurvane::VoerUit(const LijstUitkomst& uitkomst) {
     lstProject->VoegRij(VanCp(TrimRechts(RijProject(project_, project_.ElementCount))));
   if (uitkomst.lstProject == Vulling::Opnieuw) lstProject->ZetRijen(Rijen(RijenProject(project_)));
   ToonLijsten();
+  if (uitkomst.BerekendEerst) RoepBerekend(uitkomst.Berekend);
   if (uitkomst.Open > 0) Open(uitkomst.Open);
-  if (!uitkomst.Berekend.empty()) RoepBerekend(uitkomst.Berekend);
+  if (!uitkomst.BerekendEerst && !uitkomst.Berekend.empty()) RoepBerekend(uitkomst.Berekend);
   emit ToestandGewijzigd();
 }
 
@@ -420,8 +428,8 @@ void frmMurvane::VoerUit(const RuimteUitslag& uitslag) {
 
 void frmMurvane::VoerUit(Keuzevak& vak, const KeuzeUitslag& uitslag) {
   if (uitslag.Tekst) vak.ZetTekst(VanCp(*uitslag.Tekst));
-  ZetTeksten(uitslag.Zet);
   if (!uitslag.Berekend.empty()) RoepBerekend(uitslag.Berekend);
+  ZetTeksten(uitslag.Zet);
 }
 
 // ---- Events ----
@@ -507,9 +515,9 @@ void frmMurvane::KiesType(std::int16_t rekenType) {
   Veilig(std::string(TypeVan(rekenType).Menu) + "_Click", [&] {
     VoerUit(KiesRekenType(sessie_, project_, rekenType));
     ToonType();
+    SSTab1->setCurrentIndex(static_cast<int>(StartPagina));
     VoerUit(VrVldSet(project_));
     VormPagina();
-    SSTab1->setCurrentIndex(static_cast<int>(StartPagina));
   });
 }
 

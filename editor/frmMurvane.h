@@ -124,6 +124,7 @@ class frmMurvane : public QWidget {
   void ZetZichtbaar(VeldId veld, bool zichtbaar);
   bool GaNaar(const QString& naam);
   [[nodiscard]] bool Bewaar(bool ookRDI);
+  [[nodiscard]] bool IsGeldig(const InvoerVeld& veld) const;
 
   // the records on screen
   void VulVelden(const VensterBeeld& beeld);

@@ -442,14 +442,15 @@ QWidget* frmMurvane::BouwDatum() {
   return vak;
 }
 
+/// An option that is chosen already is not chosen again: its click would clear what it brought.
 void frmMurvane::VerbindFan() {
   connect(optInvoer, &QRadioButton::clicked, this, [this] {
-    if (Houdt()) return ToonFan(FanZichtVan(project_));
+    if (Houdt() || FanZichtVan(project_).optInvoer) return ToonFan(FanZichtVan(project_));
     Veilig("optInvoer_Click",
            [this] { VoerUit(optInvoer_Click(project_, catalogi_.CatFans, laatsteFan_, decimaal_)); });
   });
   connect(optPrognose, &QRadioButton::clicked, this, [this] {
-    if (Houdt()) return ToonFan(FanZichtVan(project_));
+    if (Houdt() || FanZichtVan(project_).optPrognose) return ToonFan(FanZichtVan(project_));
     Veilig("optPrognose_Click", [this] { VoerUit(optPrognose_Click(project_, SSTab1->currentIndex())); });
   });
   const std::array<std::pair<QRadioButton*, std::int16_t>, 3> typen = {
@@ -458,7 +459,7 @@ void frmMurvane::VerbindFan() {
        {optCentriAchter, fantype::CentrifugaalAchterwaarts}}};
   for (const auto& [knop, type] : typen) {
     connect(knop, &QRadioButton::clicked, this, [this, fanType = type, naam = knop->objectName()] {
-      if (Houdt()) return ToonFan(FanZichtVan(project_));
+      if (Houdt() || project_.Fan.FanType == fanType) return ToonFan(FanZichtVan(project_));
       Veilig(naam.toStdString() + "_Click", [this, fanType] { VoerUit(FanTypeGekozen(project_, fanType)); });
     });
   }
@@ -479,10 +480,12 @@ void frmMurvane::VerbindLijsten() {
   connect(lstTotaal, &Lijstvak::Geklikt, this, [this](int rij) {
     if (Houdt()) return ToonLijsten();
     Veilig("lstTotaal_Click", [&] { VoerUit(lstTotaal_Click(lijst_, rij)); });
+    ToonLijsten();  // also after a failure the lists show the state
   });
   connect(lstProject, &Lijstvak::Geklikt, this, [this](int rij) {
     if (Houdt()) return ToonLijsten();
     Veilig("lstProject_Click", [&] { VoerUit(lstProject_Click(lijst_, project_, rij)); });
+    ToonLijsten();
   });
   connect(lstTotaal, &QListWidget::itemDoubleClicked, this, &frmMurvane::Voegtoe);
   connect(lstProject, &QListWidget::itemDoubleClicked, this, &frmMurvane::Wis);

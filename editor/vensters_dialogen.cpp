@@ -39,30 +39,35 @@ QMessageBox::StandardButtons KnoppenVan(Knoppen knoppen) {
   }
 }
 
-/// Escape and the close button answer No to a question of yes and no, and Cancel to any other box.
 Antwoord AntwoordVan(int knop, Knoppen knoppen, bool weggeklikt) {
   if (knoppen == Knoppen::YesNo) return knop == QMessageBox::Yes ? Antwoord::Yes : Antwoord::No;
   return knop == QMessageBox::Ok && !weggeklikt ? Antwoord::OK : Antwoord::Cancel;
 }
 
 /// A message box that knows whether it was left by Escape or its close button: the toolkit itself reports the
-/// only button of a box then.
+/// only button of a box then. A question of yes and no is only left by its buttons: neither answer is the one
+/// that changes nothing.
 class MeldingVenster : public QMessageBox {
  public:
   using QMessageBox::QMessageBox;
+  void MoetKiezen() { moetKiezen_ = true; }
   [[nodiscard]] bool Weggeklikt() const { return weggeklikt_; }
 
  protected:
   void keyPressEvent(QKeyEvent* gebeurtenis) override {
-    if (gebeurtenis->key() == Qt::Key_Escape) weggeklikt_ = true;
+    const bool escape = gebeurtenis->key() == Qt::Key_Escape;
+    if (escape && moetKiezen_) return;
+    if (escape) weggeklikt_ = true;
     QMessageBox::keyPressEvent(gebeurtenis);
   }
   void closeEvent(QCloseEvent* gebeurtenis) override {
+    if (moetKiezen_) return gebeurtenis->ignore();
     weggeklikt_ = true;
     QMessageBox::closeEvent(gebeurtenis);
   }
 
  private:
+  bool moetKiezen_ = false;
   bool weggeklikt_ = false;
 };
 
@@ -110,6 +115,7 @@ Antwoord SchermDialogen::Toon(const Melding& melding) {
   MeldingVenster box(Icoon(melding.Soort), VanCp(melding.Titel), VanCp(melding.Tekst),
                      KnoppenVan(melding.Knoppen), Ouder());
   box.setTextFormat(Qt::PlainText);
+  if (melding.Knoppen == Knoppen::YesNo) box.MoetKiezen();
   const int knop = box.exec();
   return AntwoordVan(knop, melding.Knoppen, box.Weggeklikt());
 }

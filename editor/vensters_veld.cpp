@@ -177,8 +177,13 @@ void Lijstvak::mousePressEvent(QMouseEvent* event) {
   {
     const QScopedValueRollback<bool> stil(stil_, true);
     QListWidget::mousePressEvent(event);
+    if (currentItem() != nullptr) currentItem()->setSelected(true);  // Ctrl would have cleared it
   }
   emit Geklikt(currentRow());
+}
+
+void Lijstvak::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) QListWidget::mouseDoubleClickEvent(event);
 }
 
 void Lijstvak::keyPressEvent(QKeyEvent* event) {

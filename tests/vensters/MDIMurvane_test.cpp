@@ -185,6 +185,7 @@ TEST_F(Hoofdvenster, BringsAClosedResultWindowBack) {
   ASSERT_EQ(Resultaat(), nullptr);
   Kies("mnuPreview");
   ASSERT_NE(Resultaat(), nullptr);
+  ASSERT_NE(Resultaat(), nullptr);
   EXPECT_EQ(venster->findChild<QMdiArea*>()->activeSubWindow()->widget(), Resultaat());
 }
 
@@ -311,6 +312,36 @@ TEST_F(Hoofdvenster, ARunTakesTheDirectivityAsItWasTyped) {
   QTest::keyClick(veld, Qt::Key_Tab);
   EXPECT_EQ(programma.Project.Ruimte.RDI, 4) << "leaving the field snaps it";
   EXPECT_EQ(Aan(), NietBerekend);
+}
+
+TEST_F(Hoofdvenster, ADirectivityThatIsNoNumberStopsTheRun) {
+  Open("kantoor.mrv");
+  venster->findChild<QTabWidget*>("SSTab1")->setCurrentIndex(2);
+  auto* veld = venster->findChild<QLineEdit*>("txtRDI");
+  veld->setFocus();
+  QTest::keyClicks(veld, "1,2,3");
+  Kies("mnuReken");
+  EXPECT_EQ(Resultaat(), nullptr);
+  EXPECT_EQ(veld->text(), "1,2,3");
+  EXPECT_EQ(veld->toolTip(), "Voer geldig getal in");
+}
+
+TEST_F(Hoofdvenster, ARunTakesAFlowThatThePrognosisGaveWhileTheFirstElementIsOpen) {
+  Open("plafond.mrv");
+  programma.Project.FanPrognose = fanbron::Prognose;
+  programma.Project.Fan.FanDebiet = 2;
+  ProjectVenster()->ToonProject(true);
+  auto* tabs = venster->findChild<QTabWidget*>("SSTab1");
+  tabs->setCurrentIndex(1);
+  venster->findChild<QListWidget*>("lstProject")->setCurrentRow(0);
+  EXPECT_EQ(programma.Project.Elementen[1].Debiet, 2);
+  programma.Project.Fan.FanDebiet = 3;
+  Kies("mnuReken");
+  ASSERT_NE(Resultaat(), nullptr);
+  EXPECT_EQ(programma.Project.Elementen[1].Debiet, 3);
+  venster->findChild<QMdiArea*>()->closeActiveSubWindow();
+  venster->findChild<QListWidget*>("lstTotaal")->setCurrentRow(0);
+  EXPECT_EQ(programma.Project.Elementen[1].Debiet, 3) << "the hidden box does not put the former flow back";
 }
 
 TEST_F(Hoofdvenster, ARedFanBandHoldsItsTabUntilItIsRight) {
