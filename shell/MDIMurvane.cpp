@@ -67,11 +67,13 @@ void MDIMurvane::MaakMenu() {
       menu->setObjectName(Naam(item.Naam));
       menu->menuAction()->setObjectName(Naam(item.Naam));
       menus[item.Naam] = menu;
+      acties_[item.Naam] = menu->menuAction();
       continue;
     }
     QAction* actie = menus.at(item.In)->addAction(VanCp(item.Opschrift));
     actie->setObjectName(Naam(item.Naam));
     actie->setCheckable(item.Soort == MenuSoort::Keuze);
+    acties_[item.Naam] = actie;
     if (item.Soort != MenuSoort::Kop) continue;
     actie->setEnabled(false);
     menus.at(item.In)->addSeparator();
@@ -90,7 +92,7 @@ void MDIMurvane::MaakMenu() {
 }
 
 void MDIMurvane::Verbind(std::string_view naam, void (MDIMurvane::*opdracht)()) {
-  auto* actie = findChild<QAction*>(Naam(naam));
+  QAction* const actie = acties_.at(naam);
   actie->setProperty("opdracht", true);
   // Whatever a command raises is told, and the program runs on with the project open.
   connect(actie, &QAction::triggered, this, [this, naam, opdracht] {
@@ -124,13 +126,14 @@ void MDIMurvane::MaakStatusbalk() {
 void MDIMurvane::ToonToestand() {
   const Sessie& sessie = project_->DeSessie();
   for (const MenuRegel& regel : MenuRegels) {
-    auto* actie = findChild<QAction*>(Naam(regel.Naam));
-    if (actie == nullptr) continue;
+    const auto gevonden = acties_.find(regel.Naam);
+    if (gevonden == acties_.end()) continue;
+    QAction* const actie = gevonden->second;
     const bool bediend = actie->menu() != nullptr || actie->property("opdracht").toBool();
     actie->setEnabled(bediend && MenuAan(regel.Naam, sessie.Toestand));
   }
   for (const TypeRegel& regel : TypeRegels)
-    findChild<QAction*>(Naam(regel.Menu))->setChecked(regel.RekenType == programma_.Project.Kop.RekenType);
+    acties_.at(regel.Menu)->setChecked(regel.RekenType == programma_.Project.Kop.RekenType);
   const StatusBalk balk = StatusVan(sessie, programma_.Project);
   beeld_->setVisible(balk.Paneel1Beeld != 0);
   paneel1_->setText(VanCp(balk.Paneel1));

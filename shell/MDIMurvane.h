@@ -3,12 +3,14 @@
 
 #include <QMainWindow>
 #include <QPointer>
+#include <map>
 #include <string_view>
 
 #include "editor/dialogen.h"
 #include "editor/sessie.h"
 #include "shell/programma.h"
 
+class QAction;
 class QLabel;
 class QMdiArea;
 
@@ -57,6 +59,7 @@ class MDIMurvane : public QMainWindow {
   QMdiArea* gebied_;
   frmMurvane* project_;
   QPointer<frmResultaat> resultaat_;
+  std::map<std::string_view, QAction*> acties_;  ///< by name; the names of MenuBalk
   QLabel* beeld_ = nullptr;
   QLabel* paneel1_ = nullptr;
   QLabel* paneel2_ = nullptr;
