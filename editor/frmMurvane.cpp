@@ -94,6 +94,7 @@ frmMurvane::frmMurvane(Project& project, const Catalogi& catalogi, Dialogen& dia
 // ---- The records on screen ----
 
 void frmMurvane::ToonProject(bool isNieuwOfGeopend) {
+  BouwTabs();
   const QScopedValueRollback<bool> vult(vult_, true);
   const VensterBeeld beeld = TabSettings(project_, catalogi_, decimaal_);
   VulVelden(beeld);
@@ -103,7 +104,7 @@ void frmMurvane::ToonProject(bool isNieuwOfGeopend) {
   ToonRuimte(beeld.Ruimte);
   ToonType();
   ToonLijsten();
-  MonthView->hide();
+  if (MonthView != nullptr) MonthView->hide();
   SSTab1->show();
   if (isNieuwOfGeopend) {
     SSTab1->setCurrentIndex(static_cast<int>(StartPagina));
@@ -116,10 +117,12 @@ void frmMurvane::ToonGeenProject() {
   const QScopedValueRollback<bool> vult(vult_, true);
   SSTab1->hide();
   ProgressBar1->hide();
-  SSTab2->hide();
-  tekening_->hide();
-  MonthView->hide();
-  lblLwA->clear();
+  if (SSTab1->count() > 0) {
+    SSTab2->hide();
+    tekening_->hide();
+    lblLwA->clear();
+  }
+  if (MonthView != nullptr) MonthView->hide();
   emit ToestandGewijzigd();
 }
 
@@ -151,6 +154,7 @@ void frmMurvane::VulLijsten(const VensterBeeld& beeld) {
 }
 
 void frmMurvane::VulCatalogi() {
+  BouwTabs();
   const QScopedValueRollback<bool> vult(vult_, true);
   const VensterBeeld beeld = TabSettings(project_, catalogi_, decimaal_);
   lstTotaalGevuld(lijst_);
@@ -462,6 +466,7 @@ void frmMurvane::FanOK() {
 }
 
 void frmMurvane::Image1_Click() {
+  if (MonthView == nullptr) BouwKalender();
   if (!MonthView->isHidden()) return MonthView->hide();
   const QDate datum = DatumVan(TekstVan({"txtMyDate"}));
   MonthView->setSelectedDate(datum.isValid() ? datum : DatumVan(vandaag_));
@@ -481,6 +486,7 @@ void frmMurvane::MonthView_DateClick(const QDate& datum) {
 
 void frmMurvane::KiesType(std::int16_t rekenType) {
   Veilig("KiesRekenType", [&] {
+    BouwTabs();
     VoerUit(KiesRekenType(sessie_, project_, rekenType));
     ToonType();
     VoerUit(VrVldSet(project_));
