@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <array>
 #include <map>
+#include <optional>
 #include <tuple>
 #include <utility>
 
@@ -75,7 +76,7 @@ void BelichtGroep(QString& svg, const QString& id) {
 /// Draws a size when it is asked for, and keeps it: most icons stand on tabs that nobody opens yet.
 class SvgIcoon final : public QIconEngine {
  public:
-  SvgIcoon(QString naam, QPalette palet) : naam_(std::move(naam)), palet_(std::move(palet)) {}
+  SvgIcoon(QString naam, std::optional<QPalette> palet) : naam_(std::move(naam)), palet_(std::move(palet)) {}
 
   [[nodiscard]] QIconEngine* clone() const override { return new SvgIcoon(naam_, palet_); }
   [[nodiscard]] bool isNull() override { return false; }
@@ -95,19 +96,20 @@ class SvgIcoon final : public QIconEngine {
   [[nodiscard]] QPixmap Teken(const QSize& maat, QIcon::Mode stand) const {
     QPixmap beeld(maat);
     beeld.fill(Qt::transparent);
-    QSvgRenderer svg(InKleur(LeesBron(":/shell/beelden/" + naam_ + ".svg"), palet_));
+    const QString bron = LeesBron(":/shell/beelden/" + naam_ + ".svg");
+    QSvgRenderer svg(palet_ ? InKleur(bron, *palet_) : bron.toUtf8());
     svg.setAspectRatioMode(Qt::KeepAspectRatio);
     QPainter schilder(&beeld);
     svg.render(&schilder);
     schilder.end();
     if (stand == QIcon::Normal) return beeld;
     QStyleOption optie;
-    optie.palette = palet_;
+    if (palet_) optie.palette = *palet_;
     return QApplication::style()->generatedIconPixmap(stand, beeld, &optie);
   }
 
   QString naam_;
-  QPalette palet_;
+  std::optional<QPalette> palet_;
   std::map<std::tuple<int, int, QIcon::Mode>, QPixmap> beelden_;
 };
 
@@ -115,6 +117,10 @@ class SvgIcoon final : public QIconEngine {
 
 QIcon Icoon(const QString& naam, const QPalette& palet) {
   return QIcon(new SvgIcoon(naam, palet));
+}
+
+QIcon Icoon(const QString& naam) {
+  return QIcon(new SvgIcoon(naam, {}));
 }
 
 Tekening::Tekening(QWidget* ouder) : QWidget(ouder) {

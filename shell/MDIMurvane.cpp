@@ -1,6 +1,7 @@
 #include "shell/MDIMurvane.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QLabel>
 #include <QMdiArea>
@@ -13,6 +14,7 @@
 #include "basis/vensters_hulp.h"
 #include "calc/reken.h"
 #include "editor/frmMurvane.h"
+#include "editor/vensters_tekening.h"
 #include "reports/frmResultaat.h"
 #include "shell/bestandopdrachten.h"
 #include "shell/hoofdvenster.h"
@@ -41,7 +43,7 @@ MDIMurvane::MDIMurvane(Programma& programma, Dialogen& dialogen)
                               std::string(programma.Vandaag.Heel()), programma.Decimaal)) {
   setObjectName("MDIMurvane");
   setWindowTitle(VanCp(ProgrammaTitel));
-  setWindowIcon(QIcon(":/shell/beelden/murvane.svg"));
+  QApplication::setWindowIcon(Icoon("murvane"));
   setMinimumSize(MinBreedte / TwipsPerPixel, MinHoogte / TwipsPerPixel);
   setCentralWidget(gebied_);
   auto* kader = new ProjectKader;
@@ -113,7 +115,7 @@ void MDIMurvane::MaakStatusbalk() {
   paneel3_ = new QLabel(this);
   beeld_->setObjectName("StatusBar1_1_beeld");
   beeld_->setAccessibleName("Berekend");
-  beeld_->setPixmap(QIcon(":/shell/beelden/berekend.svg").pixmap(16, 16));
+  beeld_->setPixmap(Icoon("berekend", palette()).pixmap(16, 16));
   paneel1_->setObjectName("StatusBar1_1");
   paneel2_->setObjectName("StatusBar1_2");
   paneel3_->setObjectName("StatusBar1_3");
