@@ -77,7 +77,7 @@ class EchteStart : public testing::Test {
 
   TijdelijkeMap map;
   fs::path data;
-  SchermDialogen dialogen{nullptr};
+  SchermDialogen dialogen;
   Programma programma;
   std::unique_ptr<MDIMurvane> venster;
   Robot robot;
