@@ -35,11 +35,14 @@ void ZijbalkMenu::paintEvent(QPaintEvent* event) {
   schilder.fillRect(balk, verloop);
   QFont letter = font();
   letter.setBold(true);
+  const int ruimte = balk.height() - 8;  // a short menu gets a smaller caption
+  const int lengte = QFontMetrics(letter).horizontalAdvance(kop_);
+  if (lengte > ruimte) letter.setPointSizeF(letter.pointSizeF() * ruimte / lengte);
   schilder.setFont(letter);
   schilder.setPen(Qt::white);
   schilder.translate(balk.left(), balk.bottom());
   schilder.rotate(-90);
-  schilder.drawText(QRect(8, 0, balk.height() - 16, balk.width()), Qt::AlignLeft | Qt::AlignVCenter, kop_);
+  schilder.drawText(QRect(4, 0, ruimte, balk.width()), Qt::AlignLeft | Qt::AlignVCenter, kop_);
 }
 
 void ZijbalkMenu::changeEvent(QEvent* event) {

@@ -156,7 +156,6 @@ TEST_F(HoofdMenu, TheHeadingsStandAsBarsBesideTheirMenus) {
       if (!actie->isVisible()) continue;
       EXPECT_GE(menu->actionGeometry(const_cast<QAction*>(actie)).left(), menu->BalkBreedte());
     }
-    EXPECT_GE(menu->sizeHint().height(), menu->fontMetrics().horizontalAdvance(kop)) << "the caption fits";
   }
 }
 
