@@ -61,6 +61,11 @@ QDate DatumVan(const std::string& tekst) {
   return QDate::fromString(VanCp(Trim(tekst)), "dd-MM-yyyy");
 }
 
+/// A handler's name for the box of a failure.
+std::string Procedure(const InvoerVeld& veld, const char* gebeurtenis) {
+  return std::string(veld.Veld().Naam) + gebeurtenis;
+}
+
 void KleurLijst(Lijstvak& vak, bool actief) {
   QPalette palet;
   vak.setPalette(palet);
@@ -246,7 +251,7 @@ void frmMurvane::ZetLwA(const std::optional<std::string>& tekst) {
 
 void frmMurvane::Gewijzigd(InvoerVeld& veld) {
   if (vult_) return;
-  Veilig("Change", [&] {
+  Veilig(Procedure(veld, "_Change"), [&] {
     const VeldGevolg gevolg = VeldGewijzigd(veld.Veld());
     ZetTeksten(gevolg.Zet);
     ZetLwA(gevolg.lblLwA);
@@ -256,7 +261,7 @@ void frmMurvane::Gewijzigd(InvoerVeld& veld) {
 
 void frmMurvane::Verlaat(InvoerVeld& veld) {
   if (vult_ || (terugNaar_ != nullptr && terugNaar_ != &veld)) return;
-  Veilig("LostFocus", [&] {
+  Veilig(Procedure(veld, "_LostFocus"), [&] {
     PasToe(
         VerlaatVeld(project_, lijst_.HuidigElement, veld.Veld(), NaarCp(veld.text()), vandaag_, decimaal_));
   });
@@ -288,11 +293,14 @@ void frmMurvane::NaarVolgende(const InvoerVeld& veld) {
     const auto vak = velden_.find({id.Naam, id.Index});
     return vak == velden_.end() || !vak->second->isHidden();
   };
-  if (const auto volgende = VolgendVeld(veld.Veld(), beschikbaar)) GaNaar(ObjectNaam(*volgende));
+  Veilig(Procedure(veld, "_KeyDown"), [&] {
+    if (const auto volgende = VolgendVeld(veld.Veld(), beschikbaar)) GaNaar(ObjectNaam(*volgende));
+  });
 }
 
 void frmMurvane::Herstel(InvoerVeld& veld) {
-  veld.setText(VanCp(HerstelTekst(project_, lijst_.HuidigElement, veld.Veld(), decimaal_)));
+  Veilig(Procedure(veld, "_KeyDown"),
+         [&] { veld.setText(VanCp(HerstelTekst(project_, lijst_.HuidigElement, veld.Veld(), decimaal_))); });
   veld.setToolTip({});
   veld.selectAll();
 }
@@ -309,11 +317,7 @@ bool frmMurvane::GaNaar(const QString& naam) {
   return true;
 }
 
-void frmMurvane::BewaarVeld() {
-  (void)IsGeldigNaBewaren();
-}
-
-bool frmMurvane::IsGeldigNaBewaren() {
+bool frmMurvane::BewaarVeld() {
   QWidget* const focus = focusWidget();
   if (focus == nullptr || !focus->isVisibleTo(this)) return true;
   if (auto* const veld = qobject_cast<InvoerVeld*>(focus)) Verlaat(*veld);
@@ -443,7 +447,7 @@ void frmMurvane::Verplaats(int toets) {
 }
 
 void frmMurvane::KnopKlik(const Toolbarknop& knop) {
-  if (!IsGeldigNaBewaren()) return;
+  if (!BewaarVeld()) return;
   if (knop.Sleutel == "Add") Voegtoe();
   if (knop.Sleutel == "Prop") Voegin();
   if (knop.Sleutel == "Delete") Wis();
@@ -497,7 +501,7 @@ bool frmMurvane::NeemOverEnBeoordeel() {
   std::optional<Bevinding> bevinding;
   {
     const Zandloper wacht(dialogen_);
-    if (!IsGeldigNaBewaren()) return false;
+    if (!BewaarVeld()) return false;
     if (lijst_.HuidigElement > 0 && !Accepteer(lijst_.HuidigElement)) return false;
     const ProjectInvoer invoer = LeesInvoer();
     if (const auto ongeldig = OngeldigeLw(invoer)) {

@@ -56,8 +56,9 @@ class frmMurvane : public QWidget {
   /// Shows the records; of a project just made or opened on its start page.
   void ToonProject(bool isNieuwOfGeopend);
   void ToonGeenProject();
-  /// Stores the field that has the focus, as leaving it does.
-  void BewaarVeld();
+  /// Stores the field that has the focus, as leaving it does. False when its text is invalid: the field is
+  /// red and keeps the focus, and a command that needs its value waits until it is right.
+  [[nodiscard]] bool BewaarVeld();
   /// Takes the fields over and judges the project; when it may not be calculated, tells why and goes to where
   /// the user has to look.
   [[nodiscard]] bool NeemOverEnBeoordeel();
@@ -121,7 +122,6 @@ class frmMurvane : public QWidget {
   void PasToe(const VeldUitslag& uitslag);
   void ZetZichtbaar(VeldId veld, bool zichtbaar);
   bool GaNaar(const QString& naam);
-  [[nodiscard]] bool IsGeldigNaBewaren();
 
   // the records on screen
   void VulVelden(const VensterBeeld& beeld);

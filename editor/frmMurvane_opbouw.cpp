@@ -495,23 +495,31 @@ void frmMurvane::VerbindKeuzes() {
   });
   connect(cmbKanaal, &QComboBox::editTextChanged, this, [this](const QString& tekst) {
     if (vult_) return;
-    if (const auto nieuw = cmbKanaal_Change(NaarCp(tekst))) cmbKanaal->ZetTekst(VanCp(*nieuw));
+    Veilig("cmbKanaal_Change", [&] {
+      if (const auto nieuw = cmbKanaal_Change(NaarCp(tekst))) cmbKanaal->ZetTekst(VanCp(*nieuw));
+    });
   });
   connect(cmbKanaal, &Keuzevak::Verlaten, this, [this] {
     if (Houdt()) return;
-    const auto nieuw = cmbKanaal_LostFocus(project_, lijst_.HuidigElement, NaarCp(cmbKanaal->currentText()));
-    if (nieuw) cmbKanaal->ZetTekst(VanCp(*nieuw));
+    Veilig("cmbKanaal_LostFocus", [this] {
+      const std::string tekst = NaarCp(cmbKanaal->currentText());
+      const auto nieuw = cmbKanaal_LostFocus(project_, lijst_.HuidigElement, tekst);
+      if (nieuw) cmbKanaal->ZetTekst(VanCp(*nieuw));
+    });
   });
   const auto verbind = [this](Keuzevak* vak, const SpectrumCatalogus& catalogus, auto klik, auto wijzig,
                               auto verlaat) {
+    const std::string naam = vak->objectName().toStdString();
     connect(vak, &QComboBox::activated, this, [=, this, &catalogus](int rij) {
-      Veilig("cmbR_Click", [&] { VoerUit(*vak, klik(project_, rij, catalogus, decimaal_)); });
+      Veilig(naam + "_Click", [&] { VoerUit(*vak, klik(project_, rij, catalogus, decimaal_)); });
     });
     connect(vak, &QComboBox::editTextChanged, this, [=, this](const QString& tekst) {
-      if (!vult_) VoerUit(*vak, wijzig(NaarCp(tekst)));
+      if (!vult_) Veilig(naam + "_Change", [&] { VoerUit(*vak, wijzig(NaarCp(tekst))); });
     });
     connect(vak, &Keuzevak::Verlaten, this, [=, this] {
-      if (!Houdt()) VoerUit(*vak, verlaat(project_, NaarCp(vak->currentText()), decimaal_));
+      if (Houdt()) return;
+      Veilig(naam + "_LostFocus",
+             [&] { VoerUit(*vak, verlaat(project_, NaarCp(vak->currentText()), decimaal_)); });
     });
   };
   verbind(cmbRkanaal, catalogi_.CatRduct, cmbRkanaal_Click, cmbRkanaal_Change, cmbRkanaal_LostFocus);

@@ -184,8 +184,9 @@ void MDIMurvane::mnuReken() {
     if (!project_->NeemOverEnBeoordeel()) return;
     const Zandloper zandloper(dialogen_);
     const int aantal = programma_.Project.ElementCount;
-    project_->ZetVoortgang(aantal, aantal);
-    Reken(programma_.Project, programma_.Resultaten, programma_.Decimaal);
+    project_->ZetVoortgang(0, aantal);
+    Reken(programma_.Project, programma_.Resultaten, programma_.Decimaal,
+          [&](int element) { project_->ZetVoortgang(element, aantal); });
     Afdruk(programma_.Project, programma_.Resultaten, programma_.Instellingen.Gebruikersnaam,
            programma_.Decimaal, programma_.Rapport);
   } catch (...) {
@@ -216,7 +217,7 @@ void MDIMurvane::mnuSluiten() {
 }
 
 void MDIMurvane::mnuOpslaan() {
-  project_->BewaarVeld();
+  if (!project_->BewaarVeld()) return;
   if (OpSlag(programma_, dialogen_) == OpslagUitkomst::Gesloten) SluitHetProject();
 }
 
@@ -244,8 +245,8 @@ void MDIMurvane::mnuOverspraak() {
 
 void MDIMurvane::closeEvent(QCloseEvent* gebeurtenis) {
   if (!einde_) {
-    project_->BewaarVeld();
-    einde_ = Form_Unload(programma_, dialogen_, ProjectOpen(project_->DeSessie())) == Vervolg::Einde;
+    einde_ = project_->BewaarVeld() &&
+             Form_Unload(programma_, dialogen_, ProjectOpen(project_->DeSessie())) == Vervolg::Einde;
   }
   gebeurtenis->setAccepted(einde_);
 }

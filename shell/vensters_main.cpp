@@ -1,6 +1,5 @@
 // The program murvane.
 
-#include <QApplication>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QStringList>
@@ -13,6 +12,7 @@
 #include "shell/MDIMurvane.h"
 #include "shell/opstart.h"
 #include "shell/startup.h"
+#include "shell/vensters_toepassing.h"
 
 namespace {
 
@@ -39,7 +39,7 @@ std::chrono::year_month_day Vandaag() {
 
 int main(int argc, char** argv) {
   const char decimaal = murvane::RegionaalDecimaalteken();
-  QApplication toepassing(argc, argv);
+  murvane::Toepassing toepassing(argc, argv);
   QApplication::setApplicationName("MurVane");
   QLocale::setDefault(QLocale(QLocale::Dutch, QLocale::Netherlands));
   QTranslator vertaling;
@@ -47,6 +47,7 @@ int main(int argc, char** argv) {
 
   murvane::Programma programma;
   murvane::SchermDialogen dialogen(nullptr);
+  toepassing.ZetDialogen(&dialogen);
   const std::string opdrachtregel = QApplication::arguments().mid(1).join(' ').toStdString();
   std::error_code geen;
   const murvane::StartGegevens start{std::filesystem::current_path(geen), murvane::DatumTekst(Vandaag()),

@@ -10,14 +10,17 @@
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QProgressBar>
 #include <QTest>
 #include <QTextEdit>
+#include <numeric>
 
 #include "basis/vensters_hulp.h"
 #include "editor/frmMurvane.h"
 #include "project/projectfile.h"
 #include "reports/frmResultaat.h"
 #include "shell/run.h"
+#include "shell/vensters_toepassing.h"
 #include "tests/hulp/bestanden.h"
 #include "tests/hulp/script.h"
 
@@ -202,6 +205,68 @@ TEST_F(Hoofdvenster, AFaultInARunIsToldAndLeavesTheProjectOpen) {
   EXPECT_EQ(Resultaat(), nullptr);
   EXPECT_EQ(Aan(), NietBerekend);
   EXPECT_EQ(Paneel(1), "kantoor.mrv");
+}
+
+TEST_F(Hoofdvenster, TheProgressBarCountsTheElements) {
+  Open("kantoor.mrv");
+  auto* balk = venster->findChild<QProgressBar*>("ProgressBar1");
+  std::vector<int> standen;
+  QObject::connect(balk, &QProgressBar::valueChanged, balk, [&](int stand) {
+    if (stand <= 0) return;
+    EXPECT_TRUE(balk->isVisible());
+    EXPECT_EQ(balk->maximum(), programma.Project.ElementCount);
+    standen.push_back(stand);
+  });
+  Kies("mnuReken");
+  std::vector<int> alle(static_cast<std::size_t>(programma.Project.ElementCount));
+  std::iota(alle.begin(), alle.end(), 1);
+  EXPECT_EQ(standen, alle);
+  EXPECT_FALSE(balk->isVisible());
+}
+
+TEST_F(Hoofdvenster, ARedFieldHoldsOffASaveUntilItIsRight) {
+  Open("kantoor.mrv");
+  auto* veld = venster->findChild<QLineEdit*>("txtMyDate");
+  veld->setFocus();
+  QTest::keyClicks(veld, "31-02-2026");
+  Kies("mnuOpslaan");  // an unexpected dialog fails the test
+  QCoreApplication::processEvents();
+  EXPECT_EQ(Paneel(1), "kantoor.mrv");
+  EXPECT_EQ(veld->toolTip(), "Voer geldige datum in (dd-mm-yyyy)");
+  EXPECT_FALSE(venster->close());
+  EXPECT_TRUE(venster->isVisible());
+  QCoreApplication::processEvents();
+  QTest::keyClick(veld, Qt::Key_Escape);
+  script.Opslaan({"Opslaan als", "Bestanden MurVane (*.mrv)|*.mrv", programma.DataDir, Data / "kantoor.mrv",
+                  true, false, true},
+                 map.Pad() / "bewaard é.mrv");
+  Kies("mnuOpslaan");
+  EXPECT_EQ(ProjectBytes(LeesProject(map.Pad() / "bewaard é.mrv")),
+            ProjectBytes(LeesProject(Data / "kantoor.mrv")));
+}
+
+/// A window whose event fails in a way that no handler foresees.
+class Kapot : public QObject {
+ public:
+  bool event(QEvent* gebeurtenis) override {
+    if (gebeurtenis->type() != QEvent::User) return QObject::event(gebeurtenis);
+    throw Fout(FoutNummer::IndexBuitenBereik);
+  }
+};
+
+TEST_F(Hoofdvenster, AFailureThatReachesTheEventLoopIsToldAndTheProjectStaysOpen) {
+  Open("kantoor.mrv");
+  auto& toepassing = dynamic_cast<Toepassing&>(*QCoreApplication::instance());
+  toepassing.ZetDialogen(&script);
+  script.Box({MeldingSoort::Kritiek, "MurVane",
+              "Onverwachte fout in procedure notify van Form MDIMurvane.\nFout 9 - Index buiten het bereik.",
+              Knoppen::OK});
+  Kapot kapot;
+  QCoreApplication::postEvent(&kapot, new QEvent(QEvent::User));
+  QCoreApplication::processEvents();
+  toepassing.ZetDialogen(nullptr);
+  EXPECT_EQ(Paneel(1), "kantoor.mrv");
+  EXPECT_EQ(Aan(), NietBerekend);
 }
 
 TEST_F(Hoofdvenster, ClosingAsksFirst) {

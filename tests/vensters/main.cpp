@@ -1,12 +1,13 @@
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QStyleFactory>
+
+#include "shell/vensters_toepassing.h"
 
 int main(int aantal, char** argumenten) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication::setStyle(QStyleFactory::create("Fusion"));
-  const QApplication toepassing(aantal, argumenten);
+  const murvane::Toepassing toepassing(aantal, argumenten);
   testing::InitGoogleTest(&aantal, argumenten);
   return RUN_ALL_TESTS();
 }
