@@ -4,6 +4,7 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
@@ -23,7 +24,6 @@ namespace {
 
 constexpr int Marge = 12;
 constexpr int Ruimte = 8;
-constexpr int GetalBreedte = 90;
 
 QLabel* MaakLabel(const QString& tekst, const QString& naam, QWidget* buddy, QWidget* ouder) {
   auto* const label = new QLabel(tekst, ouder);
@@ -35,6 +35,7 @@ QLabel* MaakLabel(const QString& tekst, const QString& naam, QWidget* buddy, QWi
 QPushButton* MaakKnop(const char* naam, const QString& tekst, QWidget* ouder) {
   auto* const knop = new QPushButton(tekst, ouder);
   knop->setObjectName(naam);
+  knop->setAutoDefault(false);  // Enter goes from field to field; see keyPressEvent
   return knop;
 }
 
@@ -123,7 +124,7 @@ void frmCalc::VoegVeld(QGridLayout* indeling, int rij, const SchatVeld& veld) {
   const QString naam = VanCp(veld.Regel.Naam);
   const QString eenheid = VanCp(veld.Eenheid);
   auto* const vak = new InvoerVeld({veld.Regel.Naam}, veld.Regel, VanCp(veld.Label) + " in " + eenheid, this);
-  vak->setFixedWidth(GetalBreedte);
+  vak->setFixedWidth(vak->fontMetrics().horizontalAdvance("00000,00") + 3 * Ruimte);
   vak->setText(VanCp(ToonVeld(invoer_, veld, decimaal_)));
   indeling->addWidget(MaakLabel(VanCp(veld.Label), "lbl" + naam, vak, this), rij, 0);
   indeling->addWidget(vak, rij, 1);
@@ -215,6 +216,14 @@ void frmCalc::ToonVoorproef() {
 }
 
 // ---- Commands ----
+
+/// Enter presses the button that has the focus, and there is no other that waits for it.
+void frmCalc::keyPressEvent(QKeyEvent* event) {
+  auto* const knop = qobject_cast<QPushButton*>(focusWidget());
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (enter && knop != nullptr) return knop->click();
+  QDialog::keyPressEvent(event);
+}
 
 void frmCalc::cmdOK_Click() {
   Veilig("cmdOK_Click", [&] {

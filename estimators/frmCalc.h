@@ -49,6 +49,9 @@ class frmCalc : public QDialog {
   /// Leaves without an estimate; the fields keep what was entered for the next time.
   void reject() override;
 
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
  private:
   void BouwOp();
   QWidget* BouwInvoer();

@@ -215,6 +215,23 @@ TEST_F(SchatVensters, EscapeOnAButtonCancels) {
   EXPECT_EQ(Naam(), "<none>");
 }
 
+TEST_F(SchatVensters, EnterPressesTheButtonThatHasTheFocusAndNoOther) {
+  Open(Schatter::Kanaalwand);
+  Vul({"2", "0"});
+  Zoek<QRadioButton>("optAlu")->setFocus(Qt::TabFocusReason);
+  Druk(Qt::Key_Return);
+  EXPECT_TRUE(venster->isVisible());
+  EXPECT_FALSE(Zoek<QPushButton>("cmdOK")->isDefault());  // nothing promises otherwise
+  Zoek<QPushButton>("cmdOK")->setFocus(Qt::TabFocusReason);
+  Druk(Qt::Key_Enter);
+  EXPECT_EQ(venster->result(), QDialog::Accepted);
+  Open(Schatter::Kanaalwand);
+  Zoek<QPushButton>("cmdCancel")->setFocus(Qt::TabFocusReason);
+  Druk(Qt::Key_Return);
+  EXPECT_FALSE(venster->isVisible());
+  EXPECT_EQ(Naam(), "<none>");
+}
+
 TEST_F(SchatVensters, ARefusalIsToldAndTheFocusGoesToItsField) {
   struct Rij {
     Schatter soort;
@@ -412,7 +429,7 @@ TEST_F(SchatVensters, BarsGrowWithTheirValues) {
     const QImage beeld = staven.grab().toImage();
     const QColor kleur = staven.palette().color(QPalette::Highlight);
     int pixels = 0;
-    for (int y = 0; y < beeld.height(); ++y) pixels += beeld.pixelColor(140, y) == kleur ? 1 : 0;
+    for (int y = 0; y < beeld.height(); ++y) pixels += beeld.pixelColor(beeld.width() / 2, y) == kleur ? 1 : 0;
     return pixels;
   };
   EXPECT_EQ(hoogte("0"), 0);
