@@ -119,9 +119,12 @@ class frmMurvane : public QWidget {
   void ZetLwA(const std::optional<std::string>& tekst);
   void ZetTekst(const VeldTekst& tekst);
   void ZetTeksten(const std::vector<VeldTekst>& teksten);
-  void PasToe(const VeldUitslag& uitslag);
+  void Toon(const VeldUitslag& uitslag);
+  void PasToe(const VeldUitslag& uitslag);  ///< shows it; an invalid field gets the focus back
   void ZetZichtbaar(VeldId veld, bool zichtbaar);
   bool GaNaar(const QString& naam);
+  [[nodiscard]] bool Bewaar(bool ookRDI);
+  [[nodiscard]] bool IsGeldig(const InvoerVeld& veld) const;
 
   // the records on screen
   void VulVelden(const VensterBeeld& beeld);
@@ -153,7 +156,9 @@ class frmMurvane : public QWidget {
   void KnopKlik(const Toolbarknop& knop);
   void FanOK();
   void Image1_Click();
+  void ToonKalender();
   void MonthView_DateClick(const QDate& datum);
+  void ToonOvergenomen();
   void NaarRegel(const Bevinding& bevinding);
   [[nodiscard]] bool Houdt() const { return vult_ || terugNaar_ != nullptr; }
 

@@ -1,8 +1,6 @@
 // The program murvane.
 
-#include <QLibraryInfo>
 #include <QLocale>
-#include <QStringList>
 #include <QTranslator>
 #include <chrono>
 #include <filesystem>
@@ -12,22 +10,10 @@
 #include "shell/MDIMurvane.h"
 #include "shell/opstart.h"
 #include "shell/startup.h"
+#include "shell/vensters_taal.h"
 #include "shell/vensters_toepassing.h"
 
 namespace {
-
-/// Dutch for the toolkit's own texts, whatever the system language: beside the program first.
-bool LaadVertaling(QTranslator& vertaling) {
-  const QStringList mappen = {QCoreApplication::applicationDirPath() + "/translations",
-                              QCoreApplication::applicationDirPath(),
-                              QLibraryInfo::path(QLibraryInfo::TranslationsPath)};
-  for (const QString& map : mappen) {
-    for (const auto* naam : {"qt_nl", "qtbase_nl"}) {
-      if (vertaling.load(naam, map) && !vertaling.isEmpty()) return true;
-    }
-  }
-  return false;
-}
 
 std::chrono::year_month_day Vandaag() {
   const QDate datum = QDate::currentDate();
@@ -43,10 +29,10 @@ int main(int argc, char** argv) {
   QApplication::setApplicationName("MurVane");
   QLocale::setDefault(QLocale(QLocale::Dutch, QLocale::Netherlands));
   QTranslator vertaling;
-  if (LaadVertaling(vertaling)) QCoreApplication::installTranslator(&vertaling);
+  if (murvane::LaadVertaling(vertaling)) QCoreApplication::installTranslator(&vertaling);
 
   murvane::Programma programma;
-  murvane::SchermDialogen dialogen(nullptr);
+  murvane::SchermDialogen dialogen;
   toepassing.ZetDialogen(&dialogen);
   const std::string opdrachtregel = QApplication::arguments().mid(1).join(' ').toStdString();
   std::error_code geen;
