@@ -134,7 +134,10 @@ void frmCalc::VoegVeld(QGridLayout* indeling, int rij, const SchatVeld& veld) {
   connect(vak, &QLineEdit::textChanged, this, &frmCalc::ToonVoorproef);
   connect(vak, &InvoerVeld::Verlaten, this, [this, nummer] { Verlaat(nummer); });
   connect(vak, &InvoerVeld::Enter, this, [this, &veld] { Vak(veld.Regel.Opvolgers[0])->setFocus(); });
-  connect(vak, &InvoerVeld::Escape, this, [vak] { vak->setText("0"); });
+  connect(vak, &InvoerVeld::Escape, this, [vak] {
+    vak->setText("0");
+    vak->setToolTip({});
+  });
   connect(vak, &InvoerVeld::Gekregen, this, [this, vak] { tekening_->Belicht(vak->objectName()); });
 }
 

@@ -324,6 +324,8 @@ TEST_F(SchatVensters, ARedFieldHoldsTheFocusAndOKDoesNothing) {
   EXPECT_TRUE(venster->isVisible());
   EXPECT_EQ(Focus(), "Text4");
   Druk(Qt::Key_Escape);
+  EXPECT_FALSE(IsRood("Text4"));
+  EXPECT_EQ(Veld("Text4")->toolTip(), "");
   Typ("1");
   EXPECT_EQ(Veld("Text4")->text(), "01");
   Klik("cmdOK");
