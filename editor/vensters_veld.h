@@ -27,6 +27,7 @@ class InvoerVeld : public QLineEdit {
   InvoerVeld(VeldId veld, const VeldRegel& regel, const QString& naam, QWidget* ouder);
 
   [[nodiscard]] VeldId Veld() const { return veld_; }
+  [[nodiscard]] const VeldRegel& DeRegel() const { return regel_; }
   void ZetKleur(std::uint32_t bgr);
 
  signals:
