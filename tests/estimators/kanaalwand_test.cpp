@@ -74,6 +74,8 @@ TEST(Kanaalwand, AddsAndNamesTheMassAgainstDrumming) {
   const KanaalwandInvoer invoer{kanaaltype::Zink, 2, 5.5};
   EXPECT_EQ(NaamVan(cmdOK_Click(invoer, ',')), "verzinkt staal,  2 mm, massa ontdreuning  5,5 kg/m²"_cp);
   EXPECT_EQ(NaamVan(cmdOK_Click(invoer, '.')), "verzinkt staal,  2 mm, massa ontdreuning  5.5 kg/m²"_cp);
+  EXPECT_EQ(NaamVan(cmdOK_Click(KanaalwandInvoer{kanaaltype::Zink, 2, 0.1}, ',')),
+            "verzinkt staal,  2 mm, massa ontdreuning  0,1 kg/m²"_cp);
   EXPECT_EQ(Waarden(cmdOK_Click(invoer, ',')), "16 21 26 31 35 36 39");
   EXPECT_EQ(NaamVan(cmdOK_Click(KanaalwandInvoer{kanaaltype::Zink, 2, 5}, ',')),
             "verzinkt staal,  2 mm, massa ontdreuning  5 kg/m²"_cp);
