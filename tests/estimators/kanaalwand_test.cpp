@@ -81,6 +81,12 @@ TEST(Kanaalwand, AddsAndNamesTheMassAgainstDrumming) {
             "verzinkt staal,  2 mm, massa ontdreuning  5 kg/m²"_cp);
 }
 
+// 1 mm of steel and 16.4 kg/m²: 24.2 kg/m²; 4000 Hz: mf 96.8, 30·log10 146.8 - 24.5 = 40.5016, just over the
+// half.
+TEST(Kanaalwand, RoundsTheUnroundedValue) {
+  EXPECT_EQ(Waarden(cmdOK_Click(KanaalwandInvoer{kanaaltype::Zink, 1, 16.4}, '.')), "17 22 27 32 35 36 41");
+}
+
 // 10 mm of steel is 78 kg/m²: with 72 it is 150, with 72.1 just over, where 125 Hz (mf 18.76) falls from
 // 34.37 to 34.14, 250 Hz rises from 35.87 to 39.13 and 500 Hz from 38.41 to 42.75.
 TEST(Kanaalwand, GoesToTheHeavyCurvesAbove150) {
