@@ -177,9 +177,14 @@ void Lijstvak::mousePressEvent(QMouseEvent* event) {
   {
     const QScopedValueRollback<bool> stil(stil_, true);
     QListWidget::mousePressEvent(event);
-    if (currentItem() != nullptr) currentItem()->setSelected(true);  // Ctrl would have cleared it
   }
   emit Geklikt(currentRow());
+}
+
+/// A row that is pressed stays selected: Ctrl would clear it, at the press or at the release.
+QItemSelectionModel::SelectionFlags Lijstvak::selectionCommand(const QModelIndex& index,
+                                                               const QEvent* /*event*/) const {
+  return index.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
 }
 
 void Lijstvak::mouseDoubleClickEvent(QMouseEvent* event) {

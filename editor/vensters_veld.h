@@ -3,6 +3,7 @@
 // combo box. They tell what the user does; what it means is decided elsewhere.
 
 #include <QComboBox>
+#include <QItemSelectionModel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <array>
@@ -81,6 +82,8 @@ class Lijstvak : public QListWidget {
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
+  [[nodiscard]] QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
+                                                                     const QEvent* event) const override;
 
  private:
   bool stil_ = false;
