@@ -117,8 +117,7 @@ void frmMurvane::ToonGeenProject() {
   const QScopedValueRollback<bool> vult(vult_, true);
   SSTab1->hide();
   ProgressBar1->hide();
-  SSTab2->hide();
-  tekening_->hide();
+  ToonLijsten();
   MonthView->hide();
   lblLwA->clear();
   emit ToestandGewijzigd();

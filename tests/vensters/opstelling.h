@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QLabel>
@@ -96,6 +97,14 @@ class ProjectVenster : public testing::Test {
     if (!map.isEmpty()) {
       EXPECT_TRUE(beeld.save(map + "/" + naam + ".png"));
     }
+  }
+  /// The texts of the labels that belong to a control, in the order in which they were made.
+  QStringList Opschriften(const QString& naam) {
+    QStringList uit;
+    for (const QLabel* const label : venster->findChildren<QLabel*>()) {
+      if (label->buddy() == Zoek<QWidget>(naam)) uit << label->text();
+    }
+    return uit;
   }
   void MaakBerekend() {
     (void)Berekend(venster->DeSessie(), vlag::Berekend, "");
