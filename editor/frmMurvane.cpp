@@ -511,13 +511,11 @@ void frmMurvane::MonthView_DateClick(const QDate& datum) {
 
 void frmMurvane::KiesType(std::int16_t rekenType) {
   if (!BewaarVeld()) return;
-  Veilig(std::string(TypeVan(rekenType).Menu) + "_Click", [&] {
-    VoerUit(KiesRekenType(sessie_, project_, rekenType));
-    ToonType();
-    SSTab1->setCurrentIndex(static_cast<int>(StartPagina));
-    VoerUit(VrVldSet(project_));
-    VormPagina();
-  });
+  VoerUit(KiesRekenType(sessie_, project_, rekenType));
+  ToonType();
+  SSTab1->setCurrentIndex(static_cast<int>(StartPagina));
+  VoerUit(VrVldSet(project_));
+  VormPagina();
 }
 
 ProjectInvoer frmMurvane::LeesInvoer() const {
