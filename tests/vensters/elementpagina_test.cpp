@@ -147,6 +147,7 @@ const std::vector<Opgeschreven> Maten = {
 };
 
 TEST_F(Elementpagina, EveryFieldHasItsCaptionAndUnit) {
+  Nieuw();
   for (const Opgeschreven& vak : Maten) EXPECT_EQ(Opschriften(vak.Naam), vak.Teksten) << vak.Naam;
   EXPECT_TRUE(Opschriften("txtdemp_0").contains("Geluidsinstraling"));
   EXPECT_TRUE(Opschriften("txtdemp_0").contains("LAeq in dB(A)"));
