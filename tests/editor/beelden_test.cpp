@@ -64,8 +64,10 @@ const std::vector<Tekening>& Tekeningen() {
       {"doorsnede-rond", {{"txtH1Doorsnee", "D1"}, {"txtH2Doorsnee", "D2"}, {"txtLDoorsnee", "l"}}},
       {"kanaal-recht", {{"txtHoogte", "h"}, {"txtBreedte", "b"}, {"txtLengte", "l"}, {"txtDebiet", "q"}}},
       {"kanaal-rond", {{"txtHoogte", "D"}, {"txtLengte", "l"}, {"txtDebiet", "q"}}},
+      {"keten", {}},
       {"regelklep", {{"txtWeerstand", "Δp"}}},
       {"rooster", {{"txtSnetto", "S"}, {"txtWeerstand", "Δp"}}},
+      {"ruimte", {{"txtRLengte", "l"}, {"txtRBreedte", "b"}, {"txtRHoogte", "h"}}},
       {"bekleed-kanaal", {{"Text1", "h"}, {"Text2", "b"}, {"Text3", "d"}, {"Text4", "l"}}, "estimators"},
       {"kanaalwand", {{"txtDikte", "d"}, {"txtMassa", "m"}}, "estimators"},
       {"kwartlambda-demper", {{"Text1", "h"}, {"Text2", "b"}, {"Text3", "l"}, {"Text4", "S2"}}, "estimators"},
@@ -230,7 +232,7 @@ TEST(Beelden, TheReaderFindsWhatIsNotWellFormed) {
   EXPECT_NE(OntleedSvg("<svg/>").fout, "");
 }
 
-TEST(Beelden, EveryElementTypeAndEstimatorHasItsDrawingAndNothingElseLiesThere) {
+TEST(Beelden, EveryElementTypeHasItsDrawingAsHaveChainRoomAndEstimators) {
   for (const std::string map : {"editor", "estimators"}) {
     std::vector<std::string> namen;
     for (const Tekening& tekening : Tekeningen())
