@@ -49,10 +49,6 @@ QString LeesBron(const QString& pad) {
   return bestand.open(QIODevice::ReadOnly) ? QString::fromUtf8(bestand.readAll()) : QString();
 }
 
-QString Pad(const char* beeld) {
-  return QString(":/editor/beelden/") + beeld + ".svg";
-}
-
 QString Meng(const QColor& voor, const QColor& achter) {
   return QColor((voor.red() + achter.red()) / 2, (voor.green() + achter.green()) / 2,
                 (voor.blue() + achter.blue()) / 2)
@@ -141,12 +137,12 @@ Tekening::Tekening(QWidget* ouder) : QWidget(ouder) {
 void Tekening::ZetType(std::int16_t elementType) {
   const auto* const beeld = std::find_if(Beelden.begin(), Beelden.end(),
                                          [elementType](const Beeld& een) { return een.Type == elementType; });
-  if (beeld == Beelden.end()) return ZetBeeld(Pad("keten"), "Keten van kanaalelementen");
-  ZetBeeld(Pad(beeld->Naam), beeld->Omschrijving);
+  if (beeld == Beelden.end()) return ZetBeeld(":/editor/beelden/keten.svg", "Keten van kanaalelementen");
+  ZetBeeld(QString(":/editor/beelden/") + beeld->Naam + ".svg", beeld->Omschrijving);
 }
 
 void Tekening::ZetRuimte() {
-  ZetBeeld(Pad("ruimte"), "Vertrek");
+  ZetBeeld(":/editor/beelden/ruimte.svg", "Vertrek");
 }
 
 void Tekening::ZetBeeld(const QString& pad, const QString& omschrijving) {

@@ -13,8 +13,7 @@ namespace murvane {
 [[nodiscard]] QIcon Icoon(const QString& naam, const QPalette& palet);
 [[nodiscard]] QIcon Icoon(const QString& naam);
 
-/// The line drawing of an element type, of the room or of an estimate, in which the dimension of one field is
-/// lit.
+/// The line drawing of an element type, the room or an estimate, in which the dimension of one field is lit.
 class Tekening : public QWidget {
   Q_OBJECT
 

@@ -4,6 +4,7 @@
 
 #include <QCalendarWidget>
 #include <QComboBox>
+#include <QItemSelectionModel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QRadioButton>
@@ -109,7 +110,7 @@ class Lijstvak : public QListWidget {
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
-  [[nodiscard]] QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& rij,
+  [[nodiscard]] QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                                      const QEvent* event) const override;
 
  private:
