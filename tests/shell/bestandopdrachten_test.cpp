@@ -395,9 +395,9 @@ TEST_F(mnuNieuw, TakesTheDayOfTheStartAndNoFileName) {
 class mnuExit : public Bestandopdrachten {
  protected:
   mnuExit() {
-    programma_.Instellingen.LettertypeNaam = "Courier New";
-    programma_.Instellingen.LetterGrootte = 12;
-    programma_.Instellingen.KopStijl = -1;
+    programma_.Instellingen.Druk.LettertypeNaam = "Courier New";
+    programma_.Instellingen.Druk.LetterGrootte = 12;
+    programma_.Instellingen.Druk.KopStijl = -1;
     proef::Schrijf(Pad(), "oud");
   }
   [[nodiscard]] fs::path Pad() const { return map_ / "data één" / "murvane.set"; }
