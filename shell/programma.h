@@ -3,12 +3,15 @@
 // handed down by reference.
 
 #include <chrono>
+#include <cstdint>
 #include <filesystem>
 
 #include "basis/tekst.h"
 #include "calc/resultaten.h"
 #include "catalogue/catfiles.h"
 #include "project/records.h"
+#include "reports/grafiek.h"
+#include "reports/paginas.h"
 #include "reports/rapport.h"
 #include "shell/settings.h"
 
@@ -23,11 +26,14 @@ struct Programma {
   murvane::Catalogi Catalogi;
   murvane::Resultaten Resultaten;      ///< of the last run
   murvane::Rapport Rapport;            ///< of the last run
+  murvane::Grafiek Grafiek;            ///< as the last Grafiek2 filled it
+  std::int16_t KiesGrafiek = 0;        ///< kiesgrafiek: what the user chose to see in it
+  VoorbeeldStand Voorbeeld;            ///< of the preview
   murvane::Instellingen Instellingen;  ///< written by mnuExit_Click only
 
   std::filesystem::path DataDir;      ///< of murvane.set and the catalogues; fixed once the start is over
   std::filesystem::path OpenBestand;  ///< the project that the command line named, until it was opened
-  DatumVeld Vandaag;                      ///< the day of the start
+  DatumVeld Vandaag;                  ///< the day of the start
   char Decimaal = ',';                ///< the region's decimal sign
 
   /// The file name that stands in the file dialog: the one chosen last, or the project that was opened. The

@@ -470,6 +470,7 @@ TEST_F(mnuExit, TellsOfADirectoryThatMayNotBeEntered) {
       std::string Invoer(const InvoerVraag&) override { return {}; }
       fs::path OpenDialoog(const BestandVraag&) override { return {}; }
       fs::path OpslaanDialoog(const BestandVraag&) override { return {}; }
+      AfdrukKeuze AfdrukDialoog(const AfdrukVraag&) override { return {}; }
       void Wachten(bool) override {}
       Melding& melding;
     } stil(gezien);
