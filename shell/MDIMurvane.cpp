@@ -7,8 +7,12 @@
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QProcess>
+#include <QStandardPaths>
 #include <QStatusBar>
 #include <map>
+#include <optional>
+#include <string>
 
 #include "basis/vensters_hulp.h"
 #include "calc/reken.h"
@@ -87,20 +91,46 @@ void MDIMurvane::MaakMenu() {
   Verbind("mnuVent", &MDIMurvane::mnuVent);
   Verbind("mnuUitstraling", &MDIMurvane::mnuUitstraling);
   Verbind("mnuOverspraak", &MDIMurvane::mnuOverspraak);
+  Verbind("mnuCalc", &MDIMurvane::mnuCalc);
+  QMenu* const vensters = menus.at("mnuVenster");
+  connect(vensters, &QMenu::aboutToShow, this, [this, vensters] { VulVensterMenu(*vensters); });
 }
 
 void MDIMurvane::Verbind(std::string_view naam, void (MDIMurvane::*opdracht)()) {
   auto* actie = findChild<QAction*>(Naam(naam));
   actie->setProperty("opdracht", true);
-  // Whatever a command raises is told, and the program runs on with the project open.
-  connect(actie, &QAction::triggered, this, [this, naam, opdracht] {
-    try {
-      (this->*opdracht)();
-    } catch (...) {
-      (void)dialogen_.Toon(OnverwachteFout(std::string(naam) + "_Click", "MDIMurvane", HuidigeFout()));
-    }
-    ToonToestand();
-  });
+  connect(actie, &QAction::triggered, this, [this, naam, opdracht] { Voer(std::string(naam), opdracht); });
+}
+
+/// Whatever a command raises is told, and the program runs on with the project open.
+void MDIMurvane::Voer(const std::string& naam, void (MDIMurvane::*opdracht)()) {
+  try {
+    (this->*opdracht)();
+  } catch (...) {
+    (void)dialogen_.Toon(OnverwachteFout(naam + "_Click", "MDIMurvane", HuidigeFout()));
+  }
+  ToonToestand();
+}
+
+/// The menu of the windows that are open: the project first.
+void MDIMurvane::VulVensterMenu(QMenu& menu) {
+  menu.clear();
+  for (QMdiSubWindow* const kader : gebied_->subWindowList(QMdiArea::CreationOrder)) {
+    const bool isProject = kader->widget() == project_;
+    QAction* const actie = menu.addAction(isProject ? QString("Project") : kader->windowTitle());
+    actie->setCheckable(true);
+    actie->setChecked(kader == gebied_->activeSubWindow());
+    connect(actie, &QAction::triggered, gebied_, [this, kader] { gebied_->setActiveSubWindow(kader); });
+  }
+}
+
+/// Starts the desktop's own calculator: the first one there is. That there is none is no matter.
+void MDIMurvane::mnuCalc() {
+  for (const char* const naam : {"calc.exe", "gnome-calculator", "kcalc", "mate-calc", "xfce4-calculator",
+                                 "lxqt-calculator", "galculator", "qalculate-gtk", "qalculate-qt", "xcalc"}) {
+    if (const QString pad = QStandardPaths::findExecutable(naam); !pad.isEmpty())
+      return static_cast<void>(QProcess::startDetached(pad, {}));
+  }
 }
 
 void MDIMurvane::MaakStatusbalk() {
@@ -175,37 +205,43 @@ void MDIMurvane::mnuOpen() {
 
 void MDIMurvane::OpenVanOpdrachtregel() {
   if (programma_.OpenBestand.empty()) return;
-  mnuOpen();
-  ToonToestand();
+  Voer("mnuOpen", &MDIMurvane::mnuOpen);
 }
 
 void MDIMurvane::mnuReken() {
   try {
-    if (!project_->NeemOverEnBeoordeel()) return;
-    const Zandloper zandloper(dialogen_);
-    const int aantal = programma_.Project.ElementCount;
-    project_->ZetVoortgang(aantal, aantal);
-    Reken(programma_.Project, programma_.Resultaten, programma_.Decimaal);
-    Afdruk(programma_.Project, programma_.Resultaten, programma_.Instellingen.Gebruikersnaam,
-           programma_.Decimaal, programma_.Rapport);
+    if (project_->NeemOverEnBeoordeel()) Reken();
   } catch (...) {
     project_->ZetVoortgang(0, 0);
     (void)dialogen_.Toon(OnverwachteFout("Reken", "frmMurvane", HuidigeFout()));
-    return;
   }
-  resultaat_ = new frmResultaat(programma_.Rapport);
-  auto* kader = gebied_->addSubWindow(resultaat_);
-  kader->setAttribute(Qt::WA_DeleteOnClose);
+}
+
+/// The run of a project that passed the checks, up to its result window.
+void MDIMurvane::Reken() {
+  std::optional<Zandloper> zandloper(dialogen_);
+  const int aantal = programma_.Project.ElementCount;
+  project_->ZetVoortgang(0, aantal);
+  murvane::Reken(programma_.Project, programma_.Resultaten, programma_.Decimaal,
+                 [&](int element) { project_->ZetVoortgang(element, aantal); });
+  Afdruk(programma_.Project, programma_.Resultaten, programma_.Instellingen.Gebruikersnaam,
+         programma_.Decimaal, programma_.Rapport);
+  QMdiSubWindow* const kader = LaadResultaat();
   Voer(Berekend(project_->DeSessie(), vlag::Berekend, ""));
+  zandloper.reset();
   project_->ZetVoortgang(0, 0);
   kader->showMaximized();
 }
 
+QMdiSubWindow* MDIMurvane::LaadResultaat() {
+  resultaat_ = new frmResultaat(programma_.Rapport);
+  QMdiSubWindow* const kader = gebied_->addSubWindow(resultaat_);
+  kader->setAttribute(Qt::WA_DeleteOnClose);
+  return kader;
+}
+
 void MDIMurvane::mnuPreview() {
-  if (resultaat_ == nullptr) {
-    resultaat_ = new frmResultaat(programma_.Rapport);
-    gebied_->addSubWindow(resultaat_)->setAttribute(Qt::WA_DeleteOnClose);
-  }
+  if (resultaat_ == nullptr) (void)LaadResultaat();
   auto* kader = qobject_cast<QMdiSubWindow*>(resultaat_->parentWidget());
   kader->showMaximized();
   gebied_->setActiveSubWindow(kader);
@@ -216,7 +252,7 @@ void MDIMurvane::mnuSluiten() {
 }
 
 void MDIMurvane::mnuOpslaan() {
-  project_->BewaarVeld();
+  if (!project_->BewaarVeld()) return;
   if (OpSlag(programma_, dialogen_) == OpslagUitkomst::Gesloten) SluitHetProject();
 }
 
@@ -244,8 +280,9 @@ void MDIMurvane::mnuOverspraak() {
 
 void MDIMurvane::closeEvent(QCloseEvent* gebeurtenis) {
   if (!einde_) {
-    project_->BewaarVeld();
-    einde_ = Form_Unload(programma_, dialogen_, ProjectOpen(project_->DeSessie())) == Vervolg::Einde;
+    const auto bewaarVeld = [this] { return project_->BewaarVeld(); };
+    einde_ =
+        Form_Unload(programma_, dialogen_, ProjectOpen(project_->DeSessie()), bewaarVeld) == Vervolg::Einde;
   }
   gebeurtenis->setAccepted(einde_);
 }

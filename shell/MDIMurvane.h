@@ -3,6 +3,7 @@
 
 #include <QMainWindow>
 #include <QPointer>
+#include <string>
 #include <string_view>
 
 #include "editor/dialogen.h"
@@ -11,6 +12,8 @@
 
 class QLabel;
 class QMdiArea;
+class QMdiSubWindow;
+class QMenu;
 
 namespace murvane {
 
@@ -34,6 +37,8 @@ class MDIMurvane : public QMainWindow {
   void MaakMenu();
   void MaakStatusbalk();
   void Verbind(std::string_view naam, void (MDIMurvane::*opdracht)());
+  void Voer(const std::string& naam, void (MDIMurvane::*opdracht)());
+  void VulVensterMenu(QMenu& menu);
 
   void mnuNieuw();
   void mnuOpen();
@@ -46,7 +51,10 @@ class MDIMurvane : public QMainWindow {
   void mnuVent();
   void mnuUitstraling();
   void mnuOverspraak();
+  void mnuCalc();
 
+  void Reken();
+  QMdiSubWindow* LaadResultaat();
   void Voer(const Gevolg& gevolg);
   void SluitVensters();
   void ToonToestand();

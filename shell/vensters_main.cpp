@@ -1,9 +1,6 @@
 // The program murvane.
 
-#include <QApplication>
-#include <QLibraryInfo>
 #include <QLocale>
-#include <QStringList>
 #include <QTranslator>
 #include <chrono>
 #include <filesystem>
@@ -13,21 +10,10 @@
 #include "shell/MDIMurvane.h"
 #include "shell/opstart.h"
 #include "shell/startup.h"
+#include "shell/vensters_taal.h"
+#include "shell/vensters_toepassing.h"
 
 namespace {
-
-/// Dutch for the toolkit's own texts, whatever the system language: beside the program first.
-bool LaadVertaling(QTranslator& vertaling) {
-  const QStringList mappen = {QCoreApplication::applicationDirPath() + "/translations",
-                              QCoreApplication::applicationDirPath(),
-                              QLibraryInfo::path(QLibraryInfo::TranslationsPath)};
-  for (const QString& map : mappen) {
-    for (const auto* naam : {"qt_nl", "qtbase_nl"}) {
-      if (vertaling.load(naam, map) && !vertaling.isEmpty()) return true;
-    }
-  }
-  return false;
-}
 
 std::chrono::year_month_day Vandaag() {
   const QDate datum = QDate::currentDate();
@@ -39,14 +25,15 @@ std::chrono::year_month_day Vandaag() {
 
 int main(int argc, char** argv) {
   const char decimaal = murvane::RegionaalDecimaalteken();
-  QApplication toepassing(argc, argv);
+  murvane::Toepassing toepassing(argc, argv);
   QApplication::setApplicationName("MurVane");
   QLocale::setDefault(QLocale(QLocale::Dutch, QLocale::Netherlands));
   QTranslator vertaling;
-  if (LaadVertaling(vertaling)) QCoreApplication::installTranslator(&vertaling);
+  if (murvane::LaadVertaling(vertaling)) QCoreApplication::installTranslator(&vertaling);
 
   murvane::Programma programma;
-  murvane::SchermDialogen dialogen(nullptr);
+  murvane::SchermDialogen dialogen;
+  toepassing.ZetDialogen(&dialogen);
   const std::string opdrachtregel = QApplication::arguments().mid(1).join(' ').toStdString();
   std::error_code geen;
   const murvane::StartGegevens start{std::filesystem::current_path(geen), murvane::DatumTekst(Vandaag()),
