@@ -82,6 +82,7 @@ class frmMurvane : public QWidget {
 
   // frmMurvane_opbouw.cpp: the controls
   void BouwOp();
+  void BouwTabs();
   QWidget* BouwVentilator();
   QWidget* BouwFanLijst();
   QWidget* BouwFanPrognose();
@@ -97,12 +98,14 @@ class frmMurvane : public QWidget {
   QWidget* BouwRuimte();
   QWidget* BouwProject();
   QWidget* BouwDatum();
+  void BouwKalender();
   InvoerVeld* VoegVeld(QGridLayout* indeling, int rij, VeldId veld, const QString& tekst,
                        const QString& eenheid, const char* labels, int kolom = 0);
   BandRij* VoegBanden(std::string_view naam, int eerste, const QString& tekst);
   QLabel* MaakLabel(const QString& tekst, const char* reeks, QWidget* buddy);
   QLabel* BandLabel(const QString& tekst, const char* reeks, const BandRij* rij);
   void MeldAan(InvoerVeld* veld);
+  void VerbindTabs();
   void VerbindFan();
   void VerbindLijsten();
   void VerbindKeuzes();
@@ -123,6 +126,7 @@ class frmMurvane : public QWidget {
   void PasToe(const VeldUitslag& uitslag);  ///< shows it; an invalid field gets the focus back
   void ZetZichtbaar(VeldId veld, bool zichtbaar);
   bool GaNaar(const QString& naam);
+  void WandelTab(int richting);
   [[nodiscard]] bool Bewaar(bool ookRDI);
   [[nodiscard]] bool IsGeldig(const InvoerVeld& veld) const;
 
