@@ -69,9 +69,9 @@ const std::vector<Tekening>& Tekeningen() {
   return tabel;
 }
 
-const std::vector<std::string> Pictogrammen = {"berekend", "grafiek",   "invoegen",  "kalender",
-                                               "omhoog",   "omlaag",    "opslaan",   "pdf",
-                                               "printen",  "toevoegen", "voorbeeld", "wissen"};
+const std::vector<std::string> Pictogrammen = {
+    "begin",   "berekend", "eind",    "grafiek", "invoegen",  "kalender", "omhoog",    "omlaag",
+    "opslaan", "pdf",      "printen", "terug",   "toevoegen", "volgende", "voorbeeld", "wissen"};
 
 using Kenmerken = std::map<std::string, std::string>;
 
