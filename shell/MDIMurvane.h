@@ -20,6 +20,7 @@ class QMenu;
 namespace murvane {
 
 class frmMurvane;
+class frmPreView;
 class frmResultaat;
 
 class MDIMurvane : public QMainWindow {
@@ -54,6 +55,17 @@ class MDIMurvane : public QMainWindow {
   void mnuUitstraling();
   void mnuOverspraak();
   void mnuCalc();
+  void mnuAfdrukken();
+  void mnuLetterType();
+
+  // The buttons of the result window and the preview.
+  void Toolbar1_Opslaan();
+  void Toolbar1_Grafiek();
+  void Toolbar1_preview();
+  void Toolbar1_PDF();
+  void Toolbar1_save();
+  void VerbindResultaat(frmResultaat& venster);
+  void LaadPreView();
 
   void Reken();
   QMdiSubWindow* LaadResultaat();
@@ -67,6 +79,7 @@ class MDIMurvane : public QMainWindow {
   QMdiArea* gebied_;
   frmMurvane* project_;
   QPointer<frmResultaat> resultaat_;
+  QPointer<frmPreView> preview_;
   std::map<std::string_view, QAction*> acties_;  ///< by name; the names of MenuBalk
   QLabel* beeld_ = nullptr;
   QLabel* paneel1_ = nullptr;
