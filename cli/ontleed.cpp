@@ -99,7 +99,7 @@ void NeemWaarden(Keuzes& keuzes, const CliOpties& opties) {
   const auto woord = std::find_if_not(rest.begin(), rest.end(), IsOptie);
   if (woord == rest.end())
     throw Gebruiksfout(rest.empty() ? "Geen opdracht opgegeven." : "Onbekende optie: " + rest[0]);
-  if (*woord == "catalogus") throw Gebruiksfout("Achter catalogus hoort toon of maak.");
+  if (*woord == "catalogus") throw Gebruiksfout("Achter catalogus hoort toon, maak of sorteer.");
   throw Gebruiksfout("Onbekende opdracht: " + *woord);
 }
 

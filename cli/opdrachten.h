@@ -24,6 +24,8 @@ namespace murvane {
 [[nodiscard]] int VoerMaak(const Keuzes& keuzes, Kanalen& kanalen);
 [[nodiscard]] int VoerCatalogusToon(const Keuzes& keuzes, Kanalen& kanalen);
 [[nodiscard]] int VoerCatalogusMaak(const Keuzes& keuzes, Kanalen& kanalen);
+[[nodiscard]] int VoerCatalogusSorteer(const Keuzes& keuzes, Kanalen& kanalen);
+[[nodiscard]] int VoerOverzicht(const Keuzes& keuzes, Kanalen& kanalen);
 
 /// The decimal sign: --decimaal, else that of the regional setting.
 [[nodiscard]] char Decimaalteken(const Keuzes& keuzes);

@@ -13,7 +13,17 @@
 namespace murvane {
 
 /// The commands. Programma stands for a command line without one.
-enum class Opdracht : std::uint8_t { Programma, Reken, Controleer, Toon, Maak, CatalogusToon, CatalogusMaak };
+enum class Opdracht : std::uint8_t {
+  Programma,
+  Reken,
+  Controleer,
+  Toon,
+  Maak,
+  CatalogusToon,
+  CatalogusMaak,
+  CatalogusSorteer,
+  Overzicht
+};
 
 struct OpdrachtRegel {
   Opdracht Code;
@@ -50,6 +60,16 @@ inline constexpr std::array Opdrachten = {
     OpdrachtRegel{Opdracht::CatalogusMaak, "catalogus maak", "BESTAND.json", false,
                   "maakt een catalogus uit JSON",
                   "Maakt een catalogusbestand uit JSON. De soort volgt uit de lijst in de JSON."},
+    OpdrachtRegel{
+        Opdracht::CatalogusSorteer, "catalogus sorteer", "BESTAND.dat", false,
+        "sorteert een catalogus op naam",
+        "Sorteert een catalogus op naam, zoals het venster ervan dat doet, en bewaart haar onder de "
+        "naam achter -o, die dezelfde mag zijn. De elf ingebouwde kanaalelementen blijven op hun "
+        "plaats. De soort volgt als bij catalogus toon."},
+    OpdrachtRegel{Opdracht::Overzicht, "overzicht", "SOORT", false, "toont het overzicht van een catalogus",
+                  "Toont het overzicht van een catalogus; SOORT is kanaalelementen, ventilatoren, "
+                  "luchtkanalen of plafonds. Met -o komen de bytes van het bewaarde overzicht (Windows-1252) "
+                  "in het bestand."},
 };
 
 enum class Optie : std::uint8_t {
@@ -60,6 +80,8 @@ enum class Optie : std::uint8_t {
   UitvoerToon,
   UitvoerMaak,
   Soort,
+  Zoek,
+  Datum,
   Data,
   Decimaal,
   Versie,
@@ -67,14 +89,14 @@ enum class Optie : std::uint8_t {
 };
 
 /// The commands that know an option, a bit for each.
-using Opdrachtenset = std::uint8_t;
+using Opdrachtenset = std::uint32_t;
 
 constexpr Opdrachtenset Bij(std::initializer_list<Opdracht> opdrachten) {
   unsigned uit = 0;
   for (const Opdracht opdracht : opdrachten) uit |= 1U << static_cast<unsigned>(opdracht);
   return static_cast<Opdrachtenset>(uit);
 }
-inline constexpr Opdrachtenset BijAlle = 0x7F;
+inline constexpr Opdrachtenset BijAlle = ~Opdrachtenset{0};
 
 struct OptieRegel {
   Optie Code;
@@ -95,12 +117,16 @@ inline constexpr std::array Opties = {
                "schrijft van elk project NAAM.prn en NAAM.json in deze map, die zo nodig wordt gemaakt"},
     OptieRegel{Optie::Taken, Bij({Opdracht::Reken}), "--taken", "AANTAL", false,
                "rekent met --uit aan zoveel projecten tegelijk; zonder deze optie met alle processorkernen"},
-    OptieRegel{Optie::UitvoerToon, Bij({Opdracht::Toon, Opdracht::CatalogusToon}), "-o", "BESTAND", false,
-               "schrijft naar dit bestand in plaats van naar de standaarduitvoer"},
-    OptieRegel{Optie::UitvoerMaak, Bij({Opdracht::Maak, Opdracht::CatalogusMaak}), "-o", "BESTAND", true,
-               "het bestand dat wordt geschreven; een - is de standaarduitvoer"},
-    OptieRegel{Optie::Soort, Bij({Opdracht::CatalogusToon}), "--soort", "SOORT", false,
-               "kanaalelementen, ventilatoren, luchtkanalen of plafonds; gaat voor de bestandsnaam"},
+    OptieRegel{Optie::UitvoerToon, Bij({Opdracht::Toon, Opdracht::CatalogusToon, Opdracht::Overzicht}), "-o",
+               "BESTAND", false, "schrijft naar dit bestand in plaats van naar de standaarduitvoer"},
+    OptieRegel{Optie::UitvoerMaak, Bij({Opdracht::Maak, Opdracht::CatalogusMaak, Opdracht::CatalogusSorteer}),
+               "-o", "BESTAND", true, "het bestand dat wordt geschreven; een - is de standaarduitvoer"},
+    OptieRegel{Optie::Soort, Bij({Opdracht::CatalogusToon, Opdracht::CatalogusSorteer}), "--soort", "SOORT",
+               false, "kanaalelementen, ventilatoren, luchtkanalen of plafonds; gaat voor de bestandsnaam"},
+    OptieRegel{Optie::Zoek, Bij({Opdracht::Overzicht}), "--zoek", "TEKST", false,
+               "alleen wat deze tekst in zijn naam heeft, in hoofdletters of kleine letters"},
+    OptieRegel{Optie::Datum, Bij({Opdracht::Overzicht}), "--datum", "DD-MM-JJJJ", false,
+               "de datum op het overzicht; zonder deze optie die van vandaag"},
     OptieRegel{Optie::Data, BijAlle, "--data", "MAP", false,
                "de map van murvane.set; zonder deze optie de huidige map als die er een heeft, anders de map "
                "data van "

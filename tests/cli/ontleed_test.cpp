@@ -28,8 +28,8 @@ const Verkeerd Gevallen[] = {
     {{"Reken", "x.mrv"}, "Onbekende opdracht: Reken", ""},
     {{"bereken", "--prn", "x"}, "Onbekende opdracht: bereken", ""},
     {{"--taal"}, "Onbekende optie: --taal", ""},
-    {{"catalogus"}, "Achter catalogus hoort toon of maak.", ""},
-    {{"catalogus", "wis", "Fan.dat"}, "Achter catalogus hoort toon of maak.", ""},
+    {{"catalogus"}, "Achter catalogus hoort toon, maak of sorteer.", ""},
+    {{"catalogus", "wis", "Fan.dat"}, "Achter catalogus hoort toon, maak of sorteer.", ""},
     {{"reken"}, "PROJECT.mrv ontbreekt.", "reken "},
     {{"reken", "--"}, "PROJECT.mrv ontbreekt.", "reken "},
     {{"reken", ""}, "Een bestandsnaam is leeg.", "reken "},
@@ -135,7 +135,7 @@ TEST(Ontleed, TakesEveryOptionWithAValueInBothForms) {
       if (!Kent(optie, regel.Code) || regel.Code == Opdracht::Programma) continue;
       const std::string naam(EersteNaam(optie));
       Woorden kaal{"x"};
-      if (!optie.Verplicht && (regel.Code == Opdracht::Maak || regel.Code == Opdracht::CatalogusMaak))
+      if (!optie.Verplicht && Kent(RegelVan(Optie::UitvoerMaak), regel.Code))
         kaal.insert(kaal.end(), {"-o", "y"});
       Woorden los = kaal;
       los.insert(los.end(), {naam, waarde});
