@@ -1,6 +1,7 @@
 #include "basis/vensters_hulp.h"
 
 #include <QPalette>
+#include <QProgressBar>
 #include <QWidget>
 
 #include "basis/fout.h"
@@ -25,7 +26,8 @@ std::string NaarCp(const QString& tekst) {
 }
 
 QColor KleurVan(std::uint32_t bgr) {
-  return QColor(static_cast<int>(bgr & 0xFF), static_cast<int>(bgr >> 8 & 0xFF), static_cast<int>(bgr >> 16 & 0xFF));
+  return QColor(static_cast<int>(bgr & 0xFF), static_cast<int>(bgr >> 8 & 0xFF),
+                static_cast<int>(bgr >> 16 & 0xFF));
 }
 
 void ZetAchtergrond(QWidget& veld, std::uint32_t bgr) {
@@ -34,6 +36,17 @@ void ZetAchtergrond(QWidget& veld, std::uint32_t bgr) {
   palet.setColor(QPalette::Text, Qt::black);
   palet.setColor(QPalette::PlaceholderText, QColor(90, 90, 90));
   veld.setPalette(palet);
+}
+
+void KleurVoortgang(QProgressBar& balk) {
+  QPalette palet = balk.palette();
+  palet.setColor(QPalette::Highlight, KleurVan(0x808080));
+  palet.setColor(QPalette::HighlightedText, Qt::white);
+  palet.setColor(QPalette::Base, KleurVan(0xE0E0E0));
+  palet.setColor(QPalette::Window, KleurVan(0xE0E0E0));
+  palet.setColor(QPalette::Text, Qt::black);
+  palet.setColor(QPalette::WindowText, Qt::black);
+  balk.setPalette(palet);
 }
 
 }  // namespace murvane

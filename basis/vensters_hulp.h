@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+class QProgressBar;
 class QWidget;
 
 namespace murvane {
@@ -22,5 +23,8 @@ namespace murvane {
 
 /// Gives a field a fixed light background with dark text on it, whatever the theme.
 void ZetAchtergrond(QWidget& veld, std::uint32_t bgr);
+
+/// The colours of every progress bar: dark grey on light grey, whatever the theme.
+void KleurVoortgang(QProgressBar& balk);
 
 }  // namespace murvane

@@ -89,9 +89,10 @@ void TussenResult(const Project& project, int i, Resultaten& r) {
   niveau[SomPlaats] = t == 0 ? 0 : 10 * Log10(t);
 }
 
-void Reken(Project& project, Resultaten& r, char decimaal) {
+void Reken(Project& project, Resultaten& r, char decimaal, const std::function<void(int)>& voortgang) {
   if (project.ElementCount > MaxElementen) throw Fout(FoutNummer::IndexBuitenBereik);
   for (int i = 1; i <= project.ElementCount; ++i) {
+    if (voortgang) voortgang(i);
     try {
       RekenElement(project, i, r, decimaal);
     } catch (const Fout& fout) {

@@ -2,6 +2,8 @@
 // The calculation run: the chain in flow order, its end, and the room. It works on the records handed to it
 // and on nothing else, so that several runs go side by side.
 
+#include <functional>
+
 #include "calc/resultaten.h"
 #include "project/records.h"
 
@@ -17,7 +19,9 @@ void TussenResult(const Project& project, int i, Resultaten& resultaten);
 /// `ruis`, `Instraling`, `ElRDI` and `ElRAantal` of the elements and the results. A fault in the arithmetic
 /// ends the run as Fout 5, 6, 9 or 11, with the element, the end of the chain or the room as its place;
 /// results written so far stay.
-/// `decimaal` is the decimal sign of the report texts.
-void Reken(Project& project, Resultaten& resultaten, char decimaal);
+/// `decimaal` is the decimal sign of the report texts. `voortgang`, where there is one, is told the number of
+/// each element before it is calculated.
+void Reken(Project& project, Resultaten& resultaten, char decimaal,
+           const std::function<void(int)>& voortgang = nullptr);
 
 }  // namespace murvane

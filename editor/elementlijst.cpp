@@ -227,7 +227,9 @@ LijstUitkomst Insert(Elementlijst& lijst, Project& project, const ElementCatalog
   std::move_backward(Plaats(project, n), Plaats(project, lengte + 1), Plaats(project, lengte + 2));
   ZetLengte(project, lengte + 1);
   MaakElement(project, n, lijst, catalogus);
-  return KetenGewijzigd(lijst, project, n - 1, Vulling::Opnieuw, AanroepNummer("Insert"));
+  LijstUitkomst uit = KetenGewijzigd(lijst, project, n - 1, Vulling::Opnieuw, AanroepNummer("Insert"));
+  uit.BerekendEerst = true;
+  return uit;
 }
 
 LijstUitkomst lstProject_DblClick(const Elementlijst& lijst) {

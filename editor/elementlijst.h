@@ -55,9 +55,10 @@ struct LijstUitkomst {
   int Accepteer = 0;                          ///< number of the element to Accept from the page in view
   std::optional<murvane::Melding> Melding;    ///< box to show
   Vulling lstProject = Vulling::Ongewijzigd;  ///< RijErbij: RijProject of the last element, at the end
-  int Open = 0;               ///< number of the element whose page is filled, shaped and given the focus
-  std::string Paneel3;        ///< new text of the status bar's panel 3
-  std::string_view Berekend;  ///< call Berekend with false and this number
+  int Open = 0;                ///< number of the element whose page is filled, shaped and given the focus
+  std::string Paneel3;         ///< new text of the status bar's panel 3
+  std::string_view Berekend;   ///< call Berekend with false and this number
+  bool BerekendEerst = false;  ///< before the element is opened
 
   friend bool operator==(const LijstUitkomst&, const LijstUitkomst&) = default;
 };

@@ -61,6 +61,11 @@ QDate DatumVan(const std::string& tekst) {
   return QDate::fromString(VanCp(Trim(tekst)), "dd-MM-yyyy");
 }
 
+/// A handler's name for the box of a failure.
+std::string Procedure(const InvoerVeld& veld, const char* gebeurtenis) {
+  return std::string(veld.Veld().Naam) + gebeurtenis;
+}
+
 void KleurLijst(Lijstvak& vak, bool actief) {
   QPalette palet;
   vak.setPalette(palet);
@@ -89,6 +94,7 @@ frmMurvane::frmMurvane(Project& project, const Catalogi& catalogi, Dialogen& dia
 // ---- The records on screen ----
 
 void frmMurvane::ToonProject(bool isNieuwOfGeopend) {
+  BouwTabs();
   const QScopedValueRollback<bool> vult(vult_, true);
   const VensterBeeld beeld = TabSettings(project_, catalogi_, decimaal_);
   VulVelden(beeld);
@@ -98,9 +104,10 @@ void frmMurvane::ToonProject(bool isNieuwOfGeopend) {
   ToonRuimte(beeld.Ruimte);
   ToonType();
   ToonLijsten();
-  MonthView->hide();
+  if (MonthView != nullptr) MonthView->hide();
   SSTab1->show();
   if (isNieuwOfGeopend) {
+    laatsteFan_ = 0;  // a fan of the list that was chosen for another project
     SSTab1->setCurrentIndex(static_cast<int>(StartPagina));
     Vak({"txtProNum"})->setFocus();
   }
@@ -111,18 +118,16 @@ void frmMurvane::ToonGeenProject() {
   const QScopedValueRollback<bool> vult(vult_, true);
   SSTab1->hide();
   ProgressBar1->hide();
-  SSTab2->hide();
-  tekening_->hide();
-  MonthView->hide();
-  lblLwA->clear();
+  if (SSTab1->count() > 0) {
+    SSTab2->hide();
+    tekening_->hide();
+    lblLwA->clear();
+  }
+  if (MonthView != nullptr) MonthView->hide();
   emit ToestandGewijzigd();
 }
 
 void frmMurvane::VulVelden(const VensterBeeld& beeld) {
-  for (const auto& [sleutel, vak] : velden_) {
-    vak->ZetKleur(VeldKleur);
-    vak->setToolTip({});
-  }
   for (const InvoerPlaats& plaats : Plaatsen) ZetTekst({{plaats.Naam}, beeld.Velden.*plaats.Lid});
   for (int band = 0; band < Banden; ++band) {
     const auto i = static_cast<std::size_t>(band);
@@ -146,6 +151,7 @@ void frmMurvane::VulLijsten(const VensterBeeld& beeld) {
 }
 
 void frmMurvane::VulCatalogi() {
+  BouwTabs();
   const QScopedValueRollback<bool> vult(vult_, true);
   const VensterBeeld beeld = TabSettings(project_, catalogi_, decimaal_);
   lstTotaalGevuld(lijst_);
@@ -233,7 +239,10 @@ std::string frmMurvane::TekstVan(VeldId veld) const {
 }
 
 void frmMurvane::ZetTekst(const VeldTekst& tekst) {
-  Vak(tekst.Veld)->setText(VanCp(tekst.Tekst));
+  InvoerVeld* const vak = Vak(tekst.Veld);
+  vak->setText(VanCp(tekst.Tekst));
+  vak->ZetKleur(VeldKleur);  // what the program puts in a box is right
+  vak->setToolTip({});
 }
 
 void frmMurvane::ZetTeksten(const std::vector<VeldTekst>& teksten) {
@@ -246,7 +255,7 @@ void frmMurvane::ZetLwA(const std::optional<std::string>& tekst) {
 
 void frmMurvane::Gewijzigd(InvoerVeld& veld) {
   if (vult_) return;
-  Veilig("Change", [&] {
+  Veilig(Procedure(veld, "_Change"), [&] {
     const VeldGevolg gevolg = VeldGewijzigd(veld.Veld());
     ZetTeksten(gevolg.Zet);
     ZetLwA(gevolg.lblLwA);
@@ -256,19 +265,23 @@ void frmMurvane::Gewijzigd(InvoerVeld& veld) {
 
 void frmMurvane::Verlaat(InvoerVeld& veld) {
   if (vult_ || (terugNaar_ != nullptr && terugNaar_ != &veld)) return;
-  Veilig("LostFocus", [&] {
+  Veilig(Procedure(veld, "_LostFocus"), [&] {
     PasToe(
         VerlaatVeld(project_, lijst_.HuidigElement, veld.Veld(), NaarCp(veld.text()), vandaag_, decimaal_));
   });
 }
 
-void frmMurvane::PasToe(const VeldUitslag& uitslag) {
+void frmMurvane::Toon(const VeldUitslag& uitslag) {
   InvoerVeld* const vak = Vak(uitslag.Veld);
   ZetTekst({uitslag.Veld, uitslag.Tekst});
-  if (!vak->isReadOnly()) vak->ZetKleur(uitslag.Achtergrond);
+  vak->ZetKleur(uitslag.Achtergrond);
   vak->setToolTip(VanCp(uitslag.ToolTip));
   ZetLwA(uitslag.lblLwA);
-  if (!uitslag.Geldig) GaTerug(vak);
+}
+
+void frmMurvane::PasToe(const VeldUitslag& uitslag) {
+  Toon(uitslag);
+  if (!uitslag.Geldig) GaTerug(Vak(uitslag.Veld));
 }
 
 /// The focus can only be given back once the control that is getting it has it. Until then other fields are
@@ -288,11 +301,14 @@ void frmMurvane::NaarVolgende(const InvoerVeld& veld) {
     const auto vak = velden_.find({id.Naam, id.Index});
     return vak == velden_.end() || !vak->second->isHidden();
   };
-  if (const auto volgende = VolgendVeld(veld.Veld(), beschikbaar)) GaNaar(ObjectNaam(*volgende));
+  Veilig(Procedure(veld, "_KeyDown"), [&] {
+    if (const auto volgende = VolgendVeld(veld.Veld(), beschikbaar)) GaNaar(ObjectNaam(*volgende));
+  });
 }
 
 void frmMurvane::Herstel(InvoerVeld& veld) {
-  veld.setText(VanCp(HerstelTekst(project_, lijst_.HuidigElement, veld.Veld(), decimaal_)));
+  Veilig(Procedure(veld, "_KeyDown"),
+         [&] { veld.setText(VanCp(HerstelTekst(project_, lijst_.HuidigElement, veld.Veld(), decimaal_))); });
   veld.setToolTip({});
   veld.selectAll();
 }
@@ -302,21 +318,31 @@ bool frmMurvane::GaNaar(const QString& naam) {
   auto* const doel = naam.isEmpty() ? nullptr : findChild<QWidget*>(naam);
   if (doel == nullptr) return false;
   for (int blad = 0; blad < SSTab1->count(); ++blad) {
-    if (SSTab1->widget(blad)->isAncestorOf(doel)) SSTab1->setCurrentIndex(blad);
+    if (!SSTab1->widget(blad)->isAncestorOf(doel)) continue;
+    if (!SSTab1->isTabEnabled(blad)) return false;  // the fan's boxes between two rooms
+    SSTab1->setCurrentIndex(blad);
   }
   if (!doel->isVisibleTo(SSTab1) || !doel->isEnabled()) return false;
   doel->setFocus(Qt::OtherFocusReason);
   return true;
 }
 
-void frmMurvane::BewaarVeld() {
-  (void)IsGeldigNaBewaren();
+bool frmMurvane::IsGeldig(const InvoerVeld& veld) const {
+  return ValiDate(NaarCp(veld.text()), Regel(veld.Veld()), vandaag_, decimaal_).Geldig;
 }
 
-bool frmMurvane::IsGeldigNaBewaren() {
+bool frmMurvane::BewaarVeld() {
+  return Bewaar(true);
+}
+
+/// A run takes the directivity factor as it was typed; only leaving its box snaps it.
+bool frmMurvane::Bewaar(bool ookRDI) {
   QWidget* const focus = focusWidget();
   if (focus == nullptr || !focus->isVisibleTo(this)) return true;
-  if (auto* const veld = qobject_cast<InvoerVeld*>(focus)) Verlaat(*veld);
+  if (auto* const veld = qobject_cast<InvoerVeld*>(focus)) {
+    const bool zoAls = !ookRDI && veld->Veld().Naam == "txtRDI" && IsGeldig(*veld);
+    if (!zoAls) Verlaat(*veld);
+  }
   if (auto* const keuze = qobject_cast<Keuzevak*>(focus)) emit keuze->Verlaten();
   return terugNaar_ == nullptr;
 }
@@ -340,8 +366,9 @@ void frmMurvane::VoerUit(const LijstUitkomst& uitkomst) {
     lstProject->VoegRij(VanCp(TrimRechts(RijProject(project_, project_.ElementCount))));
   if (uitkomst.lstProject == Vulling::Opnieuw) lstProject->ZetRijen(Rijen(RijenProject(project_)));
   ToonLijsten();
+  if (uitkomst.BerekendEerst) RoepBerekend(uitkomst.Berekend);
   if (uitkomst.Open > 0) Open(uitkomst.Open);
-  if (!uitkomst.Berekend.empty()) RoepBerekend(uitkomst.Berekend);
+  if (!uitkomst.BerekendEerst && !uitkomst.Berekend.empty()) RoepBerekend(uitkomst.Berekend);
   emit ToestandGewijzigd();
 }
 
@@ -382,7 +409,10 @@ void frmMurvane::Open(int n) {
 }
 
 void frmMurvane::VoerUit(const FanUitslag& uitslag) {
-  for (const VeldUitslag& veld : uitslag.Velden) PasToe(veld);
+  for (const VeldUitslag& veld : uitslag.Velden) {
+    Toon(veld);
+    if (!veld.Geldig && !uitslag.Focus) GaTerug(Vak(veld.Veld));
+  }
   ZetTeksten(uitslag.Zet);
   ZetLwA(uitslag.lblLwA);
   ToonFan(uitslag.Zicht);
@@ -402,8 +432,8 @@ void frmMurvane::VoerUit(const RuimteUitslag& uitslag) {
 
 void frmMurvane::VoerUit(Keuzevak& vak, const KeuzeUitslag& uitslag) {
   if (uitslag.Tekst) vak.ZetTekst(VanCp(*uitslag.Tekst));
-  ZetTeksten(uitslag.Zet);
   if (!uitslag.Berekend.empty()) RoepBerekend(uitslag.Berekend);
+  ZetTeksten(uitslag.Zet);
 }
 
 // ---- Events ----
@@ -414,6 +444,7 @@ void frmMurvane::TotaalToets(int toets) {
 }
 
 void frmMurvane::ProjectToets(int toets) {
+  if (toets == Qt::Key_Return) emit lstProject->Geklikt(lstProject->currentRow());
   if (toets == Qt::Key_Delete) Wis();
 }
 
@@ -439,11 +470,12 @@ void frmMurvane::Wis() {
 }
 
 void frmMurvane::Verplaats(int toets) {
+  if (Houdt()) return;
   Veilig("UpDown", [&] { VoerUit(UpDown(lijst_, project_, toets)); });
 }
 
 void frmMurvane::KnopKlik(const Toolbarknop& knop) {
-  if (!IsGeldigNaBewaren()) return;
+  if (!BewaarVeld()) return;
   if (knop.Sleutel == "Add") Voegtoe();
   if (knop.Sleutel == "Prop") Voegin();
   if (knop.Sleutel == "Delete") Wis();
@@ -452,13 +484,19 @@ void frmMurvane::KnopKlik(const Toolbarknop& knop) {
 }
 
 void frmMurvane::FanOK() {
+  if (Houdt()) return;
   std::array<std::string, FanVakken> teksten;
   for (int i = 0; i < FanVakken; ++i) teksten[static_cast<std::size_t>(i)] = TekstVan({"txtfan", i});
   Veilig("cmdFanOK_Click", [&] { VoerUit(cmdFanOK_Click(project_, teksten, decimaal_)); });
 }
 
 void frmMurvane::Image1_Click() {
+  if (MonthView == nullptr) BouwKalender();
   if (!MonthView->isHidden()) return MonthView->hide();
+  Veilig("Image1_Click", [this] { ToonKalender(); });
+}
+
+void frmMurvane::ToonKalender() {
   const QDate datum = DatumVan(TekstVan({"txtMyDate"}));
   MonthView->setSelectedDate(datum.isValid() ? datum : DatumVan(vandaag_));
   MonthView->resize(MonthView->sizeHint());
@@ -470,18 +508,22 @@ void frmMurvane::Image1_Click() {
 
 void frmMurvane::MonthView_DateClick(const QDate& datum) {
   if (MonthView->isHidden()) return;
-  Vak({"txtMyDate"})->setText(datum.toString("dd-MM-yyyy"));
-  GaNaar("txtMyDate");
-  MonthView->hide();
+  Veilig("MonthView_DateClick", [&] {
+    ZetTekst({{"txtMyDate"}, NaarCp(datum.toString("dd-MM-yyyy"))});
+    GaNaar("txtMyDate");
+    MonthView->hide();
+  });
 }
 
 void frmMurvane::KiesType(std::int16_t rekenType) {
-  Veilig("KiesRekenType", [&] {
+  if (!BewaarVeld()) return;
+  Veilig(std::string(TypeVan(rekenType).Menu) + "_Click", [&] {
+    BouwTabs();
     VoerUit(KiesRekenType(sessie_, project_, rekenType));
     ToonType();
+    SSTab1->setCurrentIndex(static_cast<int>(StartPagina));
     VoerUit(VrVldSet(project_));
     VormPagina();
-    SSTab1->setCurrentIndex(static_cast<int>(StartPagina));
   });
 }
 
@@ -497,20 +539,31 @@ bool frmMurvane::NeemOverEnBeoordeel() {
   std::optional<Bevinding> bevinding;
   {
     const Zandloper wacht(dialogen_);
-    if (!IsGeldigNaBewaren()) return false;
+    if (!Bewaar(false)) return false;
     if (lijst_.HuidigElement > 0 && !Accepteer(lijst_.HuidigElement)) return false;
     const ProjectInvoer invoer = LeesInvoer();
-    if (const auto ongeldig = OngeldigeLw(invoer)) {
+    const bool fanTab = SSTab1->isTabEnabled(static_cast<int>(Tab::Ventilator));
+    if (const auto ongeldig = OngeldigeLw(invoer); ongeldig && fanTab) {
       PasToe(*ongeldig);
       return false;
     }
     NeemOver(project_, invoer, decimaal_);
-    for (std::size_t i = EersteRuimte; i < Plaatsen.size(); ++i)
-      ZetTekst({{Plaatsen[i].Naam}, HerstelTekst(project_, 0, {Plaatsen[i].Naam}, decimaal_)});
+    ToonOvergenomen();
     bevinding = Beoordeel(project_);
   }
   if (bevinding) NaarRegel(*bevinding);
   return !bevinding;
+}
+
+/// What a run took over as the records have it: the room's boxes, and the open element's page, where what the
+/// element inherited stands in place of what was typed.
+void frmMurvane::ToonOvergenomen() {
+  for (std::size_t i = EersteRuimte; i < Plaatsen.size(); ++i)
+    ZetTekst({{Plaatsen[i].Naam}, HerstelTekst(project_, 0, {Plaatsen[i].Naam}, decimaal_)});
+  const QScopedValueRollback<bool> vult(vult_, true);
+  for (const VeldTekst& tekst : ProjectSettings(project_, lijst_.HuidigElement, decimaal_).Teksten) {
+    if (TekstVan(tekst.Veld) != tekst.Tekst) ZetTekst(tekst);
+  }
 }
 
 void frmMurvane::NaarRegel(const Bevinding& bevinding) {

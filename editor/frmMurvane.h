@@ -56,8 +56,9 @@ class frmMurvane : public QWidget {
   /// Shows the records; of a project just made or opened on its start page.
   void ToonProject(bool isNieuwOfGeopend);
   void ToonGeenProject();
-  /// Stores the field that has the focus, as leaving it does.
-  void BewaarVeld();
+  /// Stores the field that has the focus, as leaving it does. False when its text is invalid: the field is
+  /// red and keeps the focus, and a command that needs its value waits until it is right.
+  [[nodiscard]] bool BewaarVeld();
   /// Takes the fields over and judges the project; when it may not be calculated, tells why and goes to where
   /// the user has to look.
   [[nodiscard]] bool NeemOverEnBeoordeel();
@@ -81,6 +82,7 @@ class frmMurvane : public QWidget {
 
   // frmMurvane_opbouw.cpp: the controls
   void BouwOp();
+  void BouwTabs();
   QWidget* BouwVentilator();
   QWidget* BouwFanLijst();
   QWidget* BouwFanPrognose();
@@ -96,6 +98,7 @@ class frmMurvane : public QWidget {
   QWidget* BouwRuimte();
   QWidget* BouwProject();
   QWidget* BouwDatum();
+  void BouwKalender();
   InvoerVeld* VoegVeld(QGridLayout* indeling, int rij, VeldId veld, const QString& tekst,
                        const QString& eenheid, const char* labels, int kolom = 0);
   BandRij* VoegBanden(std::string_view naam, int eerste, const QString& tekst);
@@ -118,10 +121,12 @@ class frmMurvane : public QWidget {
   void ZetLwA(const std::optional<std::string>& tekst);
   void ZetTekst(const VeldTekst& tekst);
   void ZetTeksten(const std::vector<VeldTekst>& teksten);
-  void PasToe(const VeldUitslag& uitslag);
+  void Toon(const VeldUitslag& uitslag);
+  void PasToe(const VeldUitslag& uitslag);  ///< shows it; an invalid field gets the focus back
   void ZetZichtbaar(VeldId veld, bool zichtbaar);
   bool GaNaar(const QString& naam);
-  [[nodiscard]] bool IsGeldigNaBewaren();
+  [[nodiscard]] bool Bewaar(bool ookRDI);
+  [[nodiscard]] bool IsGeldig(const InvoerVeld& veld) const;
 
   // the records on screen
   void VulVelden(const VensterBeeld& beeld);
@@ -153,7 +158,9 @@ class frmMurvane : public QWidget {
   void KnopKlik(const Toolbarknop& knop);
   void FanOK();
   void Image1_Click();
+  void ToonKalender();
   void MonthView_DateClick(const QDate& datum);
+  void ToonOvergenomen();
   void NaarRegel(const Bevinding& bevinding);
   [[nodiscard]] bool Houdt() const { return vult_ || terugNaar_ != nullptr; }
 

@@ -133,16 +133,22 @@ void frmMurvane::BouwOp() {
   SSTab1->setObjectName("SSTab1");
   SSTab1->setAccessibleName("Invoer van het project");
   SSTab1->tabBar()->installEventFilter(this);
-  SSTab1->addTab(BouwVentilator(), "Ventilator");
-  SSTab1->addTab(BouwElementen(), "Kanaalelementen");
-  SSTab1->addTab(BouwRuimte(), "Ruimtegegevens");
-  SSTab1->addTab(BouwProject(), "Projectgegevens");
   indeling->addWidget(SSTab1, 1);
   indeling->addStretch(0);
   ProgressBar1 = new QProgressBar(this);
   ProgressBar1->setObjectName("ProgressBar1");
   ProgressBar1->setAccessibleName("Voortgang van de berekening");
+  KleurVoortgang(*ProgressBar1);
   indeling->addWidget(ProgressBar1);
+}
+
+/// Most of the window, built when it is first shown: without a project none of it is in view.
+void frmMurvane::BouwTabs() {
+  if (SSTab1->count() > 0) return;
+  SSTab1->addTab(BouwVentilator(), "Ventilator");
+  SSTab1->addTab(BouwElementen(), "Kanaalelementen");
+  SSTab1->addTab(BouwRuimte(), "Ruimtegegevens");
+  SSTab1->addTab(BouwProject(), "Projectgegevens");
   VerbindFan();
   VerbindLijsten();
   VerbindKeuzes();
@@ -414,14 +420,21 @@ QWidget* frmMurvane::BouwProject() {
   VoegVeld(indeling, 6, {"txtToelichting3"}, "", "", "lblproject")->setAccessibleName("Toelichting, regel 3");
   kolom->addLayout(indeling);
   kolom->addStretch();
-  MonthView = new QCalendarWidget(blad);
+  return blad;
+}
+
+/// Built when it is first asked for: it takes as long as a whole tab.
+void frmMurvane::BouwKalender() {
+  MonthView = new QCalendarWidget(SSTab1->widget(static_cast<int>(Tab::Projectgegevens)));
   MonthView->setObjectName("MonthView");
   MonthView->setAccessibleName("Kalender");
   MonthView->setLocale(QLocale(QLocale::Dutch, QLocale::Netherlands));
   MonthView->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
   MonthView->setAutoFillBackground(true);
   MonthView->installEventFilter(this);
-  return blad;
+  MonthView->hide();
+  connect(MonthView, &QCalendarWidget::clicked, this, &frmMurvane::MonthView_DateClick);
+  connect(MonthView, &QCalendarWidget::activated, this, &frmMurvane::MonthView_DateClick);
 }
 
 QWidget* frmMurvane::BouwDatum() {
@@ -441,12 +454,15 @@ QWidget* frmMurvane::BouwDatum() {
   return vak;
 }
 
+/// An option that is chosen already is not chosen again: its click would clear what it brought.
 void frmMurvane::VerbindFan() {
   connect(optInvoer, &QRadioButton::clicked, this, [this] {
+    if (Houdt() || FanZichtVan(project_).optInvoer) return ToonFan(FanZichtVan(project_));
     Veilig("optInvoer_Click",
            [this] { VoerUit(optInvoer_Click(project_, catalogi_.CatFans, laatsteFan_, decimaal_)); });
   });
   connect(optPrognose, &QRadioButton::clicked, this, [this] {
+    if (Houdt() || FanZichtVan(project_).optPrognose) return ToonFan(FanZichtVan(project_));
     Veilig("optPrognose_Click", [this] { VoerUit(optPrognose_Click(project_, SSTab1->currentIndex())); });
   });
   const std::array<std::pair<QRadioButton*, std::int16_t>, 3> typen = {
@@ -454,16 +470,19 @@ void frmMurvane::VerbindFan() {
        {optCentriVoor, fantype::CentrifugaalVoorwaarts},
        {optCentriAchter, fantype::CentrifugaalAchterwaarts}}};
   for (const auto& [knop, type] : typen) {
-    connect(knop, &QRadioButton::clicked, this, [this, fanType = type] {
-      Veilig("FanTypeGekozen", [this, fanType] { VoerUit(FanTypeGekozen(project_, fanType)); });
+    connect(knop, &QRadioButton::clicked, this, [this, fanType = type, naam = knop->objectName()] {
+      if (Houdt() || project_.Fan.FanType == fanType) return ToonFan(FanZichtVan(project_));
+      Veilig(naam.toStdString() + "_Click", [this, fanType] { VoerUit(FanTypeGekozen(project_, fanType)); });
     });
   }
   connect(cmdFanOK, &QPushButton::clicked, this, &frmMurvane::FanOK);
   connect(cmdFanCancel, &QPushButton::clicked, this, [this] {
+    if (Houdt()) return;
     Veilig("cmdFanCancel_Click",
            [this] { VoerUit(cmdFanCancel_Click(project_, catalogi_.CatFans, laatsteFan_, decimaal_)); });
   });
   connect(lstFan, &Lijstvak::Geklikt, this, [this](int rij) {
+    if (Houdt()) return lstFan->ZetRij(laatsteFan_ - 1);
     Veilig("lstFan_Click",
            [&] { VoerUit(lstFan_Click(project_, rij, catalogi_.CatFans, laatsteFan_, decimaal_)); });
   });
@@ -473,10 +492,12 @@ void frmMurvane::VerbindLijsten() {
   connect(lstTotaal, &Lijstvak::Geklikt, this, [this](int rij) {
     if (Houdt()) return ToonLijsten();
     Veilig("lstTotaal_Click", [&] { VoerUit(lstTotaal_Click(lijst_, rij)); });
+    ToonLijsten();  // also after a failure the lists show the state
   });
   connect(lstProject, &Lijstvak::Geklikt, this, [this](int rij) {
     if (Houdt()) return ToonLijsten();
     Veilig("lstProject_Click", [&] { VoerUit(lstProject_Click(lijst_, project_, rij)); });
+    ToonLijsten();
   });
   connect(lstTotaal, &QListWidget::itemDoubleClicked, this, &frmMurvane::Voegtoe);
   connect(lstProject, &QListWidget::itemDoubleClicked, this, &frmMurvane::Wis);
@@ -485,9 +506,12 @@ void frmMurvane::VerbindLijsten() {
 }
 
 void frmMurvane::VerbindKeuzes() {
-  connect(VrijVeld, &QCheckBox::clicked, this,
-          [this](bool aan) { Veilig("VrijVeld_Click", [&] { VoerUit(VrijVeld_Click(project_, aan)); }); });
+  connect(VrijVeld, &QCheckBox::clicked, this, [this](bool aan) {
+    if (Houdt()) return VrijVeld->setChecked(!aan);
+    Veilig("VrijVeld_Click", [&] { VoerUit(VrijVeld_Click(project_, aan)); });
+  });
   connect(cmbKanaal, &QComboBox::activated, this, [this](int rij) {
+    if (Houdt()) return;
     Veilig("cmbKanaal_Click", [&] {
       if (cmbKanaal_Click(project_, lijst_.HuidigElement, rij, catalogi_.CatRduct))
         RoepBerekend(WandBerekend);
@@ -495,30 +519,37 @@ void frmMurvane::VerbindKeuzes() {
   });
   connect(cmbKanaal, &QComboBox::editTextChanged, this, [this](const QString& tekst) {
     if (vult_) return;
-    if (const auto nieuw = cmbKanaal_Change(NaarCp(tekst))) cmbKanaal->ZetTekst(VanCp(*nieuw));
+    Veilig("cmbKanaal_Change", [&] {
+      if (const auto nieuw = cmbKanaal_Change(NaarCp(tekst))) cmbKanaal->ZetTekst(VanCp(*nieuw));
+    });
   });
   connect(cmbKanaal, &Keuzevak::Verlaten, this, [this] {
     if (Houdt()) return;
-    const auto nieuw = cmbKanaal_LostFocus(project_, lijst_.HuidigElement, NaarCp(cmbKanaal->currentText()));
-    if (nieuw) cmbKanaal->ZetTekst(VanCp(*nieuw));
+    Veilig("cmbKanaal_LostFocus", [this] {
+      const std::string tekst = NaarCp(cmbKanaal->currentText());
+      const auto nieuw = cmbKanaal_LostFocus(project_, lijst_.HuidigElement, tekst);
+      if (nieuw) cmbKanaal->ZetTekst(VanCp(*nieuw));
+    });
   });
   const auto verbind = [this](Keuzevak* vak, const SpectrumCatalogus& catalogus, auto klik, auto wijzig,
                               auto verlaat) {
+    const std::string naam = vak->objectName().toStdString();
     connect(vak, &QComboBox::activated, this, [=, this, &catalogus](int rij) {
-      Veilig("cmbR_Click", [&] { VoerUit(*vak, klik(project_, rij, catalogus, decimaal_)); });
+      if (Houdt()) return;
+      Veilig(naam + "_Click", [&] { VoerUit(*vak, klik(project_, rij, catalogus, decimaal_)); });
     });
     connect(vak, &QComboBox::editTextChanged, this, [=, this](const QString& tekst) {
-      if (!vult_) VoerUit(*vak, wijzig(NaarCp(tekst)));
+      if (!vult_) Veilig(naam + "_Change", [&] { VoerUit(*vak, wijzig(NaarCp(tekst))); });
     });
     connect(vak, &Keuzevak::Verlaten, this, [=, this] {
-      if (!Houdt()) VoerUit(*vak, verlaat(project_, NaarCp(vak->currentText()), decimaal_));
+      if (Houdt()) return;
+      Veilig(naam + "_LostFocus",
+             [&] { VoerUit(*vak, verlaat(project_, NaarCp(vak->currentText()), decimaal_)); });
     });
   };
   verbind(cmbRkanaal, catalogi_.CatRduct, cmbRkanaal_Click, cmbRkanaal_Change, cmbRkanaal_LostFocus);
   verbind(cmbRplafond, catalogi_.CatRplaf, cmbRplafond_Click, cmbRplafond_Change, cmbRplafond_LostFocus);
   connect(Image1, &QToolButton::clicked, this, &frmMurvane::Image1_Click);
-  connect(MonthView, &QCalendarWidget::clicked, this, &frmMurvane::MonthView_DateClick);
-  connect(MonthView, &QCalendarWidget::activated, this, &frmMurvane::MonthView_DateClick);
 }
 
 void frmMurvane::ZetIconen() {

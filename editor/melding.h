@@ -14,8 +14,8 @@ inline constexpr std::string_view ProgrammaTitel = "MurVane";
 enum class MeldingSoort { Uitroep, Kritiek, Vraag };  ///< the icon
 enum class Knoppen { OK, OkCancel, YesNo };
 
-/// How a box was left. Escape and the close button are Cancel, also of a box with only OK; of a Yes/No box
-/// they are No.
+/// How a box was left. Escape and the close button are Cancel, also of a box with only OK; a Yes/No box is
+/// only left by its buttons.
 enum class Antwoord { OK, Cancel, Yes, No };
 
 struct Melding {

@@ -5,6 +5,7 @@
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 
@@ -38,30 +39,35 @@ QMessageBox::StandardButtons KnoppenVan(Knoppen knoppen) {
   }
 }
 
-/// Escape and the close button answer No to a question of yes and no, and Cancel to any other box.
 Antwoord AntwoordVan(int knop, Knoppen knoppen, bool weggeklikt) {
   if (knoppen == Knoppen::YesNo) return knop == QMessageBox::Yes ? Antwoord::Yes : Antwoord::No;
   return knop == QMessageBox::Ok && !weggeklikt ? Antwoord::OK : Antwoord::Cancel;
 }
 
 /// A message box that knows whether it was left by Escape or its close button: the toolkit itself reports the
-/// only button of a box then.
+/// only button of a box then. A question of yes and no is only left by its buttons: neither answer is the one
+/// that changes nothing.
 class MeldingVenster : public QMessageBox {
  public:
   using QMessageBox::QMessageBox;
+  void MoetKiezen() { moetKiezen_ = true; }
   [[nodiscard]] bool Weggeklikt() const { return weggeklikt_; }
 
  protected:
   void keyPressEvent(QKeyEvent* gebeurtenis) override {
-    if (gebeurtenis->key() == Qt::Key_Escape) weggeklikt_ = true;
+    const bool escape = gebeurtenis->key() == Qt::Key_Escape;
+    if (escape && moetKiezen_) return;
+    if (escape) weggeklikt_ = true;
     QMessageBox::keyPressEvent(gebeurtenis);
   }
   void closeEvent(QCloseEvent* gebeurtenis) override {
+    if (moetKiezen_) return gebeurtenis->ignore();
     weggeklikt_ = true;
     QMessageBox::closeEvent(gebeurtenis);
   }
 
  private:
+  bool moetKiezen_ = false;
   bool weggeklikt_ = false;
 };
 
@@ -98,29 +104,42 @@ std::filesystem::path Vraag(QWidget* ouder, const BestandVraag& vraag, QFileDial
   return VanQt(dialoog.selectedFiles().constFirst());
 }
 
+/// The window that a dialog stands before: the one in hand. Just after another dialog none is; while the
+/// program starts there is none at all.
+QWidget* Ouder() {
+  if (QApplication::activeWindow() != nullptr) return QApplication::activeWindow();
+  for (QWidget* const venster : QApplication::topLevelWidgets()) {
+    if (venster->isVisible() && venster->windowType() == Qt::Window) return venster;
+  }
+  return nullptr;
+}
+
 }  // namespace
 
 Antwoord SchermDialogen::Toon(const Melding& melding) {
   MeldingVenster box(Icoon(melding.Soort), VanCp(melding.Titel), VanCp(melding.Tekst),
-                     KnoppenVan(melding.Knoppen), ouder_);
+                     KnoppenVan(melding.Knoppen), Ouder());
   box.setTextFormat(Qt::PlainText);
+  if (melding.Knoppen == Knoppen::YesNo) box.MoetKiezen();
   const int knop = box.exec();
   return AntwoordVan(knop, melding.Knoppen, box.Weggeklikt());
 }
 
 std::string SchermDialogen::Invoer(const InvoerVraag& vraag) {
-  bool gelukt = false;
-  const QString antwoord = QInputDialog::getText(ouder_, VanCp(vraag.Titel), VanCp(vraag.Tekst), QLineEdit::Normal,
-                                                 VanCp(vraag.Standaard), &gelukt);
-  return gelukt ? NaarCp(antwoord) : std::string();
+  QInputDialog dialoog(Ouder());
+  dialoog.setWindowTitle(VanCp(vraag.Titel));
+  dialoog.setLabelText(VanCp(vraag.Tekst).replace('&', "&&"));  // the label takes one for a mnemonic
+  if (auto* const label = dialoog.findChild<QLabel*>()) label->setTextFormat(Qt::PlainText);
+  dialoog.setTextValue(VanCp(vraag.Standaard));
+  return dialoog.exec() == QDialog::Accepted ? NaarCp(dialoog.textValue()) : std::string();
 }
 
 std::filesystem::path SchermDialogen::OpenDialoog(const BestandVraag& vraag) {
-  return Vraag(ouder_, vraag, QFileDialog::AcceptOpen);
+  return Vraag(Ouder(), vraag, QFileDialog::AcceptOpen);
 }
 
 std::filesystem::path SchermDialogen::OpslaanDialoog(const BestandVraag& vraag) {
-  return Vraag(ouder_, vraag, QFileDialog::AcceptSave);
+  return Vraag(Ouder(), vraag, QFileDialog::AcceptSave);
 }
 
 void SchermDialogen::Wachten(bool aan) {

@@ -1,5 +1,6 @@
 #include "editor/vensters_veld.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -19,6 +20,22 @@ constexpr std::array<const char*, Banden> BandNamen = {"63", "125", "250", "500"
 bool BlijftInVeld(Qt::FocusReason reden) {
   return reden == Qt::ActiveWindowFocusReason || reden == Qt::PopupFocusReason ||
          reden == Qt::MenuBarFocusReason;
+}
+
+/// The window inside the main window, or the dialog, that a control stands in.
+const QWidget* VensterVan(const QWidget* vak) {
+  while (vak != nullptr && !vak->isWindow() && vak->windowType() != Qt::SubWindow) vak = vak->parentWidget();
+  return vak;
+}
+
+/// Whether a control that loses the focus is left for another one of its window. In its own window it stays
+/// the control in hand when a menu, a pop-up or another window comes in front; the frame hides a window
+/// behind a maximised one, and the focus then wanders inside it.
+bool WordtVerlaten(const QWidget& vak, Qt::FocusReason reden) {
+  const QWidget* const venster = VensterVan(&vak);
+  if (BlijftInVeld(reden) || (venster != nullptr && !venster->isVisible())) return false;
+  const QWidget* const nieuw = QApplication::focusWidget();
+  return nieuw == nullptr ? !vak.isVisible() : VensterVan(nieuw) == venster;
 }
 
 bool IsEnter(int toets) {
@@ -98,7 +115,7 @@ void InvoerVeld::focusInEvent(QFocusEvent* event) {
 
 void InvoerVeld::focusOutEvent(QFocusEvent* event) {
   QLineEdit::focusOutEvent(event);
-  if (!BlijftInVeld(event->reason())) emit Verlaten();
+  if (WordtVerlaten(*this, event->reason())) emit Verlaten();
 }
 
 void InvoerVeld::mouseReleaseEvent(QMouseEvent* event) {
@@ -154,17 +171,30 @@ void Lijstvak::ZetRij(int rij) {
 }
 
 void Lijstvak::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;  // only a click selects
   const bool opRij = itemAt(event->position().toPoint()) != nullptr;
   if (!opRij && count() > 0) return;  // the blank space behind the rows
   {
     const QScopedValueRollback<bool> stil(stil_, true);
     QListWidget::mousePressEvent(event);
   }
-  if (event->button() == Qt::LeftButton) emit Geklikt(currentRow());
+  emit Geklikt(currentRow());
+}
+
+void Lijstvak::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) QListWidget::mouseDoubleClickEvent(event);
+}
+
+/// One row is selected, also with Ctrl down.
+QItemSelectionModel::SelectionFlags Lijstvak::selectionCommand(const QModelIndex& rij,
+                                                               const QEvent* event) const {
+  if (rij.isValid()) return QItemSelectionModel::ClearAndSelect;
+  return QListWidget::selectionCommand(rij, event);
 }
 
 void Lijstvak::keyPressEvent(QKeyEvent* event) {
   if (IsEnter(event->key())) return emit Toets(Qt::Key_Return);
+  if (event->key() == Qt::Key_Space) return emit Geklikt(currentRow());  // also the row selected already
   if (event->key() == Qt::Key_Insert || event->key() == Qt::Key_Delete) return emit Toets(event->key());
   QListWidget::keyPressEvent(event);
 }
@@ -216,7 +246,7 @@ void Keuzevak::wheelEvent(QWheelEvent* event) {
 
 void Keuzevak::focusOutEvent(QFocusEvent* event) {
   QComboBox::focusOutEvent(event);
-  if (!BlijftInVeld(event->reason())) emit Verlaten();
+  if (WordtVerlaten(*this, event->reason())) emit Verlaten();
 }
 
 }  // namespace murvane

@@ -78,8 +78,11 @@ class Lijstvak : public QListWidget {
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
+  [[nodiscard]] QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& rij,
+                                                                     const QEvent* event) const override;
 
  private:
   bool stil_ = false;

@@ -1,18 +1,24 @@
 #include "shell/MDIMurvane.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QProcess>
+#include <QStandardPaths>
 #include <QStatusBar>
 #include <map>
+#include <optional>
+#include <string>
 
 #include "basis/vensters_hulp.h"
 #include "calc/reken.h"
 #include "editor/frmMurvane.h"
+#include "editor/vensters_tekening.h"
 #include "reports/frmResultaat.h"
 #include "shell/bestandopdrachten.h"
 #include "shell/hoofdvenster.h"
@@ -41,7 +47,7 @@ MDIMurvane::MDIMurvane(Programma& programma, Dialogen& dialogen)
                               std::string(programma.Vandaag.Heel()), programma.Decimaal)) {
   setObjectName("MDIMurvane");
   setWindowTitle(VanCp(ProgrammaTitel));
-  setWindowIcon(QIcon(":/shell/beelden/murvane.svg"));
+  QApplication::setWindowIcon(Icoon("murvane"));
   setMinimumSize(MinBreedte / TwipsPerPixel, MinHoogte / TwipsPerPixel);
   setCentralWidget(gebied_);
   auto* kader = new ProjectKader;
@@ -67,11 +73,13 @@ void MDIMurvane::MaakMenu() {
       menu->setObjectName(Naam(item.Naam));
       menu->menuAction()->setObjectName(Naam(item.Naam));
       menus[item.Naam] = menu;
+      acties_[item.Naam] = menu->menuAction();
       continue;
     }
     QAction* actie = menus.at(item.In)->addAction(VanCp(item.Opschrift));
     actie->setObjectName(Naam(item.Naam));
     actie->setCheckable(item.Soort == MenuSoort::Keuze);
+    acties_[item.Naam] = actie;
     if (item.Soort != MenuSoort::Kop) continue;
     actie->setEnabled(false);
     menus.at(item.In)->addSeparator();
@@ -87,20 +95,46 @@ void MDIMurvane::MaakMenu() {
   Verbind("mnuVent", &MDIMurvane::mnuVent);
   Verbind("mnuUitstraling", &MDIMurvane::mnuUitstraling);
   Verbind("mnuOverspraak", &MDIMurvane::mnuOverspraak);
+  Verbind("mnuCalc", &MDIMurvane::mnuCalc);
+  QMenu* const vensters = menus.at("mnuVenster");
+  connect(vensters, &QMenu::aboutToShow, this, [this, vensters] { VulVensterMenu(*vensters); });
 }
 
 void MDIMurvane::Verbind(std::string_view naam, void (MDIMurvane::*opdracht)()) {
-  auto* actie = findChild<QAction*>(Naam(naam));
+  QAction* const actie = acties_.at(naam);
   actie->setProperty("opdracht", true);
-  // Whatever a command raises is told, and the program runs on with the project open.
-  connect(actie, &QAction::triggered, this, [this, naam, opdracht] {
-    try {
-      (this->*opdracht)();
-    } catch (...) {
-      (void)dialogen_.Toon(OnverwachteFout(std::string(naam) + "_Click", "MDIMurvane", HuidigeFout()));
-    }
-    ToonToestand();
-  });
+  connect(actie, &QAction::triggered, this, [this, naam, opdracht] { Voer(std::string(naam), opdracht); });
+}
+
+/// Whatever a command raises is told, and the program runs on with the project open.
+void MDIMurvane::Voer(const std::string& naam, void (MDIMurvane::*opdracht)()) {
+  try {
+    (this->*opdracht)();
+  } catch (...) {
+    (void)dialogen_.Toon(OnverwachteFout(naam + "_Click", "MDIMurvane", HuidigeFout()));
+  }
+  ToonToestand();
+}
+
+/// The menu of the windows that are open: the project first.
+void MDIMurvane::VulVensterMenu(QMenu& menu) {
+  menu.clear();
+  for (QMdiSubWindow* const kader : gebied_->subWindowList(QMdiArea::CreationOrder)) {
+    const bool isProject = kader->widget() == project_;
+    QAction* const actie = menu.addAction(isProject ? QString("Project") : kader->windowTitle());
+    actie->setCheckable(true);
+    actie->setChecked(kader == gebied_->activeSubWindow());
+    connect(actie, &QAction::triggered, gebied_, [this, kader] { gebied_->setActiveSubWindow(kader); });
+  }
+}
+
+/// Starts the desktop's own calculator: the first one there is. That there is none is no matter.
+void MDIMurvane::mnuCalc() {
+  for (const char* const naam : {"calc.exe", "gnome-calculator", "kcalc", "mate-calc", "xfce4-calculator",
+                                 "lxqt-calculator", "galculator", "qalculate-gtk", "qalculate-qt", "xcalc"}) {
+    if (const QString pad = QStandardPaths::findExecutable(naam); !pad.isEmpty())
+      return static_cast<void>(QProcess::startDetached(pad, {}));
+  }
 }
 
 void MDIMurvane::MaakStatusbalk() {
@@ -111,7 +145,7 @@ void MDIMurvane::MaakStatusbalk() {
   paneel3_ = new QLabel(this);
   beeld_->setObjectName("StatusBar1_1_beeld");
   beeld_->setAccessibleName("Berekend");
-  beeld_->setPixmap(QIcon(":/shell/beelden/berekend.svg").pixmap(16, 16));
+  beeld_->setPixmap(Icoon("berekend", palette()).pixmap(16, 16));
   paneel1_->setObjectName("StatusBar1_1");
   paneel2_->setObjectName("StatusBar1_2");
   paneel3_->setObjectName("StatusBar1_3");
@@ -124,13 +158,14 @@ void MDIMurvane::MaakStatusbalk() {
 void MDIMurvane::ToonToestand() {
   const Sessie& sessie = project_->DeSessie();
   for (const MenuRegel& regel : MenuRegels) {
-    auto* actie = findChild<QAction*>(Naam(regel.Naam));
-    if (actie == nullptr) continue;
+    const auto gevonden = acties_.find(regel.Naam);
+    if (gevonden == acties_.end()) continue;
+    QAction* const actie = gevonden->second;
     const bool bediend = actie->menu() != nullptr || actie->property("opdracht").toBool();
     actie->setEnabled(bediend && MenuAan(regel.Naam, sessie.Toestand));
   }
   for (const TypeRegel& regel : TypeRegels)
-    findChild<QAction*>(Naam(regel.Menu))->setChecked(regel.RekenType == programma_.Project.Kop.RekenType);
+    acties_.at(regel.Menu)->setChecked(regel.RekenType == programma_.Project.Kop.RekenType);
   const StatusBalk balk = StatusVan(sessie, programma_.Project);
   beeld_->setVisible(balk.Paneel1Beeld != 0);
   paneel1_->setText(VanCp(balk.Paneel1));
@@ -175,37 +210,43 @@ void MDIMurvane::mnuOpen() {
 
 void MDIMurvane::OpenVanOpdrachtregel() {
   if (programma_.OpenBestand.empty()) return;
-  mnuOpen();
-  ToonToestand();
+  Voer("mnuOpen", &MDIMurvane::mnuOpen);
 }
 
 void MDIMurvane::mnuReken() {
   try {
-    if (!project_->NeemOverEnBeoordeel()) return;
-    const Zandloper zandloper(dialogen_);
-    const int aantal = programma_.Project.ElementCount;
-    project_->ZetVoortgang(aantal, aantal);
-    Reken(programma_.Project, programma_.Resultaten, programma_.Decimaal);
-    Afdruk(programma_.Project, programma_.Resultaten, programma_.Instellingen.Gebruikersnaam,
-           programma_.Decimaal, programma_.Rapport);
+    if (project_->NeemOverEnBeoordeel()) Reken();
   } catch (...) {
     project_->ZetVoortgang(0, 0);
     (void)dialogen_.Toon(OnverwachteFout("Reken", "frmMurvane", HuidigeFout()));
-    return;
   }
-  resultaat_ = new frmResultaat(programma_.Rapport);
-  auto* kader = gebied_->addSubWindow(resultaat_);
-  kader->setAttribute(Qt::WA_DeleteOnClose);
+}
+
+/// The run of a project that passed the checks, up to its result window.
+void MDIMurvane::Reken() {
+  std::optional<Zandloper> zandloper(dialogen_);
+  const int aantal = programma_.Project.ElementCount;
+  project_->ZetVoortgang(0, aantal);
+  murvane::Reken(programma_.Project, programma_.Resultaten, programma_.Decimaal,
+                 [&](int element) { project_->ZetVoortgang(element, aantal); });
+  Afdruk(programma_.Project, programma_.Resultaten, programma_.Instellingen.Gebruikersnaam,
+         programma_.Decimaal, programma_.Rapport);
+  QMdiSubWindow* const kader = LaadResultaat();
   Voer(Berekend(project_->DeSessie(), vlag::Berekend, ""));
+  zandloper.reset();
   project_->ZetVoortgang(0, 0);
   kader->showMaximized();
 }
 
+QMdiSubWindow* MDIMurvane::LaadResultaat() {
+  resultaat_ = new frmResultaat(programma_.Rapport);
+  QMdiSubWindow* const kader = gebied_->addSubWindow(resultaat_);
+  kader->setAttribute(Qt::WA_DeleteOnClose);
+  return kader;
+}
+
 void MDIMurvane::mnuPreview() {
-  if (resultaat_ == nullptr) {
-    resultaat_ = new frmResultaat(programma_.Rapport);
-    gebied_->addSubWindow(resultaat_)->setAttribute(Qt::WA_DeleteOnClose);
-  }
+  if (resultaat_ == nullptr) (void)LaadResultaat();
   auto* kader = qobject_cast<QMdiSubWindow*>(resultaat_->parentWidget());
   kader->showMaximized();
   gebied_->setActiveSubWindow(kader);
@@ -216,7 +257,7 @@ void MDIMurvane::mnuSluiten() {
 }
 
 void MDIMurvane::mnuOpslaan() {
-  project_->BewaarVeld();
+  if (!project_->BewaarVeld()) return;
   if (OpSlag(programma_, dialogen_) == OpslagUitkomst::Gesloten) SluitHetProject();
 }
 
@@ -244,8 +285,9 @@ void MDIMurvane::mnuOverspraak() {
 
 void MDIMurvane::closeEvent(QCloseEvent* gebeurtenis) {
   if (!einde_) {
-    project_->BewaarVeld();
-    einde_ = Form_Unload(programma_, dialogen_, ProjectOpen(project_->DeSessie())) == Vervolg::Einde;
+    const auto bewaarVeld = [this] { return project_->BewaarVeld(); };
+    einde_ =
+        Form_Unload(programma_, dialogen_, ProjectOpen(project_->DeSessie()), bewaarVeld) == Vervolg::Einde;
   }
   gebeurtenis->setAccepted(einde_);
 }

@@ -3,14 +3,19 @@
 
 #include <QMainWindow>
 #include <QPointer>
+#include <map>
+#include <string>
 #include <string_view>
 
 #include "editor/dialogen.h"
 #include "editor/sessie.h"
 #include "shell/programma.h"
 
+class QAction;
 class QLabel;
 class QMdiArea;
+class QMdiSubWindow;
+class QMenu;
 
 namespace murvane {
 
@@ -34,6 +39,8 @@ class MDIMurvane : public QMainWindow {
   void MaakMenu();
   void MaakStatusbalk();
   void Verbind(std::string_view naam, void (MDIMurvane::*opdracht)());
+  void Voer(const std::string& naam, void (MDIMurvane::*opdracht)());
+  void VulVensterMenu(QMenu& menu);
 
   void mnuNieuw();
   void mnuOpen();
@@ -46,7 +53,10 @@ class MDIMurvane : public QMainWindow {
   void mnuVent();
   void mnuUitstraling();
   void mnuOverspraak();
+  void mnuCalc();
 
+  void Reken();
+  QMdiSubWindow* LaadResultaat();
   void Voer(const Gevolg& gevolg);
   void SluitVensters();
   void ToonToestand();
@@ -57,6 +67,7 @@ class MDIMurvane : public QMainWindow {
   QMdiArea* gebied_;
   frmMurvane* project_;
   QPointer<frmResultaat> resultaat_;
+  std::map<std::string_view, QAction*> acties_;  ///< by name; the names of MenuBalk
   QLabel* beeld_ = nullptr;
   QLabel* paneel1_ = nullptr;
   QLabel* paneel2_ = nullptr;

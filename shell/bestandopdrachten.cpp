@@ -153,12 +153,14 @@ Vervolg mnuExit_Click(Programma& programma, Dialogen& dialogen, bool projectOpen
   return Vervolg::Einde;
 }
 
-Vervolg Form_Unload(Programma& programma, Dialogen& dialogen, bool projectOpen) {
+Vervolg Form_Unload(Programma& programma, Dialogen& dialogen, bool projectOpen,
+                    const std::function<bool()>& bewaarVeld) {
   // A directory that is gone is no reason to withhold the question below.
   static_cast<void>(Probeer([&] { NaarDataDir(programma); }));
   const Melding vraag{MeldingSoort::Vraag, "Programma afsluiten", "Geopend bestand eerst opslaan?",
                       Knoppen::YesNo};
   if (!projectOpen || dialogen.Toon(vraag) != Antwoord::Yes) return Vervolg::Einde;
+  if (!bewaarVeld()) return Vervolg::GaatDoor;
   return OpSlag(programma, dialogen) == OpslagUitkomst::Opgegeven ? Vervolg::GaatDoor : Vervolg::Einde;
 }
 

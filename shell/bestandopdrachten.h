@@ -6,6 +6,7 @@
 // dialog that gave it. Leaving the box by Escape or its close button ends the command.
 
 #include <filesystem>
+#include <functional>
 #include <string>
 
 #include "editor/dialogen.h"
@@ -46,9 +47,11 @@ enum class OpslagUitkomst {
 [[nodiscard]] Vervolg mnuExit_Click(Programma& programma, Dialogen& dialogen, bool projectOpen);
 
 /// The project window closes with the program: makes DataDir the current directory and, when a project is
-/// open, offers to save it. The end follows also when the user cancels the save; GaatDoor, the project still
-/// open, only when the save failed and the user gave it up.
-[[nodiscard]] Vervolg Form_Unload(Programma& programma, Dialogen& dialogen, bool projectOpen);
+/// open, offers to save it. `bewaarVeld` stores the field that has the focus before a save; false holds the
+/// save off. The end follows also when the user cancels the save; GaatDoor, the project still open, only when
+/// the save was held off, or failed and the user gave it up.
+[[nodiscard]] Vervolg Form_Unload(Programma& programma, Dialogen& dialogen, bool projectOpen,
+                                  const std::function<bool()>& bewaarVeld);
 
 /// Asks for the user's name; it reaches the settings file at mnuExit_Click.
 void mnuGebruiker_Click(Programma& programma, Dialogen& dialogen);

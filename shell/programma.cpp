@@ -17,7 +17,7 @@ std::string MetNullen(unsigned getal, std::size_t breedte) {
 DatumVeld DatumTekst(std::chrono::year_month_day datum) {
   const auto jaar = static_cast<unsigned>(static_cast<int>(datum.year()));
   return DatumVeld(MetNullen(static_cast<unsigned>(datum.day()), 2) + "-" +
-               MetNullen(static_cast<unsigned>(datum.month()), 2) + "-" + MetNullen(jaar, 4));
+                   MetNullen(static_cast<unsigned>(datum.month()), 2) + "-" + MetNullen(jaar, 4));
 }
 
 }  // namespace murvane

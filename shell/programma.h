@@ -27,7 +27,7 @@ struct Programma {
 
   std::filesystem::path DataDir;      ///< of murvane.set and the catalogues; fixed once the start is over
   std::filesystem::path OpenBestand;  ///< the project that the command line named, until it was opened
-  DatumVeld Vandaag;                      ///< the day of the start
+  DatumVeld Vandaag;                  ///< the day of the start
   char Decimaal = ',';                ///< the region's decimal sign
 
   /// The file name that stands in the file dialog: the one chosen last, or the project that was opened. The

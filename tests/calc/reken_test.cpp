@@ -408,6 +408,21 @@ TEST(Reken, EveryElementTypeHasItsReportTexts) {
       << "nothing behind the chain is touched";
 }
 
+TEST(Reken, TellsEachElementBeforeItCalculatesIt) {
+  Project p = Kantoor();
+  p.Elementen[2].demp = {1e300};
+  p.Elementen[2].ElementType = elementtype::Catalogus;
+  Resultaten r;
+  std::vector<int> gemeld;
+  EXPECT_THROW(Reken(p, r, '.', [&](int element) { gemeld.push_back(element); }), Fout);
+  EXPECT_EQ(gemeld, (std::vector{1, 2})) << "the element that failed was told, the next was not";
+  Project heel = Kantoor();
+  gemeld.clear();
+  Reken(heel, r, '.', [&](int element) { gemeld.push_back(element); });
+  ASSERT_EQ(gemeld.size(), static_cast<std::size_t>(heel.ElementCount));
+  EXPECT_EQ(gemeld.back(), heel.ElementCount);
+}
+
 TEST(Reken, AnElementWithoutModelKeepsItsAttenuationAndNoise) {
   for (const int type : {99, 12, 0, -1, 100}) {
     Project p = Kantoor();

@@ -601,6 +601,7 @@ TEST(Invoegen, PutsTheRecordBeforeTheSelectedElement) {
     verwacht.Open = rij.huidig;
     verwacht.Paneel3 = "4 kanaalelementen";
     verwacht.Berekend = "1";
+    verwacht.BerekendEerst = true;
     EXPECT_EQ(Insert(lijst, project, catalogus), verwacht);
     EXPECT_EQ(project.ElementCount, 4);
     EXPECT_EQ(Volgorde(project), rij.volgorde);

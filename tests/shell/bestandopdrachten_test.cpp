@@ -482,38 +482,52 @@ TEST_F(mnuExit, TellsOfADirectoryThatMayNotBeEntered) {
 
 using FormUnload = Bestandopdrachten;
 
+const std::function<bool()> Bewaard = [] { return true; };
+
 TEST_F(FormUnload, WithoutAProjectEndsInTheDataDirectory) {
-  EXPECT_EQ(Form_Unload(programma_, script_, false), Vervolg::Einde);
+  EXPECT_EQ(Form_Unload(programma_, script_, false, Bewaard), Vervolg::Einde);
   EXPECT_TRUE(fs::equivalent(fs::current_path(), programma_.DataDir));
 }
 
 TEST_F(FormUnload, OffersToSaveAProject) {
   script_.Box(AfsluitVraag, Antwoord::No);
-  EXPECT_EQ(Form_Unload(programma_, script_, true), Vervolg::Einde);
+  EXPECT_EQ(Form_Unload(programma_, script_, true, Bewaard), Vervolg::Einde);
   EXPECT_TRUE(fs::equivalent(fs::current_path(), programma_.DataDir));
   EXPECT_EQ(map_.Namen(), std::vector<std::string>{"data één"});
   script_.Box(AfsluitVraag, Antwoord::Yes).Opslaan(OpslaanVraag(), map_ / "a.mrv");
-  EXPECT_EQ(Form_Unload(programma_, script_, true), Vervolg::Einde);
+  EXPECT_EQ(Form_Unload(programma_, script_, true, Bewaard), Vervolg::Einde);
   EXPECT_EQ(proef::Lees(map_ / "a.mrv"), voor_);
 }
 
 TEST_F(FormUnload, EndsAlsoWhenTheSaveIsCancelled) {
   script_.Box(AfsluitVraag, Antwoord::Yes).Opslaan(OpslaanVraag(), std::nullopt);
-  EXPECT_EQ(Form_Unload(programma_, script_, true), Vervolg::Einde);
+  EXPECT_EQ(Form_Unload(programma_, script_, true, Bewaard), Vervolg::Einde);
 }
 
 TEST_F(FormUnload, KeepsTheProjectOpenWhenAFailedSaveIsGivenUp) {
   script_.Box(AfsluitVraag, Antwoord::Yes)
       .Opslaan(OpslaanVraag(), map_ / "weg" / "a.mrv")
       .Box(OpslagFout("76 - Map niet gevonden"), Antwoord::Cancel);
-  EXPECT_EQ(Form_Unload(programma_, script_, true), Vervolg::GaatDoor);
+  EXPECT_EQ(Form_Unload(programma_, script_, true, Bewaard), Vervolg::GaatDoor);
+  IsOngewijzigd();
+}
+
+TEST_F(FormUnload, AnInvalidFieldHoldsOffTheSaveOnly) {
+  int gevraagd = 0;
+  const auto rood = [&] { return ++gevraagd, false; };
+  script_.Box(AfsluitVraag, Antwoord::No);
+  EXPECT_EQ(Form_Unload(programma_, script_, true, rood), Vervolg::Einde);
+  EXPECT_EQ(gevraagd, 0);
+  script_.Box(AfsluitVraag, Antwoord::Yes);
+  EXPECT_EQ(Form_Unload(programma_, script_, true, rood), Vervolg::GaatDoor);
+  EXPECT_EQ(gevraagd, 1);
   IsOngewijzigd();
 }
 
 TEST_F(FormUnload, AsksAlsoWhenTheDataDirectoryIsGone) {
   fs::remove_all(programma_.DataDir);
   script_.Box(AfsluitVraag, Antwoord::No);
-  EXPECT_EQ(Form_Unload(programma_, script_, true), Vervolg::Einde);
+  EXPECT_EQ(Form_Unload(programma_, script_, true, Bewaard), Vervolg::Einde);
 }
 
 class mnuGebruiker : public Bestandopdrachten {

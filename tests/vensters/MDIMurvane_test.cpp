@@ -6,18 +6,24 @@
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QProgressBar>
+#include <QTabWidget>
 #include <QTest>
 #include <QTextEdit>
+#include <limits>
+#include <numeric>
 
 #include "basis/vensters_hulp.h"
 #include "editor/frmMurvane.h"
 #include "project/projectfile.h"
 #include "reports/frmResultaat.h"
 #include "shell/run.h"
+#include "shell/vensters_toepassing.h"
 #include "tests/hulp/bestanden.h"
 #include "tests/hulp/script.h"
 
@@ -45,6 +51,7 @@ class Hoofdvenster : public testing::Test {
     venster = std::make_unique<MDIMurvane>(programma, script);
     venster->resize(1024, 740);
     venster->show();
+    QApplication::setActiveWindow(venster.get());
   }
 
   QAction* Actie(const char* naam) {
@@ -178,6 +185,7 @@ TEST_F(Hoofdvenster, BringsAClosedResultWindowBack) {
   ASSERT_EQ(Resultaat(), nullptr);
   Kies("mnuPreview");
   ASSERT_NE(Resultaat(), nullptr);
+  ASSERT_NE(Resultaat(), nullptr);
   EXPECT_EQ(venster->findChild<QMdiArea*>()->activeSubWindow()->widget(), Resultaat());
 }
 
@@ -202,6 +210,181 @@ TEST_F(Hoofdvenster, AFaultInARunIsToldAndLeavesTheProjectOpen) {
   EXPECT_EQ(Resultaat(), nullptr);
   EXPECT_EQ(Aan(), NietBerekend);
   EXPECT_EQ(Paneel(1), "kantoor.mrv");
+}
+
+TEST_F(Hoofdvenster, TheProgressBarCountsTheElements) {
+  Open("kantoor.mrv");
+  auto* balk = venster->findChild<QProgressBar*>("ProgressBar1");
+  std::vector<int> standen;
+  QObject::connect(balk, &QProgressBar::valueChanged, balk, [&](int stand) {
+    if (stand <= 0) return;
+    EXPECT_TRUE(balk->isVisible());
+    EXPECT_EQ(balk->maximum(), programma.Project.ElementCount);
+    standen.push_back(stand);
+  });
+  Kies("mnuReken");
+  std::vector<int> alle(static_cast<std::size_t>(programma.Project.ElementCount));
+  std::iota(alle.begin(), alle.end(), 1);
+  EXPECT_EQ(standen, alle);
+  EXPECT_FALSE(balk->isVisible());
+}
+
+TEST_F(Hoofdvenster, ARedFieldHoldsOffASaveUntilItIsRight) {
+  Open("kantoor.mrv");
+  auto* veld = venster->findChild<QLineEdit*>("txtMyDate");
+  veld->setFocus();
+  QTest::keyClicks(veld, "31-02-2026");
+  Kies("mnuOpslaan");  // an unexpected dialog fails the test
+  QCoreApplication::processEvents();
+  EXPECT_EQ(Paneel(1), "kantoor.mrv");
+  EXPECT_EQ(veld->toolTip(), "Voer geldige datum in (dd-mm-yyyy)");
+  script.Box(VraagOpslaan, Antwoord::Yes);
+  const std::filesystem::path hier = std::filesystem::current_path();
+  EXPECT_FALSE(venster->close());
+  std::filesystem::current_path(hier);
+  EXPECT_TRUE(venster->isVisible());
+  QCoreApplication::processEvents();
+  QTest::keyClick(veld, Qt::Key_Escape);
+  script.Opslaan({"Opslaan als", "Bestanden MurVane (*.mrv)|*.mrv", programma.DataDir, Data / "kantoor.mrv",
+                  true, false, true},
+                 map.Pad() / "bewaard é.mrv");
+  Kies("mnuOpslaan");
+  EXPECT_EQ(ProjectBytes(LeesProject(map.Pad() / "bewaard é.mrv")),
+            ProjectBytes(LeesProject(Data / "kantoor.mrv")));
+}
+
+/// A window whose event fails in a way that no handler foresees.
+class Kapot : public QObject {
+ public:
+  bool event(QEvent* gebeurtenis) override {
+    if (gebeurtenis->type() != QEvent::User) return QObject::event(gebeurtenis);
+    throw Fout(FoutNummer::IndexBuitenBereik);
+  }
+};
+
+TEST_F(Hoofdvenster, AFailureThatReachesTheEventLoopIsToldAndTheProjectStaysOpen) {
+  Open("kantoor.mrv");
+  auto& toepassing = dynamic_cast<Toepassing&>(*QCoreApplication::instance());
+  toepassing.ZetDialogen(&script);
+  script.Box({MeldingSoort::Kritiek, "MurVane",
+              "Onverwachte fout in procedure notify van Form MDIMurvane.\nFout 9 - Index buiten het bereik.",
+              Knoppen::OK});
+  Kapot kapot;
+  QCoreApplication::postEvent(&kapot, new QEvent(QEvent::User));
+  QCoreApplication::processEvents();
+  toepassing.ZetDialogen(nullptr);
+  EXPECT_EQ(Paneel(1), "kantoor.mrv");
+  EXPECT_EQ(Aan(), NietBerekend);
+}
+
+TEST_F(Hoofdvenster, ARunShowsWhatTheOpenElementInherited) {
+  Open("kantoor.mrv");
+  auto* lijst = venster->findChild<QListWidget*>("lstProject");
+  std::size_t bocht = 1;
+  while (programma.Project.Elementen.at(bocht).ElementType != elementtype::BochtRecht) ++bocht;
+  venster->findChild<QTabWidget*>("SSTab1")->setCurrentIndex(1);
+  lijst->setCurrentRow(static_cast<int>(bocht) - 1);
+  auto* veld = venster->findChild<QLineEdit*>("txtHoogte");
+  const QString geerfd = veld->text();
+  veld->setFocus();
+  QTest::keyClicks(veld, "1234");
+  Kies("mnuReken");
+  EXPECT_EQ(veld->text(), geerfd);
+  venster->findChild<QMdiArea*>()->closeActiveSubWindow();
+  QTest::keyClick(veld, Qt::Key_Tab);
+  EXPECT_EQ(programma.Project.Elementen.at(bocht).Hoogte, geerfd.toDouble());
+  EXPECT_EQ(Aan(), WelBerekend) << "nothing has changed since the run";
+}
+
+TEST_F(Hoofdvenster, ARunTakesTheDirectivityAsItWasTyped) {
+  Open("kantoor.mrv");
+  venster->findChild<QTabWidget*>("SSTab1")->setCurrentIndex(2);
+  auto* veld = venster->findChild<QLineEdit*>("txtRDI");
+  veld->setFocus();
+  QTest::keyClicks(veld, "3");
+  Kies("mnuReken");
+  ASSERT_NE(Resultaat(), nullptr);
+  EXPECT_EQ(programma.Project.Ruimte.RDI, 3);
+  EXPECT_EQ(veld->text(), "3");
+  EXPECT_EQ(Aan(), WelBerekend) << "the result window in front is no leaving of the field";
+  venster->findChild<QMdiArea*>()->closeActiveSubWindow();
+  veld->setFocus();
+  QTest::keyClick(veld, Qt::Key_Tab);
+  EXPECT_EQ(programma.Project.Ruimte.RDI, 4) << "leaving the field snaps it";
+  EXPECT_EQ(Aan(), NietBerekend);
+}
+
+TEST_F(Hoofdvenster, ADirectivityThatIsNoNumberStopsTheRun) {
+  Open("kantoor.mrv");
+  venster->findChild<QTabWidget*>("SSTab1")->setCurrentIndex(2);
+  auto* veld = venster->findChild<QLineEdit*>("txtRDI");
+  veld->setFocus();
+  QTest::keyClicks(veld, "1,2,3");
+  Kies("mnuReken");
+  EXPECT_EQ(Resultaat(), nullptr);
+  EXPECT_EQ(veld->text(), "1,2,3");
+  EXPECT_EQ(veld->toolTip(), "Voer geldig getal in");
+}
+
+TEST_F(Hoofdvenster, ARunTakesAFlowThatThePrognosisGaveWhileTheFirstElementIsOpen) {
+  Open("plafond.mrv");
+  programma.Project.FanPrognose = fanbron::Prognose;
+  programma.Project.Fan.FanDebiet = 2;
+  ProjectVenster()->ToonProject(true);
+  auto* tabs = venster->findChild<QTabWidget*>("SSTab1");
+  tabs->setCurrentIndex(1);
+  venster->findChild<QListWidget*>("lstProject")->setCurrentRow(0);
+  EXPECT_EQ(programma.Project.Elementen[1].Debiet, 2);
+  programma.Project.Fan.FanDebiet = 3;
+  Kies("mnuReken");
+  ASSERT_NE(Resultaat(), nullptr);
+  EXPECT_EQ(programma.Project.Elementen[1].Debiet, 3);
+  venster->findChild<QMdiArea*>()->closeActiveSubWindow();
+  venster->findChild<QListWidget*>("lstTotaal")->setCurrentRow(0);
+  EXPECT_EQ(programma.Project.Elementen[1].Debiet, 3) << "the hidden box does not put the former flow back";
+}
+
+TEST_F(Hoofdvenster, ARedFanBandHoldsItsTabUntilItIsRight) {
+  Open("kantoor.mrv");
+  auto* tabs = venster->findChild<QTabWidget*>("SSTab1");
+  tabs->setCurrentIndex(0);
+  auto* veld = venster->findChild<QLineEdit*>("txtLw_0");
+  veld->setFocus();
+  QTest::keyClick(veld, Qt::Key_Delete);
+  Kies("mnuOverspraak");
+  QCoreApplication::processEvents();
+  EXPECT_EQ(programma.Project.Kop.RekenType, rekentype::Installatiegeluid);
+  EXPECT_TRUE(Actie("mnuVent")->isChecked());
+  EXPECT_EQ(tabs->currentIndex(), 0);
+  EXPECT_TRUE(veld->hasFocus());
+  QTest::keyClick(veld, Qt::Key_Escape);
+  Kies("mnuOverspraak");
+  EXPECT_EQ(programma.Project.Kop.RekenType, rekentype::Overspraak);
+}
+
+TEST_F(Hoofdvenster, AFanBandOfAFileThatIsNoNumberIsToldBetweenTwoRooms) {
+  Open("overspraak.mrv");
+  programma.Project.Fan.Lw[3] = std::numeric_limits<double>::quiet_NaN();
+  ProjectVenster()->ToonProject(true);
+  script.Box({MeldingSoort::Kritiek, "MurVane",
+              "Onverwachte fout in procedure Reken van Form frmMurvane.\nFout 6 - Overloop: een getal is te "
+              "groot of onbepaald "
+              "(geluidsspectrum ventilator, 500 Hz).",
+              Knoppen::OK});
+  Kies("mnuReken");
+  EXPECT_EQ(Aan(), NietBerekend);
+  EXPECT_NE(venster->findChild<QTabWidget*>("SSTab1")->currentIndex(), 0);
+}
+
+TEST_F(Hoofdvenster, ListsTheWindowsThatAreOpen) {
+  Open("kantoor.mrv");
+  Kies("mnuReken");
+  auto* menu = venster->findChild<QMenu*>("mnuVenster");
+  emit menu->aboutToShow();
+  EXPECT_EQ(Opschriften(menu), (QStringList{"Project", "Berekeningsresultaten"}));
+  EXPECT_TRUE(menu->actions().at(1)->isChecked());
+  menu->actions().at(0)->trigger();
+  EXPECT_EQ(venster->findChild<QMdiArea*>()->activeSubWindow()->widget(), ProjectVenster());
 }
 
 TEST_F(Hoofdvenster, ClosingAsksFirst) {

@@ -1,12 +1,24 @@
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QStyleFactory>
+#include <iostream>
+
+#include "shell/vensters_toepassing.h"
+
+namespace {
+
+/// The off-screen platform tells at every pop-up what it cannot do.
+void MeldBericht(QtMsgType, const QMessageLogContext&, const QString& bericht) {
+  if (!bericht.startsWith("This plugin does not support")) std::cerr << bericht.toStdString() << '\n';
+}
+
+}  // namespace
 
 int main(int aantal, char** argumenten) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
+  qInstallMessageHandler(MeldBericht);
   QApplication::setStyle(QStyleFactory::create("Fusion"));
-  const QApplication toepassing(aantal, argumenten);
+  const murvane::Toepassing toepassing(aantal, argumenten);
   testing::InitGoogleTest(&aantal, argumenten);
   return RUN_ALL_TESTS();
 }
