@@ -133,9 +133,13 @@ Tekening::Tekening(QWidget* ouder) : QWidget(ouder) {
 void Tekening::ZetType(std::int16_t elementType) {
   const auto* const beeld = std::find_if(Beelden.begin(), Beelden.end(),
                                          [elementType](const Beeld& een) { return een.Type == elementType; });
-  const bool bekend = beeld != Beelden.end();
-  bron_ = bekend ? LeesBron(QString(":/editor/beelden/") + beeld->Naam + ".svg") : QString();
-  setAccessibleName(bekend ? QString("Tekening: ") + beeld->Omschrijving : QString("Tekening"));
+  if (beeld == Beelden.end()) return ZetBeeld({}, {});
+  ZetBeeld(QString(":/editor/beelden/") + beeld->Naam + ".svg", beeld->Omschrijving);
+}
+
+void Tekening::ZetBeeld(const QString& pad, const QString& omschrijving) {
+  bron_ = pad.isEmpty() ? QString() : LeesBron(pad);
+  setAccessibleName(omschrijving.isEmpty() ? QString("Tekening") : "Tekening: " + omschrijving);
   Laad();
 }
 

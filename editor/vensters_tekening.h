@@ -13,7 +13,7 @@ namespace murvane {
 [[nodiscard]] QIcon Icoon(const QString& naam, const QPalette& palet);
 [[nodiscard]] QIcon Icoon(const QString& naam);
 
-/// The line drawing of an element type, in which the dimension of one field is lit.
+/// The line drawing of an element type or an estimate, in which the dimension of one field is lit.
 class Tekening : public QWidget {
   Q_OBJECT
 
@@ -21,6 +21,8 @@ class Tekening : public QWidget {
   explicit Tekening(QWidget* ouder);
 
   void ZetType(std::int16_t elementType);
+  /// Another drawing of the same family, out of the program's resources.
+  void ZetBeeld(const QString& pad, const QString& omschrijving);
   /// Lights the dimension of a field; one that the drawing does not show lights nothing.
   void Belicht(const QString& veldNaam);
   [[nodiscard]] const QString& Belicht() const { return belicht_; }

@@ -76,7 +76,10 @@ QString ObjectNaam(VeldId veld) {
 }
 
 InvoerVeld::InvoerVeld(VeldId veld, const QString& naam, QWidget* ouder)
-    : QLineEdit(ouder), veld_(veld), regel_(Regel(veld)) {
+    : InvoerVeld(veld, Regel(veld), naam, ouder) {}
+
+InvoerVeld::InvoerVeld(VeldId veld, const VeldRegel& regel, const QString& naam, QWidget* ouder)
+    : QLineEdit(ouder), veld_(veld), regel_(regel) {
   setObjectName(ObjectNaam(veld));
   setAccessibleName(naam);
   if (const int meest = MaxTekens(regel_); meest > 0) setMaxLength(meest);

@@ -23,6 +23,8 @@ class InvoerVeld : public QLineEdit {
 
  public:
   InvoerVeld(VeldId veld, const QString& naam, QWidget* ouder);
+  /// A field of another window, by the rule of its own table, which outlives it.
+  InvoerVeld(VeldId veld, const VeldRegel& regel, const QString& naam, QWidget* ouder);
 
   [[nodiscard]] VeldId Veld() const { return veld_; }
   void ZetKleur(std::uint32_t bgr);
