@@ -98,6 +98,7 @@ std::filesystem::path Vraag(QWidget* ouder, const BestandVraag& vraag, QFileDial
   dialoog.setOption(QFileDialog::DontConfirmOverwrite, !vraag.OverschrijfVraag);
   const bool eigenMap = vraag.Naam.has_parent_path();
   dialoog.setDirectory(NaarQt(eigenMap ? vraag.Naam.parent_path() : vraag.BeginMap));
+  dialoog.setDefaultSuffix(VanCp(vraag.Extensie));
   if (vraag.Naam.has_filename()) dialoog.selectFile(NaarQt(vraag.Naam.filename()));
   if (dialoog.exec() != QDialog::Accepted || dialoog.selectedFiles().isEmpty())
     throw Fout(FoutNummer::DialoogGeannuleerd);
@@ -140,6 +141,10 @@ std::filesystem::path SchermDialogen::OpenDialoog(const BestandVraag& vraag) {
 
 std::filesystem::path SchermDialogen::OpslaanDialoog(const BestandVraag& vraag) {
   return Vraag(Ouder(), vraag, QFileDialog::AcceptSave);
+}
+
+AfdrukKeuze SchermDialogen::AfdrukDialoog(const AfdrukVraag&) {
+  throw Fout(FoutNummer::DialoogGeannuleerd);  // no window prints yet
 }
 
 void SchermDialogen::Wachten(bool aan) {
