@@ -124,7 +124,9 @@ const OnderhoudBesturing& Besturing(std::string_view naam) {
 }
 
 OnderhoudUitkomst Waarschuw(std::string_view tekst, std::string_view titel = "Waarschuwing") {
-  return {.Focus = {}, .Box = Melding{MeldingSoort::Uitroep, std::string(titel), std::string(tekst)}};
+  OnderhoudUitkomst uit;
+  uit.Box = Melding{MeldingSoort::Uitroep, std::string(titel), std::string(tekst)};
+  return uit;
 }
 
 bool MetRuis(const Onderhoud& venster) {
@@ -221,7 +223,9 @@ void NaarLijst(Onderhoud& venster) {
 OnderhoudUitkomst NaarInvoer(Onderhoud& venster, Modus modus) {
   venster.Invoer = true;
   venster.Mode = modus;
-  return {.Focus = VeldId{"txtSpectrum"}, .Box = {}};
+  OnderhoudUitkomst uit;
+  uit.Focus = VeldId{"txtSpectrum"};
+  return uit;
 }
 
 /// Selects the row of `Rij`, if the list has it.
@@ -232,6 +236,11 @@ void KiesRij(Onderhoud& venster, const Catalogi& catalogi) {
 
 OnderhoudUitkomst MetFocusOpLijst(OnderhoudUitkomst uitkomst) {
   uitkomst.Focus = VeldId{"lstSpectrum"};
+  return uitkomst;
+}
+
+OnderhoudUitkomst MetNieuweRijen(OnderhoudUitkomst uitkomst) {
+  uitkomst.NieuweRijen = true;
   return uitkomst;
 }
 
@@ -368,7 +377,7 @@ OnderhoudUitkomst cmdwijzig_Click(Onderhoud& venster, const Catalogi& catalogi) 
 OnderhoudUitkomst cmdOK_Click(Onderhoud& venster, Catalogi& catalogi, Dialogen& dialogen, char decimaal) {
   const OnderhoudVerschil& v = OnderhoudVan(venster.Soort);
   const Waarden waarden = LeesWaarden(venster, decimaal);
-  if (waarden.Rood) return {.Focus = waarden.Rood, .Box = {}};
+  if (waarden.Rood) return {.Focus = waarden.Rood};
   std::string& naam = venster.Velden.txtSpectrum.Tekst;
   if (naam.empty()) {
     (void)dialogen.Toon(*Waarschuw(v.LegeNaam).Box);
@@ -385,7 +394,7 @@ OnderhoudUitkomst cmdOK_Click(Onderhoud& venster, Catalogi& catalogi, Dialogen& 
   });
   NaarLijst(venster);
   KiesRij(venster, catalogi);
-  return MetFocusOpLijst(lstSpectrum_Click(venster, catalogi, venster.Gekozen, decimaal));
+  return MetNieuweRijen(MetFocusOpLijst(lstSpectrum_Click(venster, catalogi, venster.Gekozen, decimaal)));
 }
 
 OnderhoudUitkomst cmdCancel_Click(Onderhoud& venster, const Catalogi& catalogi, char decimaal) {
@@ -404,14 +413,14 @@ OnderhoudUitkomst cmdWissen_Click(Onderhoud& venster, Catalogi& catalogi, Dialog
   venster.Velden = {};
   if (venster.Rij > AantalVan(catalogi, venster.Soort)) --venster.Rij;
   KiesRij(venster, catalogi);
-  return lstSpectrum_Click(venster, catalogi, venster.Gekozen, decimaal);
+  return MetNieuweRijen(lstSpectrum_Click(venster, catalogi, venster.Gekozen, decimaal));
 }
 
 OnderhoudUitkomst mnuSortNaam_Click(Onderhoud& venster, Catalogi& catalogi, Dialogen& dialogen) {
   const Zandloper zandloper(dialogen);
   Sorteren(catalogi, venster.Soort);
   venster.Gekozen = -1;
-  return {};
+  return MetNieuweRijen({});
 }
 
 bool cmdSluiten_Click(const Onderhoud& venster, const Catalogi& catalogi, const std::filesystem::path& map,

@@ -149,8 +149,9 @@ inline constexpr std::string_view Lijstweergave = "Lijstweergave";
 
 /// What is left for the window to do after it has shown the state.
 struct OnderhoudUitkomst {
-  std::optional<VeldId> Focus;          ///< the control that gets the focus
-  std::optional<murvane::Melding> Box;  ///< to show
+  std::optional<VeldId> Focus{};          ///< the control that gets the focus
+  std::optional<murvane::Melding> Box{};  ///< to show
+  bool NieuweRijen = false;               ///< the rows of lstSpectrum are others
 
   friend bool operator==(const OnderhoudUitkomst&, const OnderhoudUitkomst&) = default;
 };

@@ -10,6 +10,7 @@
 #include "basis/getal.h"
 #include "basis/tekst.h"
 #include "calc/spectrum.h"
+#include "reports/vlak.h"
 
 namespace murvane {
 
@@ -136,6 +137,29 @@ void DrukRegel(OverzichtPagina& pagina, std::string_view rij) {
   pagina.emplace_back();
 }
 
+/// Draws all pages; the widest line stands in the middle of the sheet, so that no printer cuts it.
+void Druk(Vlak& blad, const std::vector<OverzichtPagina>& paginas) {
+  constexpr double Bovenmarge = 567;  // twips, 10 mm
+  blad.ZetFontNaam("Courier New");
+  blad.ZetFontSize(7.2);
+  const double vrij = blad.ScaleWidth() - blad.TextWidth(std::string(OverzichtBreedte, '-'));
+  for (std::size_t p = 0; p < paginas.size(); ++p) {
+    if (p > 0) blad.NewPage();
+    blad.ZetCurrentY(Bovenmarge);
+    for (const std::string& regel : paginas[p]) {
+      blad.ZetCurrentX(std::max(vrij / 2, 0.0));
+      blad.PrintRegel(regel);
+    }
+  }
+  blad.EndDoc();
+}
+
+/// Tells the failure of a command, but not that its dialog was cancelled.
+void Meld(std::string_view procedure, const std::optional<Fout>& fout, Dialogen& dialogen) {
+  if (!fout || fout->Nummer() == FoutNummer::DialoogGeannuleerd) return;
+  (void)dialogen.Toon(OnverwachteFout(procedure, "frmOverzicht", *fout));
+}
+
 std::string_view Achtervoegsel(std::string_view filter) {
   return filter.substr(filter.size() - std::min<std::size_t>(filter.size(), 3));
 }
@@ -226,15 +250,26 @@ std::string OverzichtBytes(const OverzichtUitslag& overzicht) {
 void Opslaan(const OverzichtUitslag& overzicht, Dialogen& dialogen) {
   const auto fout = Probeer([&] {
     BestandVraag vraag;
+    vraag.Titel = "Opslaan als";
     vraag.Filter = overzicht.OverzichtFilter;
     vraag.OverschrijfVraag = true;
+    vraag.Extensie = Achtervoegsel(overzicht.OverzichtFilter);
     const std::filesystem::path pad = dialogen.OpslaanDialoog(vraag);
     if (pad.empty()) return;
     const Zandloper zandloper(dialogen);
     VervangBestand(pad, OverzichtBytes(overzicht));
   });
-  if (!fout || fout->Nummer() == FoutNummer::DialoogGeannuleerd) return;
-  (void)dialogen.Toon(OnverwachteFout("Opslaan", "frmOverzicht", *fout));
+  Meld("Opslaan", fout, dialogen);
+}
+
+void Printer(const OverzichtUitslag& overzicht, Dialogen& dialogen) {
+  const auto fout = Probeer([&] {
+    const AfdrukKeuze keuze = dialogen.AfdrukDialoog({.NaarBestandMogelijk = false, .Liggend = true});
+    const Zandloper zandloper(dialogen);
+    for (int exemplaar = 0; exemplaar < keuze.Exemplaren; ++exemplaar)
+      Druk(*keuze.NieuwDocument(), Uitvoer(overzicht));
+  });
+  Meld("Printer", fout, dialogen);
 }
 
 std::vector<OverzichtPagina> Uitvoer(const OverzichtUitslag& overzicht) {

@@ -79,6 +79,10 @@ inline constexpr std::size_t OverzichtBreedte = 185;
 /// The printed overview. Its head is four characters narrower than the listing's.
 [[nodiscard]] std::vector<OverzichtPagina> Uitvoer(const OverzichtUitslag& overzicht);
 
+/// Asks for a printer and prints the overview on sheets that lie on their long side, a document for each
+/// copy. A failure is told.
+void Printer(const OverzichtUitslag& overzicht, Dialogen& dialogen);
+
 /// Whether frmOverzicht can print a listing with this filter: a list of projects has no printed form.
 [[nodiscard]] bool PrintknopAan(std::string_view filter);
 /// The filter that is left when frmOverzicht closes.

@@ -40,6 +40,7 @@ class Vlak;
 /// The print dialog: no choice of pages and no selection.
 struct AfdrukVraag {
   bool NaarBestandMogelijk = true;  ///< offers to print to a file
+  bool Liggend = false;             ///< lays the sheets on their long side
 
   friend bool operator==(const AfdrukVraag&, const AfdrukVraag&) = default;
 };

@@ -358,7 +358,7 @@ TEST_P(ElkVenster, AddsAtTheEndAndSelectsIt) {
 
   v.o.Velden.txtSpectrum.Tekst = "nieuw é"_cp;
   for (std::size_t b = 0; b < 7; ++b) v.o.Velden.txtdemp[b].Tekst = std::to_string(b) + ".25";
-  EXPECT_EQ(v.OK(), (OnderhoudUitkomst{VeldId{"lstSpectrum"}, {}}));
+  EXPECT_EQ(v.OK(), (OnderhoudUitkomst{VeldId{"lstSpectrum"}, {}, true}));
   EXPECT_EQ(v.o.Mode, Modus::add);  // it keeps its value
   EXPECT_FALSE(v.o.Invoer);
   EXPECT_EQ(OnderhoudPaneel1(v.o), "Lijstweergave");
@@ -598,7 +598,7 @@ TEST_P(ElkVenster, DeletesAfterTheQuestionAndMovesTheRestUp) {
   EXPECT_EQ(v.Wissen(), OnderhoudUitkomst{});
   EXPECT_EQ(v.Aantal(), e + 2);
   v.script.Box(vraag);
-  EXPECT_EQ(v.Wissen(), OnderhoudUitkomst{});
+  EXPECT_EQ(v.Wissen(), (OnderhoudUitkomst{{}, {}, true}));
   EXPECT_THAT(v.Rijen(), ElementsAre("een", "drie"));
   EXPECT_EQ(v.Waarden(e + 1), v.Waarden(e + 2));  // the slot behind the end keeps its content
   EXPECT_EQ(v.o.Rij, e + 1);
@@ -635,7 +635,7 @@ TEST_P(ElkVenster, WarnsOfAnEmptyListWhenTheOnlyRecordIsDeleted) {
 TEST_P(ElkVenster, SortsAndDropsTheSelectionButNotTheFields) {
   Venster v(GetParam(), {"b", "a"});
   v.Klik(0);
-  EXPECT_EQ(mnuSortNaam_Click(v.o, v.catalogi, v.script), OnderhoudUitkomst{});
+  EXPECT_EQ(mnuSortNaam_Click(v.o, v.catalogi, v.script), (OnderhoudUitkomst{{}, {}, true}));
   EXPECT_THAT(v.Rijen(), ElementsAre("a", "b"));
   EXPECT_EQ(v.o.Gekozen, -1);
   EXPECT_EQ(v.o.Velden.txtSpectrum.Tekst, "b");

@@ -5,9 +5,13 @@
 
 #include <algorithm>
 #include <array>
+#include <deque>
+#include <memory>
 #include <random>
 
+#include "basis/fout.h"
 #include "basis/tekst.h"
+#include "reports/vlak.h"
 #include "tests/hulp/bestanden.h"
 #include "tests/hulp/script.h"
 
@@ -265,7 +269,9 @@ TEST(OverzichtOpslaan, WritesTheListingAndALineEnd) {
   Voeg(catalogi.CatRduct, "Staal 1 mm²"_cp);
   const OverzichtUitslag o = Alles(catalogi, CatalogusSoort::Luchtkanalen);
   BestandVraag vraag;
+  vraag.Titel = "Opslaan als";
   vraag.Filter = "Overzichten luchtkanalen (*.dct)|*.dct";
+  vraag.Extensie = "dct";
   vraag.OverschrijfVraag = true;
   Script script = Gebruiker();
   script.Opslaan(vraag, map / "lijst é.dct");
@@ -278,7 +284,9 @@ TEST(OverzichtOpslaan, IsSilentWhenTheDialogIsCancelledAndTellsAFailure) {
   const TijdelijkeMap map;
   const OverzichtUitslag o = Alles({}, CatalogusSoort::Plafonds);
   BestandVraag vraag;
+  vraag.Titel = "Opslaan als";
   vraag.Filter = "Overzichten plafonds (*.plf)|*.plf";
+  vraag.Extensie = "plf";
   vraag.OverschrijfVraag = true;
   Script script = Gebruiker();
   script.Opslaan(vraag, std::nullopt);
@@ -381,6 +389,107 @@ TEST(Uitvoer, KeepsEveryLineWithinItsWidth) {
   for (const OverzichtPagina& pagina : Uitvoer(Alles(catalogi, CatalogusSoort::Kanaalelementen)))
     for (const std::string& regel : pagina) breedste = std::max(breedste, regel.size());
   EXPECT_EQ(breedste, OverzichtBreedte);
+}
+
+// Printing.
+
+constexpr AfdrukVraag Drukvraag{.NaarBestandMogelijk = false, .Liggend = true};
+
+/// What was printed on one document.
+struct Drukwerk {
+  std::string Font;
+  double Punten = 0;
+  bool Klaar = false;
+  std::vector<OverzichtPagina> Paginas{1};
+  std::vector<std::pair<double, double>> Plaatsen;  ///< of every line, twips
+};
+
+/// A printer with an A4 sheet on its long side. A character is 0.6 of the font size wide.
+class Papier final : public Vlak {
+ public:
+  explicit Papier(Drukwerk& naar) : naar_(naar) {}
+  [[nodiscard]] double ScaleWidth() const override { return 16838; }
+  [[nodiscard]] double ScaleHeight() const override { return 11906; }
+  void ZetStaand() override { ADD_FAILURE() << "upright"; }
+  void ZetFontNaam(std::string_view naam) override { naar_.Font = naam; }
+  void ZetFontSize(double punten) override { naar_.Punten = punten; }
+  void ZetFontBold(bool) override {}
+  void ZetFontItalic(bool) override {}
+  [[nodiscard]] double FontSize() const override { return naar_.Punten; }
+  [[nodiscard]] double CurrentX() const override { return x_; }
+  [[nodiscard]] double CurrentY() const override { return y_; }
+  void ZetCurrentX(double x) override { x_ = x; }
+  void ZetCurrentY(double y) override { y_ = y; }
+  [[nodiscard]] double TextWidth(std::string_view tekst) const override {
+    return 12 * naar_.Punten * static_cast<double>(tekst.size());
+  }
+  [[nodiscard]] double TextHeight(std::string_view) const override { return 22.5 * naar_.Punten; }
+  void Print(std::string_view) override { ADD_FAILURE() << "no whole line"; }
+  void PrintRegel(std::string_view tekst) override {
+    naar_.Paginas.back().emplace_back(tekst);
+    naar_.Plaatsen.emplace_back(x_, y_);
+    x_ = 0;
+    y_ += TextHeight(tekst);
+    EXPECT_LE(y_, ScaleHeight());
+  }
+  void Lijn(double, double, double, double, Kleur) override { ADD_FAILURE() << "line"; }
+  void Doos(double, double, double, double, Kleur) override { ADD_FAILURE() << "box"; }
+  void PaintPicture(const Grafiek&, double, double, double, double) override { ADD_FAILURE() << "chart"; }
+  void NewPage() override { naar_.Paginas.emplace_back(), x_ = 0, y_ = 0; }
+  [[nodiscard]] int Page() const override { return static_cast<int>(naar_.Paginas.size()); }
+  void EndDoc() override { naar_.Klaar = true; }
+  void BewaarBlad(int) override { ADD_FAILURE() << "preview"; }
+  void Cls() override { ADD_FAILURE() << "preview"; }
+
+ private:
+  Drukwerk& naar_;
+  double x_ = 0, y_ = 0;
+};
+
+AfdrukKeuze Exemplaren(int aantal, std::deque<Drukwerk>& naar) {
+  return {aantal, false,
+          [&naar]() -> std::unique_ptr<Vlak> { return std::make_unique<Papier>(naar.emplace_back()); }};
+}
+
+Catalogi MetDempers(int aantal) {
+  Catalogi catalogi = MetElementen({});
+  for (int k = 1; k <= aantal; ++k) Voeg(catalogi.CatElementen, "nr " + std::to_string(k));
+  return catalogi;
+}
+
+TEST(OverzichtPrinter, DrawsEveryPageOnceACopyInTheFixedFont) {
+  const OverzichtUitslag o = Alles(MetDempers(30), CatalogusSoort::Kanaalelementen);
+  std::deque<Drukwerk> documenten;
+  Script script = Gebruiker();
+  script.Afdrukken(Drukvraag, Exemplaren(2, documenten));
+  Printer(o, script);
+  ASSERT_EQ(documenten.size(), 2U);
+  for (const Drukwerk& document : documenten) {
+    EXPECT_EQ(document.Font, "Courier New");
+    EXPECT_EQ(document.Punten, 7.2);
+    EXPECT_TRUE(document.Klaar);
+    EXPECT_EQ(document.Paginas, Uitvoer(o));
+    EXPECT_EQ(document.Paginas.size(), 3U);
+    // 185 characters of 0.6 x 7.2 points are 15984 of the sheet's 16838 twips: 427 remain on either side
+    for (const auto& [x, y] : document.Plaatsen) {
+      EXPECT_NEAR(x, 427, 0.01);
+      EXPECT_GE(y, 567);
+    }
+  }
+  EXPECT_EQ(script.KeerGewacht(), 1);
+}
+
+TEST(OverzichtPrinter, IsSilentWhenCancelledAndTellsAFailure) {
+  const OverzichtUitslag o = Alles(MetDempers(1), CatalogusSoort::Kanaalelementen);
+  Script script = Gebruiker();
+  script.Afdrukken(Drukvraag, std::nullopt);
+  Printer(o, script);
+  const auto faalt = []() -> std::unique_ptr<Vlak> { throw Fout(FoutNummer::PadToegang); };
+  script.Afdrukken(Drukvraag, AfdrukKeuze{1, false, faalt});
+  script.Box({MeldingSoort::Kritiek, "MurVane",
+              "Onverwachte fout in procedure Printer van Form frmOverzicht.\nFout 75 - " +
+                  std::string(Beschrijving(FoutNummer::PadToegang)) + "."});
+  Printer(o, script);
 }
 
 // Sorting.
