@@ -72,6 +72,8 @@ void KleurLijst(Lijstvak& vak, bool actief) {
   if (actief) return ZetAchtergrond(vak, ActieveKleur);
   palet.setColor(QPalette::Base, palet.color(QPalette::Button));
   palet.setColor(QPalette::Text, palet.color(QPalette::ButtonText));
+  palet.setColor(QPalette::Highlight, palet.color(QPalette::Mid));  // its row is not what the buttons act on
+  palet.setColor(QPalette::HighlightedText, palet.color(QPalette::ButtonText));
   vak.setPalette(palet);
 }
 
@@ -105,6 +107,7 @@ void frmMurvane::ToonProject(bool isNieuwOfGeopend) {
   ToonType();
   ToonLijsten();
   if (MonthView != nullptr) MonthView->hide();
+  leeg_->hide();
   SSTab1->show();
   if (isNieuwOfGeopend) {
     laatsteFan_ = 0;  // a fan of the list that was chosen for another project
@@ -117,10 +120,11 @@ void frmMurvane::ToonProject(bool isNieuwOfGeopend) {
 void frmMurvane::ToonGeenProject() {
   const QScopedValueRollback<bool> vult(vult_, true);
   SSTab1->hide();
+  leeg_->show();
   ProgressBar1->hide();
   if (SSTab1->count() > 0) {
-    SSTab2->hide();
-    tekening_->hide();
+    ToonLijsten();
+    lblElement->clear();
     lblLwA->clear();
   }
   if (MonthView != nullptr) MonthView->hide();
@@ -209,7 +213,9 @@ void frmMurvane::ToonLijsten() {
     knoppen_[i]->setEnabled(KnopAan(Toolbarknoppen[i], lijst_));
   if (lijst_.SSTab2) return;
   SSTab2->hide();
-  tekening_->hide();
+  lblElement->clear();
+  tekening_->ZetType(lijst_.CatalogusPositie > 0 ? TypeVanRecord(lijst_.CatalogusPositie) : std::int16_t{0});
+  tekening_->Belicht({});
 }
 
 void frmMurvane::ZetZichtbaar(VeldId veld, bool zichtbaar) {
@@ -333,6 +339,17 @@ bool frmMurvane::IsGeldig(const InvoerVeld& veld) const {
   return ValiDate(NaarCp(veld.text()), Regel(veld.Veld()), vandaag_, decimaal_).Geldig;
 }
 
+/// To the next tab that is enabled, round and round. The field in hand is left first.
+void frmMurvane::WandelTab(int richting) {
+  if (!SSTab1->isVisible()) return;
+  SSTab1->tabBar()->setFocus(Qt::TabFocusReason);
+  int blad = SSTab1->currentIndex();
+  do {
+    blad = (blad + richting + SSTab1->count()) % SSTab1->count();
+  } while (!SSTab1->isTabEnabled(blad));
+  SSTab1->setCurrentIndex(blad);
+}
+
 bool frmMurvane::BewaarVeld() {
   return Bewaar(true);
 }
@@ -401,7 +418,8 @@ void frmMurvane::Open(int n) {
     for (const VeldStand& stand : opening.Beeld.Stand) ZetZichtbaar(stand.Veld, stand.Zichtbaar);
     if (opening.SSTab2Zichtbaar) SSTab2->setCurrentIndex(static_cast<int>(opening.Beeld.OpPagina));
     SSTab2->setVisible(opening.SSTab2Zichtbaar);
-    tekening_->setVisible(opening.SSTab2Zichtbaar);
+    ZetOpschriften(project_.Elementen[static_cast<std::size_t>(n)].ElementType);
+    lblElement->setText(VanCp(TrimRechts(RijProject(project_, n))));
     tekening_->ZetType(project_.Elementen[static_cast<std::size_t>(n)].ElementType);
     tekening_->Belicht({});
   }
@@ -519,14 +537,12 @@ void frmMurvane::MonthView_DateClick(const QDate& datum) {
 
 void frmMurvane::KiesType(std::int16_t rekenType) {
   if (!BewaarVeld()) return;
-  Veilig(std::string(TypeVan(rekenType).Menu) + "_Click", [&] {
-    BouwTabs();
-    VoerUit(KiesRekenType(sessie_, project_, rekenType));
-    ToonType();
-    SSTab1->setCurrentIndex(static_cast<int>(StartPagina));
-    VoerUit(VrVldSet(project_));
-    VormPagina();
-  });
+  BouwTabs();
+  VoerUit(KiesRekenType(sessie_, project_, rekenType));
+  ToonType();
+  SSTab1->setCurrentIndex(static_cast<int>(StartPagina));
+  VoerUit(VrVldSet(project_));
+  VormPagina();
 }
 
 ProjectInvoer frmMurvane::LeesInvoer() const {

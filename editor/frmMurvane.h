@@ -102,10 +102,12 @@ class frmMurvane : public QWidget {
   void BouwKalender();
   InvoerVeld* VoegVeld(QGridLayout* indeling, int rij, VeldId veld, const QString& tekst,
                        const QString& eenheid, const char* labels, int kolom = 0);
+  void ZetOpschriften(std::int16_t elementType);
   BandRij* VoegBanden(std::string_view naam, int eerste, const QString& tekst);
   QLabel* MaakLabel(const QString& tekst, const char* reeks, QWidget* buddy);
   QLabel* BandLabel(const QString& tekst, const char* reeks, const BandRij* rij);
   void MeldAan(InvoerVeld* veld);
+  void VerbindTabs();
   void VerbindFan();
   void VerbindLijsten();
   void VerbindKeuzes();
@@ -126,6 +128,7 @@ class frmMurvane : public QWidget {
   void PasToe(const VeldUitslag& uitslag);  ///< shows it; an invalid field gets the focus back
   void ZetZichtbaar(VeldId veld, bool zichtbaar);
   bool GaNaar(const QString& naam);
+  void WandelTab(int richting);
   [[nodiscard]] bool Bewaar(bool ookRDI);
   [[nodiscard]] bool IsGeldig(const InvoerVeld& veld) const;
 
@@ -189,6 +192,9 @@ class frmMurvane : public QWidget {
   QTabWidget* SSTab1 = nullptr;
   QStackedWidget* SSTab2 = nullptr;
   Tekening* tekening_ = nullptr;
+  Tekening* ruimteTekening_ = nullptr;
+  Tekening* leeg_ = nullptr;  ///< in the place of SSTab1 while no project is open
+  QLabel* lblElement = nullptr;
   Lijstvak *lstTotaal = nullptr, *lstProject = nullptr, *lstFan = nullptr;
   std::vector<QToolButton*> knoppen_;  ///< in the order of Toolbarknoppen
   QProgressBar* ProgressBar1 = nullptr;

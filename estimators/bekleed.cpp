@@ -26,14 +26,14 @@ constexpr double MinAlpha = 0.01;
 constexpr double MaxAlpha = 1;
 
 double Alpha(double d, std::size_t i) {
-  const auto& [rij0, rij1, rij2] = AlphaTabel;
-  const double t0 = rij0.alpha[i];
-  const double t1 = rij1.alpha[i];
-  const double t2 = rij2.alpha[i];
-  if (d < 12.5) return (t0 - MinAlpha) * (d / 12.5) + MinAlpha;
-  if (d < 25) return (t1 - t0) * (d - 12.5) / 12.5 + t0;
-  if (d < 50) return (t2 - t1) * (d - 25) / 25 + t1;
-  return Deel((t2 - t1) * (d - 50), d) + t2;  // divided by d and not by a step: it levels off
+  const auto& [dun, midden, dik] = AlphaTabel;
+  const double t0 = dun.alpha[i];
+  const double t1 = midden.alpha[i];
+  const double t2 = dik.alpha[i];
+  if (d < dun.dikte) return (t0 - MinAlpha) * (d / dun.dikte) + MinAlpha;
+  if (d < midden.dikte) return (t1 - t0) * (d - dun.dikte) / (midden.dikte - dun.dikte) + t0;
+  if (d < dik.dikte) return (t2 - t1) * (d - midden.dikte) / (dik.dikte - midden.dikte) + t1;
+  return Deel((t2 - t1) * (d - dik.dikte), d) + t2;  // divided by d and not by a step: it levels off
 }
 
 std::string Omschrijving(const BekleedInvoer& in, char decimaal) {

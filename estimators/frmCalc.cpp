@@ -39,6 +39,12 @@ QPushButton* MaakKnop(const char* naam, const QString& tekst, QWidget* ouder) {
   return knop;
 }
 
+/// The Tab key comes to the chosen option alone; the arrow keys go to the others.
+void HoudTabstop(const QButtonGroup& groep) {
+  for (QAbstractButton* const optie : groep.buttons())
+    optie->setFocusPolicy(optie->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
+}
+
 QString Grootheid(Schatter soort) {
   return soort == Schatter::Kanaalwand ? "R in dB" : "Demping in dB";
 }
@@ -107,16 +113,18 @@ QWidget* frmCalc::BouwMaterialen() {
   for (const KanaalSoort& soort : KanaalSoorten) {
     auto* const optie = new QRadioButton(VanCp(soort.Caption), vak);
     optie->setObjectName(VanCp(soort.Naam));
-    optie->setChecked(soort.KanaalType == invoer_.Kanaalwand.KanaalType);
-    groep->addButton(optie);
+    groep->addButton(optie, soort.KanaalType);
     indeling->addWidget(optie, nummer / 2, nummer % 2);
     ++nummer;
-    connect(optie, &QRadioButton::toggled, this, [this, &soort](bool aan) {
-      if (!aan) return;
-      invoer_.Kanaalwand.KanaalType = soort.KanaalType;
-      ToonVoorproef();
-    });
   }
+  groep->button(invoer_.Kanaalwand.KanaalType)->setChecked(true);
+  HoudTabstop(*groep);
+  connect(groep, &QButtonGroup::idToggled, this, [this, groep](int kanaalType, bool aan) {
+    if (!aan) return;
+    HoudTabstop(*groep);
+    invoer_.Kanaalwand.KanaalType = kanaalType;
+    ToonVoorproef();
+  });
   return vak;
 }
 
@@ -134,7 +142,10 @@ void frmCalc::VoegVeld(QGridLayout* indeling, int rij, const SchatVeld& veld) {
   connect(vak, &QLineEdit::textChanged, this, &frmCalc::ToonVoorproef);
   connect(vak, &InvoerVeld::Verlaten, this, [this, nummer] { Verlaat(nummer); });
   connect(vak, &InvoerVeld::Enter, this, [this, &veld] { Vak(veld.Regel.Opvolgers[0])->setFocus(); });
-  connect(vak, &InvoerVeld::Escape, this, [vak] { vak->setText("0"); });
+  connect(vak, &InvoerVeld::Escape, this, [vak] {
+    vak->setText("0");
+    vak->setToolTip({});
+  });
   connect(vak, &InvoerVeld::Gekregen, this, [this, vak] { tekening_->Belicht(vak->objectName()); });
 }
 

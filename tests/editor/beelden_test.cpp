@@ -64,8 +64,10 @@ const std::vector<Tekening>& Tekeningen() {
       {"doorsnede-rond", {{"txtH1Doorsnee", "D1"}, {"txtH2Doorsnee", "D2"}, {"txtLDoorsnee", "l"}}},
       {"kanaal-recht", {{"txtHoogte", "h"}, {"txtBreedte", "b"}, {"txtLengte", "l"}, {"txtDebiet", "q"}}},
       {"kanaal-rond", {{"txtHoogte", "D"}, {"txtLengte", "l"}, {"txtDebiet", "q"}}},
+      {"keten", {}},
       {"regelklep", {{"txtWeerstand", "Δp"}}},
       {"rooster", {{"txtSnetto", "S"}, {"txtWeerstand", "Δp"}}},
+      {"ruimte", {{"txtRLengte", "l"}, {"txtRBreedte", "b"}, {"txtRHoogte", "h"}}},
       {"bekleed-kanaal", {{"Text1", "h"}, {"Text2", "b"}, {"Text3", "d"}, {"Text4", "l"}}, "estimators"},
       {"kanaalwand", {{"txtDikte", "d"}, {"txtMassa", "m"}}, "estimators"},
       {"kwartlambda-demper", {{"Text1", "h"}, {"Text2", "b"}, {"Text3", "l"}, {"Text4", "S2"}}, "estimators"},
@@ -76,9 +78,11 @@ const std::vector<Tekening>& Tekeningen() {
   return tabel;
 }
 
-const std::vector<std::string> Pictogrammen = {"berekend", "grafiek",   "invoegen",  "kalender",
-                                               "omhoog",   "omlaag",    "opslaan",   "pdf",
-                                               "printen",  "toevoegen", "voorbeeld", "wissen"};
+const std::vector<std::string> Pictogrammen = {
+    "berekend", "calculator", "exit",          "gebruiker",  "grafiek",     "help",    "info",
+    "invoegen", "kalender",   "kanaalelement", "letter",     "luchtkanaal", "nieuw",   "omhoog",
+    "omlaag",   "openen",     "opslaan",       "pdf",        "plafond",     "printen", "reken",
+    "sluiten",  "toevoegen",  "type",          "ventilator", "voorbeeld",   "wissen"};
 
 using Kenmerken = std::map<std::string, std::string>;
 
@@ -230,7 +234,7 @@ TEST(Beelden, TheReaderFindsWhatIsNotWellFormed) {
   EXPECT_NE(OntleedSvg("<svg/>").fout, "");
 }
 
-TEST(Beelden, EveryElementTypeAndEstimatorHasItsDrawingAndNothingElseLiesThere) {
+TEST(Beelden, EveryElementTypeEstimatorChainAndRoomHasItsDrawingAndNothingElseLiesThere) {
   for (const std::string map : {"editor", "estimators"}) {
     std::vector<std::string> namen;
     for (const Tekening& tekening : Tekeningen())

@@ -53,6 +53,10 @@ TEST(Bekleed, AttenuatesByTheAbsorptionScaledAboveTheWidthOfTheDuct) {
       Demping(BekleedInvoer{400, 600, 50, 2.5}),
       {0.8293899387, 4.226381847, 10.18991387, 17.41945261, 9.67438328, 3.557175223, 1.266589978}, "600x400");
   proef::VerwachtZeven(
+      Demping(BekleedInvoer{200, 300, 25, 1.5}),
+      {0.2759459323, 1.284676421, 5.980858254, 11.10205173, 18.29220208, 9.917827281, 3.387786165},
+      "300x200");
+  proef::VerwachtZeven(
       Demping(BekleedInvoer{1000, 0, 100, 3}),
       {0.6897662478, 3.562298045, 7.576118188, 6.993486226, 2.650035732, 0.9483954511, 0.3437509207},
       "1000 round");

@@ -74,9 +74,17 @@ TEST(Kanaalwand, AddsAndNamesTheMassAgainstDrumming) {
   const KanaalwandInvoer invoer{kanaaltype::Zink, 2, 5.5};
   EXPECT_EQ(NaamVan(cmdOK_Click(invoer, ',')), "verzinkt staal,  2 mm, massa ontdreuning  5,5 kg/m²"_cp);
   EXPECT_EQ(NaamVan(cmdOK_Click(invoer, '.')), "verzinkt staal,  2 mm, massa ontdreuning  5.5 kg/m²"_cp);
+  EXPECT_EQ(NaamVan(cmdOK_Click(KanaalwandInvoer{kanaaltype::Zink, 2, 0.1}, ',')),
+            "verzinkt staal,  2 mm, massa ontdreuning  0,1 kg/m²"_cp);
   EXPECT_EQ(Waarden(cmdOK_Click(invoer, ',')), "16 21 26 31 35 36 39");
   EXPECT_EQ(NaamVan(cmdOK_Click(KanaalwandInvoer{kanaaltype::Zink, 2, 5}, ',')),
             "verzinkt staal,  2 mm, massa ontdreuning  5 kg/m²"_cp);
+}
+
+// 1 mm of steel and 16.4 kg/m²: 24.2 kg/m²; 4000 Hz: mf 96.8, 30·log10 146.8 - 24.5 = 40.5016, just over the
+// half.
+TEST(Kanaalwand, RoundsTheUnroundedValue) {
+  EXPECT_EQ(Waarden(cmdOK_Click(KanaalwandInvoer{kanaaltype::Zink, 1, 16.4}, '.')), "17 22 27 32 35 36 41");
 }
 
 // 10 mm of steel is 78 kg/m²: with 72 it is 150, with 72.1 just over, where 125 Hz (mf 18.76) falls from

@@ -324,6 +324,8 @@ TEST_F(SchatVensters, ARedFieldHoldsTheFocusAndOKDoesNothing) {
   EXPECT_TRUE(venster->isVisible());
   EXPECT_EQ(Focus(), "Text4");
   Druk(Qt::Key_Escape);
+  EXPECT_FALSE(IsRood("Text4"));
+  EXPECT_EQ(Veld("Text4")->toolTip(), "");
   Typ("1");
   EXPECT_EQ(Veld("Text4")->text(), "01");
   Klik("cmdOK");
@@ -363,6 +365,21 @@ TEST_F(SchatVensters, TheMaterialIsChosenAndKept) {
   EXPECT_EQ(Waarden(), "-4 1 6 11 16 21 26");
   Open(Schatter::Kanaalwand);
   EXPECT_TRUE(Zoek<QRadioButton>("optKunststof")->isChecked());
+}
+
+TEST_F(SchatVensters, TabGoesRoundByTheChosenMaterial) {
+  invoer.Kanaalwand = {kanaaltype::Alu, 2, 5};
+  Open(Schatter::Kanaalwand);
+  for (const char* const naam : {"txtMassa", "cmdOK", "cmdCancel", "optAlu", "txtDikte"}) {
+    Druk(Qt::Key_Tab);
+    EXPECT_EQ(Focus().toStdString(), naam);
+  }
+  Zoek<QRadioButton>("optAlu")->setFocus(Qt::TabFocusReason);
+  Druk(Qt::Key_Right);
+  EXPECT_EQ(Omschrijving(), "kunststof,  2 mm, massa ontdreuning  5 kg/m²");
+  Zoek<QPushButton>("cmdCancel")->setFocus(Qt::TabFocusReason);
+  Druk(Qt::Key_Tab);
+  EXPECT_EQ(Focus().toStdString(), "optKunststof");
 }
 
 TEST_F(SchatVensters, ThePreviewFollowsTheTyping) {
@@ -429,7 +446,8 @@ TEST_F(SchatVensters, BarsGrowWithTheirValues) {
     const QImage beeld = staven.grab().toImage();
     const QColor kleur = staven.palette().color(QPalette::Highlight);
     int pixels = 0;
-    for (int y = 0; y < beeld.height(); ++y) pixels += beeld.pixelColor(beeld.width() / 2, y) == kleur ? 1 : 0;
+    for (int y = 0; y < beeld.height(); ++y)
+      pixels += beeld.pixelColor(beeld.width() / 2, y) == kleur ? 1 : 0;
     return pixels;
   };
   EXPECT_EQ(hoogte("0"), 0);
