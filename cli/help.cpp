@@ -55,9 +55,13 @@ std::string OptieNaam(const OptieRegel& optie) {
 }
 
 std::string Gebruik(const OpdrachtRegel& regel) {
-  if (regel.Code == Opdracht::Programma) return "Gebruik: murvane-cli OPDRACHT [OPTIES]\n\n";
-  std::string uit = "Gebruik: murvane-cli " + std::string(regel.Naam);
-  if (!regel.Argument.empty()) uit.append(" ").append(regel.Argument);
+  std::string uit = "Gebruik: " + std::string(Programmanaam(regel.Code)) + " ";
+  if (regel.Code == Opdracht::Programma) return uit + "OPDRACHT [OPTIES]
+
+";
+  uit.append(regel.Naam);
+  if (!regel.Naam.empty() && !regel.Argument.empty()) uit += ' ';
+  uit.append(regel.Argument);
   if (regel.Meer) uit += "...";
   for (const OptieRegel& optie : Opties)
     if (Kent(optie, regel.Code) && optie.Verplicht) uit += " " + OptieNaam(optie);
@@ -67,7 +71,7 @@ std::string Gebruik(const OpdrachtRegel& regel) {
 void VoegOpdrachtenToe(std::string& uit) {
   uit += "\nOpdrachten:\n";
   for (const OpdrachtRegel& regel : Opdrachten)
-    if (regel.Code != Opdracht::Programma) VoegRegelToe(uit, regel.Naam, regel.Kort);
+    if (!regel.Naam.empty()) VoegRegelToe(uit, regel.Naam, regel.Kort);
   uit += "\nHulp bij een opdracht: murvane-cli OPDRACHT --help\n";
 }
 
@@ -87,7 +91,7 @@ std::string HelpTekst(Opdracht opdracht) {
 
 std::string HelpVerwijzing(Opdracht opdracht) {
   const std::string naam(RegelVan(opdracht).Naam);
-  return "Hulp: murvane-cli " + (naam.empty() ? "" : naam + " ") + "--help";
+  return "Hulp: " + std::string(Programmanaam(opdracht)) + " " + (naam.empty() ? "" : naam + " ") + "--help";
 }
 
 }  // namespace murvane

@@ -164,6 +164,7 @@ void ControleerWaarden(const Keuzes& keuzes) {
   eis(Optie::Decimaal, {"punt", "komma"}, "punt of komma");
   eis(Optie::Soort, {"kanaalelementen", "ventilatoren", "luchtkanalen", "plafonds"},
       "kanaalelementen, ventilatoren, luchtkanalen of plafonds");
+  eis(Optie::Grafiek, {"1m", "galmveld", "geen"}, "1m, galmveld of geen");
   if (keuzes.Heeft(Optie::Taken) && keuzes.Taken() == 0) eis(Optie::Taken, {}, "een geheel getal vanaf 1");
 }
 
@@ -181,7 +182,7 @@ Opdracht NeemOpdracht(std::vector<std::string>& argumenten) {
   if (woord == argumenten.end()) return Opdracht::Programma;
   const bool tweede = woord + 1 != argumenten.end();
   for (const OpdrachtRegel& regel : Opdrachten) {
-    if (regel.Code == Opdracht::Programma) continue;
+    if (regel.Naam.empty()) continue;
     const bool een = *woord == regel.Naam;
     if (!een && !(tweede && *woord + " " + woord[1] == regel.Naam)) continue;
     argumenten.erase(woord, woord + (een ? 1 : 2));

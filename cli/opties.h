@@ -12,7 +12,8 @@
 
 namespace murvane {
 
-/// The commands. Programma stands for a command line without one.
+/// The commands. Programma stands for a command line without one; Druk is the program murvane-druk, which has
+/// no other.
 enum class Opdracht : std::uint8_t {
   Programma,
   Reken,
@@ -27,12 +28,13 @@ enum class Opdracht : std::uint8_t {
   SchatKwartLambda,
   SchatPlenum,
   SchatKanaalwand,
-  SchatVentilator
+  SchatVentilator,
+  Druk
 };
 
 struct OpdrachtRegel {
   Opdracht Code;
-  std::string_view Naam;      ///< as typed, one or two words
+  std::string_view Naam;      ///< as typed, one or two words; empty for a whole program
   std::string_view Argument;  ///< what its file argument is called; empty when it has none
   bool Meer;                  ///< takes more than one file
   std::string_view Kort;      ///< one line for the list of commands
@@ -98,6 +100,10 @@ inline constexpr std::array Opdrachten = {
                   "schat het geluidsvermogen van een ventilator",
                   "Schat het geluidsvermogen van een ventilator. De naam, de zeven octaafbanden en het "
                   "niveau in dB(A) verschijnen elk op een regel. Een optie die ontbreekt, is 0."},
+    OpdrachtRegel{
+        Opdracht::Druk, "", "PROJECT.mrv", false, "",
+        "Controleert en berekent een project en zet het berekeningsformulier in een PDF-bestand, met "
+        "lettertype en stijlen van murvane.set."},
 };
 
 enum class Optie : std::uint8_t {
@@ -129,7 +135,10 @@ enum class Optie : std::uint8_t {
   Data,
   Decimaal,
   Versie,
-  Help
+  Help,
+  Pdf,
+  Bmp,
+  Grafiek
 };
 
 /// The commands that know an option, a bit for each.
@@ -215,6 +224,13 @@ inline constexpr std::array Opties = {
                "het decimaalteken in rapporten en schattingen; zonder deze optie dat van de landinstelling"},
     OptieRegel{Optie::Versie, BijAlle, "--versie,--version", "", false, "toont de versie van het programma"},
     OptieRegel{Optie::Help, BijAlle, "-h,--help", "", false, "toont deze hulp"},
+    OptieRegel{Optie::Pdf, Bij({Opdracht::Druk}), "--pdf", "BESTAND", true,
+               "het PDF-bestand dat wordt geschreven; een - is de standaarduitvoer"},
+    OptieRegel{
+        Optie::Bmp, Bij({Opdracht::Druk}), "--bmp", "BESTAND.bmp", false,
+        "schrijft ook de eerste vijf pagina's als bitmap, met het paginanummer voor de punt: BESTAND1.bmp"},
+    OptieRegel{Optie::Grafiek, Bij({Opdracht::Druk}), "--grafiek", "1m|galmveld|geen", false,
+               "de grafiek onder het formulier; zonder deze optie geen"},
 };
 
 inline constexpr std::size_t AantalOpties = Opties.size();
@@ -228,6 +244,11 @@ constexpr const OpdrachtRegel& RegelVan(Opdracht opdracht) {
 }
 constexpr const OptieRegel& RegelVan(Optie optie) {
   return Opties[static_cast<std::size_t>(optie)];
+}
+
+/// The program that has a command.
+constexpr std::string_view Programmanaam(Opdracht opdracht) {
+  return opdracht == Opdracht::Druk ? "murvane-druk" : "murvane-cli";
 }
 
 /// The first of an option's names.

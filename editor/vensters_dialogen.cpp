@@ -1,6 +1,8 @@
 #include "editor/vensters_dialogen.h"
 
 #include <QApplication>
+#include <QBoxLayout>
+#include <QCheckBox>
 #include <QCloseEvent>
 #include <QFileDialog>
 #include <QInputDialog>
@@ -8,10 +10,13 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
 
 #include "basis/bestand.h"
 #include "basis/fout.h"
 #include "basis/vensters_hulp.h"
+#include "reports/vensters_vlak.h"
 
 namespace murvane {
 
@@ -105,6 +110,16 @@ std::filesystem::path Vraag(QWidget* ouder, const BestandVraag& vraag, QFileDial
   return VanQt(dialoog.selectedFiles().constFirst());
 }
 
+/// The tick that saves the text report instead of printing, above the buttons.
+const QCheckBox* VoegNaarBestandToe(QPrintDialog& dialoog) {
+  auto* indeling = qobject_cast<QBoxLayout*>(dialoog.layout());
+  if (indeling == nullptr) return nullptr;
+  auto* vinkje = new QCheckBox("Afdrukken naar &bestand (tekstrapport, *.prn)", &dialoog);
+  vinkje->setObjectName("chkNaarBestand");
+  indeling->insertWidget(indeling->count() - 1, vinkje);
+  return vinkje;
+}
+
 /// The window that a dialog stands before: the one in hand. Just after another dialog none is; while the
 /// program starts there is none at all.
 QWidget* Ouder() {
@@ -143,8 +158,17 @@ std::filesystem::path SchermDialogen::OpslaanDialoog(const BestandVraag& vraag) 
   return Vraag(Ouder(), vraag, QFileDialog::AcceptSave);
 }
 
-AfdrukKeuze SchermDialogen::AfdrukDialoog(const AfdrukVraag&) {
-  throw Fout(FoutNummer::DialoogGeannuleerd);  // no window prints yet
+AfdrukKeuze SchermDialogen::AfdrukDialoog(const AfdrukVraag& vraag) {
+  const auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
+  printer->setDocName("Berekeningsformulier");
+  QPrintDialog dialoog(printer.get(), Ouder());
+  dialoog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintCollateCopies);
+  const QCheckBox* naarBestand = vraag.NaarBestandMogelijk ? VoegNaarBestandToe(dialoog) : nullptr;
+  if (dialoog.exec() != QDialog::Accepted) throw Fout(FoutNummer::DialoogGeannuleerd);
+  const int exemplaren = printer->copyCount();
+  printer->setCopyCount(1);  // each copy is a document of its own
+  return {exemplaren, naarBestand != nullptr && naarBestand->isChecked(),
+          [printer] { return std::make_unique<Schildervlak>(printer); }};
 }
 
 void SchermDialogen::Wachten(bool aan) {

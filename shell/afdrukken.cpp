@@ -139,8 +139,13 @@ void OpslaanAlsPdf(Programma& programma, Dialogen& dialogen, const GrafiekKeuze&
   (void)Doe(dialogen, Pdfopdracht, [&] {
     const fs::path bestand = dialogen.OpslaanDialoog(PdfVraag(programma));
     if (bestand.empty()) return;
-    const Zandloper zandloper(dialogen);
-    VervangBestand(bestand, maakPdf(wens.Wens, wens.Keuze));
+    const auto uitkomst = [&] {
+      const Zandloper zandloper(dialogen);
+      const PdfBytes pdf = maakPdf(wens.Wens, wens.Keuze);
+      VervangBestand(bestand, pdf.Bytes);
+      return pdf.DeGrafiek;
+    }();
+    if (uitkomst == GrafiekUitkomst::Mislukt) MeldGrafiekfout(dialogen);
   });
 }
 

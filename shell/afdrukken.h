@@ -10,6 +10,7 @@
 #include "editor/dialogen.h"
 #include "reports/grafiek.h"
 #include "reports/paginas.h"
+#include "reports/pdf.h"
 #include "reports/vlak.h"
 #include "shell/programma.h"
 
@@ -28,8 +29,8 @@ void AfdrukPrinter(Programma& programma, Dialogen& dialogen, const GrafiekKeuze&
 /// The save command of the result window: the text report under a name that the user chooses.
 void Afdruk(const Programma& programma, Dialogen& dialogen);
 
-/// Draws a PDF of the form with this chart wish and choice; its bytes.
-using PdfMaker = std::function<std::string(std::int16_t grafiekWens, std::int16_t grafiekKeuze)>;
+/// Draws a PDF of the form with this chart wish and choice.
+using PdfMaker = std::function<PdfBytes(std::int16_t grafiekWens, std::int16_t grafiekKeuze)>;
 /// Asks for the chart and a name and writes the form as PDF.
 void OpslaanAlsPdf(Programma& programma, Dialogen& dialogen, const GrafiekKeuze& kiesGrafiek,
                    const PdfMaker& maakPdf);

@@ -264,7 +264,7 @@ TEST_F(Pdfopdracht, AsksForTheChartAndANameBesideTheProject) {
       "pdf"};
   script_.Box(GrafiekVraag, Antwoord::Yes).Opslaan(vraag, map_ / "uit.pdf");
   OpslaanAlsPdf(programma_, script_, Kiest(kiesgrafiek::Galmveld), [](std::int16_t wens, std::int16_t keuze) {
-    return "pdf " + std::to_string(wens) + std::to_string(keuze);
+    return PdfBytes{"pdf " + std::to_string(wens) + std::to_string(keuze), GrafiekUitkomst::Goed};
   });
   EXPECT_EQ(proef::Lees(map_ / "uit.pdf"), "pdf 12");
   script_.IsKlaar();
@@ -272,7 +272,7 @@ TEST_F(Pdfopdracht, AsksForTheChartAndANameBesideTheProject) {
   vraag.Naam.clear();
   script_.Box(GrafiekVraag, Antwoord::No).Opslaan(vraag, map_ / "uit.pdf");
   OpslaanAlsPdf(programma_, script_, Kiest(1), [](std::int16_t wens, std::int16_t keuze) {
-    return "pdf " + std::to_string(wens) + std::to_string(keuze);
+    return PdfBytes{"pdf " + std::to_string(wens) + std::to_string(keuze), GrafiekUitkomst::Goed};
   });
   EXPECT_EQ(proef::Lees(map_ / "uit.pdf"), "pdf 00");
 }
@@ -285,11 +285,21 @@ TEST_F(Pdfopdracht, TellsWhatFailsAndKeepsTheOldFile) {
       .Opslaan(vraag, map_ / "oud.pdf")
       .Box(Onverwacht("OpslaanAlsPdf van Form frmResultaat", "7 - Onvoldoende geheugen"));
   OpslaanAlsPdf(programma_, script_, Kiest(1),
-                [](std::int16_t, std::int16_t) -> std::string { throw std::bad_alloc(); });
+                [](std::int16_t, std::int16_t) -> PdfBytes { throw std::bad_alloc(); });
   EXPECT_EQ(proef::Lees(map_ / "oud.pdf"), "oud");
   script_.IsKlaar();
   script_.Box(GrafiekVraag, Antwoord::No).Opslaan(vraag, std::nullopt);
-  OpslaanAlsPdf(programma_, script_, Kiest(1), [](std::int16_t, std::int16_t) { return std::string(); });
+  OpslaanAlsPdf(programma_, script_, Kiest(1), [](std::int16_t, std::int16_t) { return PdfBytes{}; });
+}
+
+TEST_F(Pdfopdracht, TellsOfAChartThatFails) {
+  const BestandVraag vraag{"Opslaan als", "PDF-bestanden (*.pdf)|*.pdf", map_.Pad(), {}, true, false, true,
+                           "pdf"};
+  script_.Box(GrafiekVraag, Antwoord::Yes).Opslaan(vraag, map_ / "uit.pdf").Box(GrafiekFout);
+  OpslaanAlsPdf(programma_, script_, Kiest(1), [](std::int16_t, std::int16_t) {
+    return PdfBytes{"pdf", GrafiekUitkomst::Mislukt};
+  });
+  EXPECT_EQ(proef::Lees(map_ / "uit.pdf"), "pdf");
 }
 
 using Previewopdracht = Afdrukken;
