@@ -6,6 +6,7 @@
 #include <QPlainTextEdit>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "basis/vensters_hulp.h"
 #include "editor/vensters_tekening.h"
@@ -30,6 +31,8 @@ frmOverzicht::frmOverzicht(OverzichtUitslag overzicht, Dialogen& dialogen, QWidg
       overzicht_(std::move(overzicht)),
       dialogen_(dialogen) {
   setObjectName("frmOverzicht");
+  for (const QString& regel : VanCp(overzicht_.OverzichtTekst).split("\r\n"))
+    breedste_ = std::max(breedste_, static_cast<std::size_t>(regel.size()));
   setWindowTitle(VanCp(overzicht_.OverzichtTitel));
   auto* const indeling = new QVBoxLayout(this);
   auto* const balk = new QHBoxLayout;
@@ -86,6 +89,8 @@ void frmOverzicht::PasLetterAan() {
   while (punten > Kleinste && QFontMetricsF(VasteLetter(punten)).horizontalAdvance(regel) > vrij)
     punten -= Stap;
   txtOverzicht->setFont(VasteLetter(punten));
+  const bool past = punten > Kleinste && breedste_ <= OverzichtBreedte;
+  txtOverzicht->setHorizontalScrollBarPolicy(past ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);
 }
 
 void frmOverzicht::resizeEvent(QResizeEvent* gebeurtenis) {

@@ -29,6 +29,7 @@ class frmOverzicht : public QDialog {
 
   OverzichtUitslag overzicht_;
   Dialogen& dialogen_;
+  std::size_t breedste_ = 0;  ///< characters of the widest line
   QPlainTextEdit* txtOverzicht = nullptr;
 };
 

@@ -264,7 +264,8 @@ void Opslaan(const OverzichtUitslag& overzicht, Dialogen& dialogen) {
 
 void Printer(const OverzichtUitslag& overzicht, Dialogen& dialogen) {
   const auto fout = Probeer([&] {
-    const AfdrukKeuze keuze = dialogen.AfdrukDialoog({.NaarBestandMogelijk = false, .Liggend = true});
+    const AfdrukKeuze keuze =
+        dialogen.AfdrukDialoog({.NaarBestandMogelijk = false, .Liggend = true, .Document = "Overzicht"});
     const Zandloper zandloper(dialogen);
     for (int exemplaar = 0; exemplaar < keuze.Exemplaren; ++exemplaar)
       Druk(*keuze.NieuwDocument(), Uitvoer(overzicht));

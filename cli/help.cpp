@@ -56,9 +56,7 @@ std::string OptieNaam(const OptieRegel& optie) {
 
 std::string Gebruik(const OpdrachtRegel& regel) {
   std::string uit = "Gebruik: " + std::string(Programmanaam(regel.Code)) + " ";
-  if (regel.Code == Opdracht::Programma) return uit + "OPDRACHT [OPTIES]
-
-";
+  if (regel.Code == Opdracht::Programma) return uit + "OPDRACHT [OPTIES]\n\n";
   uit.append(regel.Naam);
   if (!regel.Naam.empty() && !regel.Argument.empty()) uit += ' ';
   uit.append(regel.Argument);

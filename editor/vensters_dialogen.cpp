@@ -160,7 +160,8 @@ std::filesystem::path SchermDialogen::OpslaanDialoog(const BestandVraag& vraag) 
 
 AfdrukKeuze SchermDialogen::AfdrukDialoog(const AfdrukVraag& vraag) {
   const auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
-  printer->setDocName("Berekeningsformulier");
+  printer->setDocName(VanCp(vraag.Document));
+  printer->setPageOrientation(vraag.Liggend ? QPageLayout::Landscape : QPageLayout::Portrait);
   QPrintDialog dialoog(printer.get(), Ouder());
   dialoog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintCollateCopies);
   const QCheckBox* naarBestand = vraag.NaarBestandMogelijk ? VoegNaarBestandToe(dialoog) : nullptr;
@@ -168,7 +169,7 @@ AfdrukKeuze SchermDialogen::AfdrukDialoog(const AfdrukVraag& vraag) {
   const int exemplaren = printer->copyCount();
   printer->setCopyCount(1);  // each copy is a document of its own
   return {exemplaren, naarBestand != nullptr && naarBestand->isChecked(),
-          [printer] { return std::make_unique<Schildervlak>(printer); }};
+          [printer, liggend = vraag.Liggend] { return std::make_unique<Schildervlak>(printer, liggend); }};
 }
 
 void SchermDialogen::Wachten(bool aan) {

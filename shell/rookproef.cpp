@@ -30,7 +30,7 @@ std::filesystem::path StilleDialogen::OpslaanDialoog(const BestandVraag& vraag) 
   return OpenDialoog(vraag);
 }
 
-AfdrukKeuze StilleDialogen::AfdrukDialoog(const AfdrukVraag&) {
+AfdrukKeuze StilleDialogen::AfdrukDialoog(const AfdrukVraag& /*vraag*/) {
   Schrijf("Afdrukken", "");
   throw Fout(FoutNummer::DialoogGeannuleerd);
 }

@@ -393,7 +393,7 @@ TEST(Uitvoer, KeepsEveryLineWithinItsWidth) {
 
 // Printing.
 
-constexpr AfdrukVraag Drukvraag{.NaarBestandMogelijk = false, .Liggend = true};
+constexpr AfdrukVraag Drukvraag{.NaarBestandMogelijk = false, .Liggend = true, .Document = "Overzicht"};
 
 /// What was printed on one document.
 struct Drukwerk {

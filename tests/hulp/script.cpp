@@ -26,7 +26,7 @@ std::string Woorden(const BestandVraag& v) {
 }
 std::string Woorden(const AfdrukVraag& v) {
   return std::string("print dialog") + (v.NaarBestandMogelijk ? " to-file" : "") +
-         (v.Liggend ? " landscape" : "");
+         (v.Liggend ? " landscape" : "") + " {" + std::string(v.Document) + "}";
 }
 
 }  // namespace

@@ -377,7 +377,7 @@ TEST_F(OnderhoudVensters, ShowSaveAndPrintAnOverview) {
   vraag.OverschrijfVraag = true;
   vraag.Extensie = "plf";
   script.Opslaan(vraag, map / "glas é.plf");
-  script.Afdrukken({.NaarBestandMogelijk = false, .Liggend = true}, std::nullopt);
+  script.Afdrukken({.NaarBestandMogelijk = false, .Liggend = true, .Document = "Overzicht"}, std::nullopt);
   ZodraOpen([&](QWidget* overzicht) {
     EXPECT_EQ(overzicht->objectName(), "frmOverzicht");
     EXPECT_EQ(overzicht->windowTitle(), "plafonds - Overzicht op omschrijving");
