@@ -28,6 +28,10 @@ int Voer(const Keuzes& keuzes, Kanalen& kanalen) {
       return VoerCatalogusToon(keuzes, kanalen);
     case Opdracht::CatalogusMaak:
       return VoerCatalogusMaak(keuzes, kanalen);
+    case Opdracht::CatalogusSorteer:
+      return VoerCatalogusSorteer(keuzes, kanalen);
+    case Opdracht::Overzicht:
+      return VoerOverzicht(keuzes, kanalen);
     case Opdracht::SchatBekleed:
       return VoerSchat(keuzes, Schatter::Bekleed, kanalen);
     case Opdracht::SchatKwartLambda:

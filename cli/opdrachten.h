@@ -32,6 +32,8 @@ using Uitvoerder = std::function<int(const Keuzes& keuzes, Kanalen& kanalen)>;
 [[nodiscard]] int VoerMaak(const Keuzes& keuzes, Kanalen& kanalen);
 [[nodiscard]] int VoerCatalogusToon(const Keuzes& keuzes, Kanalen& kanalen);
 [[nodiscard]] int VoerCatalogusMaak(const Keuzes& keuzes, Kanalen& kanalen);
+[[nodiscard]] int VoerCatalogusSorteer(const Keuzes& keuzes, Kanalen& kanalen);
+[[nodiscard]] int VoerOverzicht(const Keuzes& keuzes, Kanalen& kanalen);
 [[nodiscard]] int VoerSchat(const Keuzes& keuzes, Schatter soort, Kanalen& kanalen);
 [[nodiscard]] int VoerSchatVentilator(const Keuzes& keuzes, Kanalen& kanalen);
 

@@ -10,6 +10,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QProcess>
+#include <QScopeGuard>
 #include <QStandardPaths>
 #include <QStatusBar>
 #include <QUrl>
@@ -20,6 +21,7 @@
 #include "basis/bestand.h"
 #include "basis/vensters_hulp.h"
 #include "calc/reken.h"
+#include "catalogue/frmOnderhoud.h"
 #include "editor/frmMurvane.h"
 #include "editor/vensters_tekening.h"
 #include "reports/frmGrafiek.h"
@@ -110,6 +112,10 @@ void MDIMurvane::MaakMenu() {
   Verbind("mnuSluiten", &MDIMurvane::mnuSluiten);
   Verbind("mnuOpslaan", &MDIMurvane::mnuOpslaan);
   Verbind("mnuExit", &MDIMurvane::mnuExit);
+  Verbind("mnuElementen", &MDIMurvane::mnuElementen);
+  Verbind("mnuFan", &MDIMurvane::mnuFan);
+  Verbind("mnuDuct", &MDIMurvane::mnuDuct);
+  Verbind("mnuPlafonds", &MDIMurvane::mnuPlafonds);
   Verbind("mnuGebruiker", &MDIMurvane::mnuGebruiker);
   Verbind("mnuVent", &MDIMurvane::mnuVent);
   Verbind("mnuUitstraling", &MDIMurvane::mnuUitstraling);
@@ -394,6 +400,47 @@ void MDIMurvane::mnuExit() {
   if (mnuExit_Click(programma_, dialogen_, ProjectOpen(project_->DeSessie())) == Vervolg::GaatDoor) return;
   einde_ = true;
   close();
+}
+
+/// Shows the maintenance window of a catalogue; the project window waits meanwhile. Only a window that wrote
+/// its file fills a list of the project window again.
+void MDIMurvane::Onderhoud(CatalogusSoort soort) {
+  if (!project_->BewaarVeld()) return;
+  const QPointer<QWidget> focus = project_->focusWidget();
+  project_->setEnabled(false);
+  const auto weerAan = qScopeGuard([this] { project_->setEnabled(true); });
+  frmOnderhoud venster(soort,
+                       {.Catalogi = programma_.Catalogi,
+                        .SchatInvoer = programma_.SchatInvoer,
+                        .Dialogen = dialogen_,
+                        .Map = programma_.DataDir,
+                        .Vandaag = std::string(programma_.Vandaag.Heel()),
+                        .Decimaal = programma_.Decimaal},
+                       this);
+  (void)venster.exec();
+  project_->setEnabled(true);  // before it is given the focus
+  if (venster.IsBewaard()) {
+    const Ververs vult = OnderhoudVan(soort).Vult;
+    if (vult == Ververs::lstTotaal) project_->VulElementen();
+    if (vult == Ververs::lstFan) project_->VulFans();
+  }
+  if (focus != nullptr) focus->setFocus();
+}
+
+void MDIMurvane::mnuElementen() {
+  Onderhoud(CatalogusSoort::Kanaalelementen);
+}
+
+void MDIMurvane::mnuFan() {
+  Onderhoud(CatalogusSoort::Ventilatoren);
+}
+
+void MDIMurvane::mnuDuct() {
+  Onderhoud(CatalogusSoort::Luchtkanalen);
+}
+
+void MDIMurvane::mnuPlafonds() {
+  Onderhoud(CatalogusSoort::Plafonds);
 }
 
 void MDIMurvane::mnuGebruiker() {

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "catalogue/catfiles.h"
 #include "editor/dialogen.h"
 #include "editor/sessie.h"
 #include "shell/programma.h"
@@ -55,6 +56,10 @@ class MDIMurvane : public QMainWindow {
   void mnuSluiten();
   void mnuOpslaan();
   void mnuExit();
+  void mnuElementen();
+  void mnuFan();
+  void mnuDuct();
+  void mnuPlafonds();
   void mnuGebruiker();
   void mnuVent();
   void mnuUitstraling();
@@ -76,6 +81,7 @@ class MDIMurvane : public QMainWindow {
 
   void Reken();
   QMdiSubWindow* LaadResultaat();
+  void Onderhoud(CatalogusSoort soort);
   void Voer(const Gevolg& gevolg);
   void SluitVensters();
   void ToonToestand();

@@ -28,8 +28,8 @@ const Verkeerd Gevallen[] = {
     {{"Reken", "x.mrv"}, "Onbekende opdracht: Reken", ""},
     {{"bereken", "--prn", "x"}, "Onbekende opdracht: bereken", ""},
     {{"--taal"}, "Onbekende optie: --taal", ""},
-    {{"catalogus"}, "Achter catalogus hoort toon of maak.", ""},
-    {{"catalogus", "wis", "Fan.dat"}, "Achter catalogus hoort toon of maak.", ""},
+    {{"catalogus"}, "Achter catalogus hoort toon, maak of sorteer.", ""},
+    {{"catalogus", "wis", "Fan.dat"}, "Achter catalogus hoort toon, maak of sorteer.", ""},
     {{"reken"}, "PROJECT.mrv ontbreekt.", "reken "},
     {{"reken", "--"}, "PROJECT.mrv ontbreekt.", "reken "},
     {{"reken", ""}, "Een bestandsnaam is leeg.", "reken "},
@@ -151,7 +151,7 @@ TEST(Ontleed, TakesEveryOptionWithAValueInBothForms) {
       const std::string naam(EersteNaam(optie));
       Woorden kaal;
       if (!regel.Argument.empty()) kaal.emplace_back("x");
-      if (!optie.Verplicht && (regel.Code == Opdracht::Maak || regel.Code == Opdracht::CatalogusMaak))
+      if (!optie.Verplicht && Kent(RegelVan(Optie::UitvoerMaak), regel.Code))
         kaal.insert(kaal.end(), {"-o", "y"});
       if (!optie.Verplicht && regel.Code == Opdracht::Druk) kaal.insert(kaal.end(), {"--pdf", "y"});
       Woorden los = kaal;

@@ -25,7 +25,8 @@ std::string Woorden(const BestandVraag& v) {
          (v.Extensie.empty() ? "" : " extension {" + v.Extensie + "}");
 }
 std::string Woorden(const AfdrukVraag& v) {
-  return std::string("print dialog") + (v.NaarBestandMogelijk ? " to-file" : "");
+  return std::string("print dialog") + (v.NaarBestandMogelijk ? " to-file" : "") +
+         (v.Liggend ? " landscape" : "") + " {" + std::string(v.Document) + "}";
 }
 
 }  // namespace
