@@ -1,5 +1,6 @@
 // The program murvane.
 
+#include <QDate>
 #include <QLocale>
 #include <QTranslator>
 #include <chrono>
