@@ -94,6 +94,7 @@ frmMurvane::frmMurvane(Project& project, const Catalogi& catalogi, Dialogen& dia
 // ---- The records on screen ----
 
 void frmMurvane::ToonProject(bool isNieuwOfGeopend) {
+  BouwTabs();
   const QScopedValueRollback<bool> vult(vult_, true);
   const VensterBeeld beeld = TabSettings(project_, catalogi_, decimaal_);
   VulVelden(beeld);
@@ -103,7 +104,7 @@ void frmMurvane::ToonProject(bool isNieuwOfGeopend) {
   ToonRuimte(beeld.Ruimte);
   ToonType();
   ToonLijsten();
-  MonthView->hide();
+  if (MonthView != nullptr) MonthView->hide();
   SSTab1->show();
   if (isNieuwOfGeopend) {
     laatsteFan_ = 0;  // a fan of the list that was chosen for another project
@@ -117,10 +118,12 @@ void frmMurvane::ToonGeenProject() {
   const QScopedValueRollback<bool> vult(vult_, true);
   SSTab1->hide();
   ProgressBar1->hide();
-  SSTab2->hide();
-  tekening_->hide();
-  MonthView->hide();
-  lblLwA->clear();
+  if (SSTab1->count() > 0) {
+    SSTab2->hide();
+    tekening_->hide();
+    lblLwA->clear();
+  }
+  if (MonthView != nullptr) MonthView->hide();
   emit ToestandGewijzigd();
 }
 
@@ -148,6 +151,7 @@ void frmMurvane::VulLijsten(const VensterBeeld& beeld) {
 }
 
 void frmMurvane::VulCatalogi() {
+  BouwTabs();
   const QScopedValueRollback<bool> vult(vult_, true);
   const VensterBeeld beeld = TabSettings(project_, catalogi_, decimaal_);
   lstTotaalGevuld(lijst_);
@@ -487,6 +491,7 @@ void frmMurvane::FanOK() {
 }
 
 void frmMurvane::Image1_Click() {
+  if (MonthView == nullptr) BouwKalender();
   if (!MonthView->isHidden()) return MonthView->hide();
   Veilig("Image1_Click", [this] { ToonKalender(); });
 }
@@ -513,6 +518,7 @@ void frmMurvane::MonthView_DateClick(const QDate& datum) {
 void frmMurvane::KiesType(std::int16_t rekenType) {
   if (!BewaarVeld()) return;
   Veilig(std::string(TypeVan(rekenType).Menu) + "_Click", [&] {
+    BouwTabs();
     VoerUit(KiesRekenType(sessie_, project_, rekenType));
     ToonType();
     SSTab1->setCurrentIndex(static_cast<int>(StartPagina));

@@ -82,6 +82,7 @@ class frmMurvane : public QWidget {
 
   // frmMurvane_opbouw.cpp: the controls
   void BouwOp();
+  void BouwTabs();
   QWidget* BouwVentilator();
   QWidget* BouwFanLijst();
   QWidget* BouwFanPrognose();
@@ -97,6 +98,7 @@ class frmMurvane : public QWidget {
   QWidget* BouwRuimte();
   QWidget* BouwProject();
   QWidget* BouwDatum();
+  void BouwKalender();
   InvoerVeld* VoegVeld(QGridLayout* indeling, int rij, VeldId veld, const QString& tekst,
                        const QString& eenheid, const char* labels, int kolom = 0);
   BandRij* VoegBanden(std::string_view naam, int eerste, const QString& tekst);

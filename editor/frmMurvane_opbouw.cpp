@@ -133,10 +133,6 @@ void frmMurvane::BouwOp() {
   SSTab1->setObjectName("SSTab1");
   SSTab1->setAccessibleName("Invoer van het project");
   SSTab1->tabBar()->installEventFilter(this);
-  SSTab1->addTab(BouwVentilator(), "Ventilator");
-  SSTab1->addTab(BouwElementen(), "Kanaalelementen");
-  SSTab1->addTab(BouwRuimte(), "Ruimtegegevens");
-  SSTab1->addTab(BouwProject(), "Projectgegevens");
   indeling->addWidget(SSTab1, 1);
   indeling->addStretch(0);
   ProgressBar1 = new QProgressBar(this);
@@ -144,6 +140,15 @@ void frmMurvane::BouwOp() {
   ProgressBar1->setAccessibleName("Voortgang van de berekening");
   KleurVoortgang(*ProgressBar1);
   indeling->addWidget(ProgressBar1);
+}
+
+/// Most of the window, built when it is first shown: without a project none of it is in view.
+void frmMurvane::BouwTabs() {
+  if (SSTab1->count() > 0) return;
+  SSTab1->addTab(BouwVentilator(), "Ventilator");
+  SSTab1->addTab(BouwElementen(), "Kanaalelementen");
+  SSTab1->addTab(BouwRuimte(), "Ruimtegegevens");
+  SSTab1->addTab(BouwProject(), "Projectgegevens");
   VerbindFan();
   VerbindLijsten();
   VerbindKeuzes();
@@ -415,14 +420,21 @@ QWidget* frmMurvane::BouwProject() {
   VoegVeld(indeling, 6, {"txtToelichting3"}, "", "", "lblproject")->setAccessibleName("Toelichting, regel 3");
   kolom->addLayout(indeling);
   kolom->addStretch();
-  MonthView = new QCalendarWidget(blad);
+  return blad;
+}
+
+/// Built when it is first asked for: it takes as long as a whole tab.
+void frmMurvane::BouwKalender() {
+  MonthView = new QCalendarWidget(SSTab1->widget(static_cast<int>(Tab::Projectgegevens)));
   MonthView->setObjectName("MonthView");
   MonthView->setAccessibleName("Kalender");
   MonthView->setLocale(QLocale(QLocale::Dutch, QLocale::Netherlands));
   MonthView->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
   MonthView->setAutoFillBackground(true);
   MonthView->installEventFilter(this);
-  return blad;
+  MonthView->hide();
+  connect(MonthView, &QCalendarWidget::clicked, this, &frmMurvane::MonthView_DateClick);
+  connect(MonthView, &QCalendarWidget::activated, this, &frmMurvane::MonthView_DateClick);
 }
 
 QWidget* frmMurvane::BouwDatum() {
@@ -538,8 +550,6 @@ void frmMurvane::VerbindKeuzes() {
   verbind(cmbRkanaal, catalogi_.CatRduct, cmbRkanaal_Click, cmbRkanaal_Change, cmbRkanaal_LostFocus);
   verbind(cmbRplafond, catalogi_.CatRplaf, cmbRplafond_Click, cmbRplafond_Change, cmbRplafond_LostFocus);
   connect(Image1, &QToolButton::clicked, this, &frmMurvane::Image1_Click);
-  connect(MonthView, &QCalendarWidget::clicked, this, &frmMurvane::MonthView_DateClick);
-  connect(MonthView, &QCalendarWidget::activated, this, &frmMurvane::MonthView_DateClick);
 }
 
 void frmMurvane::ZetIconen() {

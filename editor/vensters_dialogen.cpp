@@ -104,9 +104,14 @@ std::filesystem::path Vraag(QWidget* ouder, const BestandVraag& vraag, QFileDial
   return VanQt(dialoog.selectedFiles().constFirst());
 }
 
-/// The window that a dialog stands before: the one in hand. There is none while the program starts.
+/// The window that a dialog stands before: the one in hand. Just after another dialog none is; while the
+/// program starts there is none at all.
 QWidget* Ouder() {
-  return QApplication::activeWindow();
+  if (QApplication::activeWindow() != nullptr) return QApplication::activeWindow();
+  for (QWidget* const venster : QApplication::topLevelWidgets()) {
+    if (venster->isVisible() && venster->windowType() == Qt::Window) return venster;
+  }
+  return nullptr;
 }
 
 }  // namespace

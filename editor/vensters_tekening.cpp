@@ -1,10 +1,18 @@
 #include "editor/vensters_tekening.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QFile>
+#include <QIconEngine>
 #include <QPainter>
+#include <QStyle>
+#include <QStyleOption>
 #include <algorithm>
 #include <array>
+#include <map>
+#include <optional>
+#include <tuple>
+#include <utility>
 
 #include "project/records.h"
 
@@ -65,20 +73,54 @@ void BelichtGroep(QString& svg, const QString& id) {
   svg.replace(van, tot - van, groep);
 }
 
-}  // namespace
+/// Draws a size when it is asked for, and keeps it: most icons stand on tabs that nobody opens yet.
+class SvgIcoon final : public QIconEngine {
+ public:
+  SvgIcoon(QString naam, std::optional<QPalette> palet) : naam_(std::move(naam)), palet_(std::move(palet)) {}
 
-QIcon Icoon(const QString& naam, const QPalette& palet) {
-  QIcon icoon;
-  QSvgRenderer svg(InKleur(LeesBron(":/shell/beelden/" + naam + ".svg"), palet));
-  for (const int maat : {16, 24, 32, 48, 64}) {
-    QPixmap beeld(maat, maat);
+  [[nodiscard]] QIconEngine* clone() const override { return new SvgIcoon(naam_, palet_); }
+  [[nodiscard]] bool isNull() override { return false; }
+
+  void paint(QPainter* schilder, const QRect& vlak, QIcon::Mode stand, QIcon::State aan) override {
+    const qreal schaal = schilder->device()->devicePixelRatio();
+    schilder->drawPixmap(vlak, scaledPixmap(vlak.size() * schaal, stand, aan, schaal));
+  }
+
+  QPixmap pixmap(const QSize& maat, QIcon::Mode stand, QIcon::State /*aan*/) override {
+    QPixmap& beeld = beelden_[{maat.width(), maat.height(), stand}];
+    if (beeld.isNull()) beeld = Teken(maat, stand);
+    return beeld;
+  }
+
+ private:
+  [[nodiscard]] QPixmap Teken(const QSize& maat, QIcon::Mode stand) const {
+    QPixmap beeld(maat);
     beeld.fill(Qt::transparent);
+    const QString bron = LeesBron(":/shell/beelden/" + naam_ + ".svg");
+    QSvgRenderer svg(palet_ ? InKleur(bron, *palet_) : bron.toUtf8());
+    svg.setAspectRatioMode(Qt::KeepAspectRatio);
     QPainter schilder(&beeld);
     svg.render(&schilder);
     schilder.end();
-    icoon.addPixmap(beeld);
+    if (stand == QIcon::Normal) return beeld;
+    QStyleOption optie;
+    if (palet_) optie.palette = *palet_;
+    return QApplication::style()->generatedIconPixmap(stand, beeld, &optie);
   }
-  return icoon;
+
+  QString naam_;
+  std::optional<QPalette> palet_;
+  std::map<std::tuple<int, int, QIcon::Mode>, QPixmap> beelden_;
+};
+
+}  // namespace
+
+QIcon Icoon(const QString& naam, const QPalette& palet) {
+  return QIcon(new SvgIcoon(naam, palet));
+}
+
+QIcon Icoon(const QString& naam) {
+  return QIcon(new SvgIcoon(naam, {}));
 }
 
 Tekening::Tekening(QWidget* ouder) : QWidget(ouder) {

@@ -9,8 +9,9 @@
 
 namespace murvane {
 
-/// An icon out of the program's resources.
+/// An icon out of the program's resources, in the colours of a palette or in its own.
 [[nodiscard]] QIcon Icoon(const QString& naam, const QPalette& palet);
+[[nodiscard]] QIcon Icoon(const QString& naam);
 
 /// The line drawing of an element type, in which the dimension of one field is lit.
 class Tekening : public QWidget {

@@ -177,13 +177,19 @@ void Lijstvak::mousePressEvent(QMouseEvent* event) {
   {
     const QScopedValueRollback<bool> stil(stil_, true);
     QListWidget::mousePressEvent(event);
-    if (currentItem() != nullptr) currentItem()->setSelected(true);  // Ctrl would have cleared it
   }
   emit Geklikt(currentRow());
 }
 
 void Lijstvak::mouseDoubleClickEvent(QMouseEvent* event) {
   if (event->button() == Qt::LeftButton) QListWidget::mouseDoubleClickEvent(event);
+}
+
+/// One row is selected, also with Ctrl down.
+QItemSelectionModel::SelectionFlags Lijstvak::selectionCommand(const QModelIndex& rij,
+                                                               const QEvent* event) const {
+  if (rij.isValid()) return QItemSelectionModel::ClearAndSelect;
+  return QListWidget::selectionCommand(rij, event);
 }
 
 void Lijstvak::keyPressEvent(QKeyEvent* event) {

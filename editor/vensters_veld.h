@@ -81,6 +81,8 @@ class Lijstvak : public QListWidget {
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
+  [[nodiscard]] QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& rij,
+                                                                     const QEvent* event) const override;
 
  private:
   bool stil_ = false;

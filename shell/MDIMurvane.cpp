@@ -1,6 +1,7 @@
 #include "shell/MDIMurvane.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QLabel>
 #include <QMdiArea>
@@ -17,6 +18,7 @@
 #include "basis/vensters_hulp.h"
 #include "calc/reken.h"
 #include "editor/frmMurvane.h"
+#include "editor/vensters_tekening.h"
 #include "reports/frmResultaat.h"
 #include "shell/bestandopdrachten.h"
 #include "shell/hoofdvenster.h"
@@ -45,7 +47,7 @@ MDIMurvane::MDIMurvane(Programma& programma, Dialogen& dialogen)
                               std::string(programma.Vandaag.Heel()), programma.Decimaal)) {
   setObjectName("MDIMurvane");
   setWindowTitle(VanCp(ProgrammaTitel));
-  setWindowIcon(QIcon(":/shell/beelden/murvane.svg"));
+  QApplication::setWindowIcon(Icoon("murvane"));
   setMinimumSize(MinBreedte / TwipsPerPixel, MinHoogte / TwipsPerPixel);
   setCentralWidget(gebied_);
   auto* kader = new ProjectKader;
@@ -71,11 +73,13 @@ void MDIMurvane::MaakMenu() {
       menu->setObjectName(Naam(item.Naam));
       menu->menuAction()->setObjectName(Naam(item.Naam));
       menus[item.Naam] = menu;
+      acties_[item.Naam] = menu->menuAction();
       continue;
     }
     QAction* actie = menus.at(item.In)->addAction(VanCp(item.Opschrift));
     actie->setObjectName(Naam(item.Naam));
     actie->setCheckable(item.Soort == MenuSoort::Keuze);
+    acties_[item.Naam] = actie;
     if (item.Soort != MenuSoort::Kop) continue;
     actie->setEnabled(false);
     menus.at(item.In)->addSeparator();
@@ -97,7 +101,7 @@ void MDIMurvane::MaakMenu() {
 }
 
 void MDIMurvane::Verbind(std::string_view naam, void (MDIMurvane::*opdracht)()) {
-  auto* actie = findChild<QAction*>(Naam(naam));
+  QAction* const actie = acties_.at(naam);
   actie->setProperty("opdracht", true);
   connect(actie, &QAction::triggered, this, [this, naam, opdracht] { Voer(std::string(naam), opdracht); });
 }
@@ -141,7 +145,7 @@ void MDIMurvane::MaakStatusbalk() {
   paneel3_ = new QLabel(this);
   beeld_->setObjectName("StatusBar1_1_beeld");
   beeld_->setAccessibleName("Berekend");
-  beeld_->setPixmap(QIcon(":/shell/beelden/berekend.svg").pixmap(16, 16));
+  beeld_->setPixmap(Icoon("berekend", palette()).pixmap(16, 16));
   paneel1_->setObjectName("StatusBar1_1");
   paneel2_->setObjectName("StatusBar1_2");
   paneel3_->setObjectName("StatusBar1_3");
@@ -154,13 +158,14 @@ void MDIMurvane::MaakStatusbalk() {
 void MDIMurvane::ToonToestand() {
   const Sessie& sessie = project_->DeSessie();
   for (const MenuRegel& regel : MenuRegels) {
-    auto* actie = findChild<QAction*>(Naam(regel.Naam));
-    if (actie == nullptr) continue;
+    const auto gevonden = acties_.find(regel.Naam);
+    if (gevonden == acties_.end()) continue;
+    QAction* const actie = gevonden->second;
     const bool bediend = actie->menu() != nullptr || actie->property("opdracht").toBool();
     actie->setEnabled(bediend && MenuAan(regel.Naam, sessie.Toestand));
   }
   for (const TypeRegel& regel : TypeRegels)
-    findChild<QAction*>(Naam(regel.Menu))->setChecked(regel.RekenType == programma_.Project.Kop.RekenType);
+    acties_.at(regel.Menu)->setChecked(regel.RekenType == programma_.Project.Kop.RekenType);
   const StatusBalk balk = StatusVan(sessie, programma_.Project);
   beeld_->setVisible(balk.Paneel1Beeld != 0);
   paneel1_->setText(VanCp(balk.Paneel1));

@@ -3,6 +3,7 @@
 
 #include <QMainWindow>
 #include <QPointer>
+#include <map>
 #include <string>
 #include <string_view>
 
@@ -10,6 +11,7 @@
 #include "editor/sessie.h"
 #include "shell/programma.h"
 
+class QAction;
 class QLabel;
 class QMdiArea;
 class QMdiSubWindow;
@@ -65,6 +67,7 @@ class MDIMurvane : public QMainWindow {
   QMdiArea* gebied_;
   frmMurvane* project_;
   QPointer<frmResultaat> resultaat_;
+  std::map<std::string_view, QAction*> acties_;  ///< by name; the names of MenuBalk
   QLabel* beeld_ = nullptr;
   QLabel* paneel1_ = nullptr;
   QLabel* paneel2_ = nullptr;

@@ -57,6 +57,40 @@ inline constexpr auto MenuBalk = std::to_array<MenuItem>({
     {"mnuHelp", "mnuInfo", "&Info over MurVane", MenuSoort::Opdracht},
 });
 
+/// The icon of a menu command: its number in the main window's image list, and its drawing in shell/beelden.
+struct MenuBeeld {
+  std::string_view Naam;
+  int Beeld;
+  std::string_view Tekening;
+};
+
+inline constexpr auto MenuBeelden = std::to_array<MenuBeeld>({
+    {"mnuOpen", 2, "openen"},
+    {"mnuNieuw", 13, "nieuw"},
+    {"mnuSluiten", 12, "sluiten"},
+    {"mnuReken", 8, "reken"},
+    {"mnuPreview", 6, "berekend"},
+    {"mnuExit", 10, "exit"},
+    {"mnuOpslaan", 11, "opslaan"},
+    {"mnuAfdrukken", 3, "afdrukken"},
+    {"mnuTypReken", 18, "type"},
+    {"mnuLetterType", 5, "letter"},
+    {"mnuGebruiker", 7, "gebruiker"},
+    {"mnuDuct", 14, "luchtkanaal"},
+    {"mnuPlafonds", 15, "plafond"},
+    {"mnuFan", 16, "ventilator"},
+    {"mnuElementen", 17, "kanaalelement"},
+    {"mnuCalc", 9, "calculator"},
+    {"mnuHelpFile", 1, "help"},
+    {"mnuInfo", 4, "info"},
+});
+
+/// The popup of the tray icon; its default command is the second.
+inline constexpr auto TaakBalk = std::to_array<MenuItem>({
+    {"mnuTaakBar", "mnuTaakInfo", "Info", MenuSoort::Opdracht},
+    {"mnuTaakBar", "mnuTaakExit", "Afsluiten", MenuSoort::Opdracht},
+});
+
 /// The least size of the main window, twips; 15 twips are one logical pixel.
 inline constexpr int MinBreedte = 9600;
 inline constexpr int MinHoogte = 7200;

@@ -1,15 +1,18 @@
 // The program murvane.
 
 #include <QDate>
+#include <QEvent>
 #include <QLocale>
 #include <QTranslator>
 #include <chrono>
 #include <filesystem>
+#include <iostream>
 #include <system_error>
 
 #include "editor/vensters_dialogen.h"
 #include "shell/MDIMurvane.h"
 #include "shell/opstart.h"
+#include "shell/rookproef.h"
 #include "shell/startup.h"
 #include "shell/vensters_taal.h"
 #include "shell/vensters_toepassing.h"
@@ -22,6 +25,31 @@ std::chrono::year_month_day Vandaag() {
           std::chrono::day(static_cast<unsigned>(datum.day()))};
 }
 
+/// Ends the program as soon as a window has been painted, with all that is in it.
+class NaEersteBeeld : public QObject {
+ protected:
+  bool eventFilter(QObject* venster, QEvent* event) override {
+    if (event->type() != QEvent::Paint) return false;
+    venster->removeEventFilter(this);
+    QMetaObject::invokeMethod(
+        venster, [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
+    return false;
+  }
+};
+
+/// From the start to the end of the program; the exit status.
+int Draai(murvane::Dialogen& dialogen, const murvane::StartGegevens& start, bool rookproef) {
+  murvane::Programma programma;
+  if (murvane::MDIForm_Load(programma, dialogen, start) == murvane::Vervolg::Einde) return 0;
+  murvane::MDIMurvane hoofdvenster(programma, dialogen);
+  NaEersteBeeld naEersteBeeld;
+  if (rookproef) hoofdvenster.installEventFilter(&naEersteBeeld);
+  hoofdvenster.resize(1024, 740);
+  hoofdvenster.show();
+  hoofdvenster.OpenVanOpdrachtregel();
+  return QApplication::exec();
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -32,17 +60,15 @@ int main(int argc, char** argv) {
   QTranslator vertaling;
   if (murvane::LaadVertaling(vertaling)) QCoreApplication::installTranslator(&vertaling);
 
-  murvane::Programma programma;
-  murvane::SchermDialogen dialogen;
+  const bool rookproef = murvane::IsRookproef(qgetenv(murvane::RookproefVariabele).toStdString());
+  murvane::SchermDialogen scherm;
+  murvane::StilleDialogen stil(std::cerr);
+  murvane::Dialogen& dialogen = rookproef ? static_cast<murvane::Dialogen&>(stil) : scherm;
   toepassing.ZetDialogen(&dialogen);
   const std::string opdrachtregel = QApplication::arguments().mid(1).join(' ').toStdString();
   std::error_code geen;
   const murvane::StartGegevens start{std::filesystem::current_path(geen), murvane::DatumTekst(Vandaag()),
                                      opdrachtregel, decimaal};
-  if (murvane::MDIForm_Load(programma, dialogen, start) == murvane::Vervolg::Einde) return 0;
-  murvane::MDIMurvane hoofdvenster(programma, dialogen);
-  hoofdvenster.resize(1024, 740);
-  hoofdvenster.show();
-  hoofdvenster.OpenVanOpdrachtregel();
-  return QApplication::exec();
+  const int status = Draai(dialogen, start, rookproef);
+  return stil.IetsGevraagd() ? 1 : status;
 }

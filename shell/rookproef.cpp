@@ -1,0 +1,33 @@
+#include "shell/rookproef.h"
+
+#include <ostream>
+
+#include "basis/tekst.h"
+
+namespace murvane {
+
+void StilleDialogen::Schrijf(std::string_view titel, std::string_view tekst) {
+  gevraagd_ = true;
+  uit_ << NaarUtf8(titel) << ": " << NaarUtf8(tekst) << '\n';
+}
+
+Antwoord StilleDialogen::Toon(const Melding& melding) {
+  Schrijf(melding.Titel, melding.Tekst);
+  return Antwoord::Cancel;
+}
+
+std::string StilleDialogen::Invoer(const InvoerVraag& vraag) {
+  Schrijf(vraag.Titel, vraag.Tekst);
+  return {};
+}
+
+std::filesystem::path StilleDialogen::OpenDialoog(const BestandVraag& vraag) {
+  Schrijf(vraag.Titel, vraag.Filter);
+  throw Fout(FoutNummer::DialoogGeannuleerd);
+}
+
+std::filesystem::path StilleDialogen::OpslaanDialoog(const BestandVraag& vraag) {
+  return OpenDialoog(vraag);
+}
+
+}  // namespace murvane

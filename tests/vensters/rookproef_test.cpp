@@ -1,0 +1,74 @@
+// The program itself, started as a package is tried.
+
+#include <gtest/gtest.h>
+
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <filesystem>
+
+#include "tests/hulp/bestanden.h"
+
+namespace murvane {
+namespace {
+
+const std::filesystem::path Data = std::filesystem::path(MURVANE_BRON) / "data";
+
+struct Afloop {
+  int Status = -1;
+  QString Geklaagd;
+};
+
+Afloop Start(const std::filesystem::path& map, const QStringList& argumenten = {}) {
+  QProcessEnvironment omgeving = QProcessEnvironment::systemEnvironment();
+  omgeving.insert("MURVANE_ROOKPROEF", "1");
+  omgeving.insert("QT_QPA_PLATFORM", "offscreen");
+  omgeving.insert("LSAN_OPTIONS",
+                  "suppressions=" MURVANE_BRON "/tests/vensters/lsan.txt:print_suppressions=0");
+  QProcess proces;
+  proces.setProcessEnvironment(omgeving);
+  proces.setWorkingDirectory(QString::fromStdString(map.string()));
+  proces.start(MURVANE_PROGRAMMA, argumenten);
+  if (!proces.waitForFinished(60000) || proces.exitStatus() != QProcess::NormalExit) return {};
+  return {proces.exitCode(), QString::fromUtf8(proces.readAllStandardError())};
+}
+
+void Kopieer(const proef::TijdelijkeMap& map) {
+  for (const char* const naam :
+       {"murvane.set", "Duct.dat", "Fan.dat", "Rduct.dat", "Rplaf.dat", "kantoor.mrv"})
+    std::filesystem::copy_file(Data / naam, map / naam);
+}
+
+TEST(Rookproef, StartsWholeAndEnds) {
+  const proef::TijdelijkeMap map;
+  Kopieer(map);
+  const std::vector<std::string> namen = map.Namen();
+  const Afloop afloop = Start(map.Pad());
+  EXPECT_EQ(afloop.Status, 0) << afloop.Geklaagd.toStdString();
+  EXPECT_EQ(map.Namen(), namen);
+}
+
+TEST(Rookproef, OpensTheProjectOfTheCommandLine) {
+  const proef::TijdelijkeMap map;
+  Kopieer(map);
+  const Afloop afloop = Start(map.Pad(), {"kantoor.mrv"});
+  EXPECT_EQ(afloop.Status, 0) << afloop.Geklaagd.toStdString();
+  EXPECT_EQ(proef::Lees(map / "kantoor.mrv"), proef::Lees(Data / "kantoor.mrv"));
+}
+
+TEST(Rookproef, FailsOnAProjectThatIsNotThere) {
+  const proef::TijdelijkeMap map;
+  Kopieer(map);
+  const Afloop afloop = Start(map.Pad(), {"elders.mrv"});
+  EXPECT_EQ(afloop.Status, 1);
+  EXPECT_TRUE(afloop.Geklaagd.contains("Bestand niet gevonden")) << afloop.Geklaagd.toStdString();
+}
+
+TEST(Rookproef, FailsWithoutItsFiles) {
+  const proef::TijdelijkeMap map;
+  const Afloop afloop = Start(map.Pad());
+  EXPECT_EQ(afloop.Status, 1);
+  EXPECT_TRUE(afloop.Geklaagd.contains("Opstartbestand(en) niet gevonden")) << afloop.Geklaagd.toStdString();
+}
+
+}  // namespace
+}  // namespace murvane
