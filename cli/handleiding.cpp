@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <ostream>
+#include <system_error>
 
 #include "basis/bestand.h"
 #include "cli/uitslag.h"
@@ -375,7 +376,8 @@ Hulpkop Gegevensbestanden() {
 }
 
 void SchrijfHulp(const fs::path& map) {
-  for (const char* deel : {"man", "bash", "zsh"}) fs::create_directories(map / deel);
+  std::error_code blijkt;  // when the files are written
+  for (const char* deel : {"man", "bash", "zsh"}) fs::create_directories(map / deel, blijkt);
   for (const Hulpprogramma& programma : Hulpprogrammas()) {
     const std::string naam(programma.Naam);
     VervangBestand(map / "man" / (naam + ".1"), ManPagina(programma));

@@ -224,7 +224,7 @@ TEST(MaakHulp, TellsWrongUseAndFailures) {
   std::ostringstream fouten;
   const std::vector<std::string> bezet{map.ZetBytes("", "bezet")};
   EXPECT_EQ(MaakHulp(bezet, fouten), 1);
-  EXPECT_THAT(fouten.str(), HasSubstr("Fout 75"));
+  EXPECT_THAT(fouten.str(), HasSubstr("bezet/man/murvane.1: Fout 7"));
 }
 
 }  // namespace
