@@ -34,6 +34,7 @@ scripts/bestook.sh "$MURVANE_FUZZ_SECONDEN"
 
 stap "Meetprogramma start"
 build/release/bin/murvane-bench --benchmark_min_time=0.01 >/dev/null
+build/release/bin/murvane-vensterbench >/dev/null
 
 stap "run.sh zonder beeldscherm"
 env -u DISPLAY -u WAYLAND_DISPLAY ./run.sh > build/run.txt

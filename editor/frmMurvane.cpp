@@ -331,6 +331,17 @@ bool frmMurvane::IsGeldig(const InvoerVeld& veld) const {
   return ValiDate(NaarCp(veld.text()), Regel(veld.Veld()), vandaag_, decimaal_).Geldig;
 }
 
+/// To the next tab that is enabled, round and round. The field in hand is left first.
+void frmMurvane::WandelTab(int richting) {
+  if (!SSTab1->isVisible()) return;
+  SSTab1->tabBar()->setFocus(Qt::TabFocusReason);
+  int blad = SSTab1->currentIndex();
+  do {
+    blad = (blad + richting + SSTab1->count()) % SSTab1->count();
+  } while (!SSTab1->isTabEnabled(blad));
+  SSTab1->setCurrentIndex(blad);
+}
+
 bool frmMurvane::BewaarVeld() {
   return Bewaar(true);
 }

@@ -105,6 +105,7 @@ class frmMurvane : public QWidget {
   QLabel* MaakLabel(const QString& tekst, const char* reeks, QWidget* buddy);
   QLabel* BandLabel(const QString& tekst, const char* reeks, const BandRij* rij);
   void MeldAan(InvoerVeld* veld);
+  void VerbindTabs();
   void VerbindFan();
   void VerbindLijsten();
   void VerbindKeuzes();
@@ -125,6 +126,7 @@ class frmMurvane : public QWidget {
   void PasToe(const VeldUitslag& uitslag);  ///< shows it; an invalid field gets the focus back
   void ZetZichtbaar(VeldId veld, bool zichtbaar);
   bool GaNaar(const QString& naam);
+  void WandelTab(int richting);
   [[nodiscard]] bool Bewaar(bool ookRDI);
   [[nodiscard]] bool IsGeldig(const InvoerVeld& veld) const;
 

@@ -11,6 +11,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QShortcut>
 #include <QStackedWidget>
 #include <QTabBar>
 #include <QTabWidget>
@@ -149,6 +150,7 @@ void frmMurvane::BouwTabs() {
   SSTab1->addTab(BouwElementen(), "Kanaalelementen");
   SSTab1->addTab(BouwRuimte(), "Ruimtegegevens");
   SSTab1->addTab(BouwProject(), "Projectgegevens");
+  VerbindTabs();
   VerbindFan();
   VerbindLijsten();
   VerbindKeuzes();
@@ -455,6 +457,15 @@ QWidget* frmMurvane::BouwDatum() {
 }
 
 /// An option that is chosen already is not chosen again: its click would clear what it brought.
+/// Ctrl+PageDown and Ctrl+PageUp walk through the tabs from any field.
+void frmMurvane::VerbindTabs() {
+  for (const auto& [toets, stap] : {std::pair{Qt::Key_PageDown, 1}, std::pair{Qt::Key_PageUp, -1}}) {
+    auto* const sneltoets = new QShortcut(QKeySequence(Qt::CTRL | toets), this);
+    sneltoets->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(sneltoets, &QShortcut::activated, this, [this, richting = stap] { WandelTab(richting); });
+  }
+}
+
 void frmMurvane::VerbindFan() {
   connect(optInvoer, &QRadioButton::clicked, this, [this] {
     if (Houdt() || FanZichtVan(project_).optInvoer) return ToonFan(FanZichtVan(project_));
