@@ -60,7 +60,7 @@ snelkoppeling="$root/usr/share/applications/murvane.desktop"
 desktop-file-validate "$snelkoppeling"
 appstreamcli validate --no-net --explain "$root/usr/share/metainfo/nl.murvane.MurVane.metainfo.xml" ||
   mis "de metagegevens zijn niet in orde"
-update-mime-database "$root/usr/share/mime"
+update-mime-database "$root/usr/share/mime" 2>"$werk/mime.txt" || mis "$(cat "$werk/mime.txt")"
 grep -qx '50:application/x-murvane:\*.mrv' "$root/usr/share/mime/globs2" || mis "*.mrv is niet bekend"
 for pagina in "$root"/usr/share/man/man1/*.gz; do
   klacht=$(LC_ALL=C.UTF-8 MANWIDTH=80 man -l --warnings -E UTF-8 "$pagina" 2>&1 >/dev/null)
@@ -75,7 +75,9 @@ export HOME="$werk/thuis"
 export XDG_DATA_HOME="$werk/thuis/mijn gegevens"
 export QT_QPA_PLATFORM=offscreen MURVANE_ROOKPROEF=1
 unset MURVANE_BUREAUBLAD
+export XDG_RUNTIME_DIR="$werk/lopend"
 mkdir -p "$HOME" "$werk/mijn projecten é"
+mkdir -m 700 "$XDG_RUNTIME_DIR"
 PATH="$root/usr/bin:$PATH"
 cp "$root/usr/share/murvane/data/kantoor.mrv" "$werk/mijn projecten é/kantoor noord.mrv"
 cd "$werk/mijn projecten é"
@@ -116,7 +118,7 @@ grep -q 'Opstartbestand(en) niet gevonden' "$werk/gemeld.txt" || mis "$(cat "$we
 
 stap "Verwijderen"
 dpkg_in --purge murvane
-over=$(find "$root/usr" -type f ! -path '*/share/mime/*')
+over=$(find "$root/usr" -type f ! -path '*/share/mime/*' -o -path '*/mime/packages/*')
 [ -z "$over" ] || mis "er bleef staan: $over"
 (cd "$eigen" && find . -type f -exec sha256sum {} + | sort) >"$werk/na.txt"
 cmp "$werk/voor.txt" "$werk/na.txt" || mis "de gegevens van de gebruiker zijn veranderd"
