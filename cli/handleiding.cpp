@@ -419,7 +419,8 @@ std::string ZshAanvulling(const Hulpprogramma& programma) {
 
 Hulpprogramma HulpVanCli() {
   Hulpprogramma uit{"murvane-cli", "berekent geluidsniveaus van luchttechnische installaties", {}, {}, {}};
-  for (const OpdrachtRegel& regel : Opdrachten) uit.Opdrachten.push_back(VanRegel(regel));
+  for (const OpdrachtRegel& regel : Opdrachten)
+    if (regel.Code == Opdracht::Programma || !regel.Naam.empty()) uit.Opdrachten.push_back(VanRegel(regel));
   uit.Koppen = {
       {EindstatusKop,
        {{"0", "klaar"}, {"1", "fout"}, {"2", "afgekeurd door de controle"}, {"64", "verkeerd gebruik"}}},

@@ -52,6 +52,19 @@ std::string Rij(const OptieRegel& optie) {
   return uit.append(" ").append(optie.Uitleg);
 }
 
+/// The rows of murvane-cli's own commands.
+std::vector<OpdrachtRegel> CliOpdrachten() {
+  std::vector<OpdrachtRegel> uit(Opdrachten.begin(), Opdrachten.end());
+  std::erase_if(uit, [](const OpdrachtRegel& regel) { return regel.Naam.empty(); });
+  return uit;
+}
+/// The same and the program itself.
+std::vector<OpdrachtRegel> CliRegels() {
+  std::vector<OpdrachtRegel> uit = CliOpdrachten();
+  uit.push_back(RegelVan(Opdracht::Programma));
+  return uit;
+}
+
 bool IsAlgemeen(const OptieRegel& optie) {
   return Kent(optie, Opdracht::Programma);
 }
@@ -66,8 +79,7 @@ TEST(Delen, SplitAtEverySign) {
 
 TEST(ManPagina, TellsEveryCommandWithItsOwnOptionsAndTheGeneralOnesOnce) {
   const std::string pagina = ManPagina(HulpVanCli());
-  for (const OpdrachtRegel& regel : Opdrachten) {
-    if (regel.Code == Opdracht::Programma) continue;
+  for (const OpdrachtRegel& regel : CliOpdrachten()) {
     const std::string deel = Gelezen(Tussen(pagina, ".SS " + std::string(regel.Naam) + "\n", "\n.S"));
     EXPECT_THAT(deel, HasSubstr(std::string(regel.Uitleg)));
     for (const OptieRegel& optie : Opties) {
@@ -82,8 +94,7 @@ TEST(ManPagina, TellsEveryCommandWithItsOwnOptionsAndTheGeneralOnesOnce) {
 
 TEST(ManPagina, ShowsTheUsageLinesOfTheHelp) {
   const std::string overzicht = Gelezen(Tussen(ManPagina(HulpVanCli()), ".SH OVERZICHT\n", ".SH"));
-  for (const OpdrachtRegel& regel : Opdrachten) {
-    if (regel.Code == Opdracht::Programma) continue;
+  for (const OpdrachtRegel& regel : CliOpdrachten()) {
     const std::string gebruik = Tussen(HelpTekst(regel.Code), "Gebruik: ", "\n");
     EXPECT_THAT(overzicht, HasSubstr(gebruik + " "));
   }
@@ -124,7 +135,7 @@ std::string ZshDeel(Opdracht opdracht) {
 }
 
 TEST(Aanvulling, OfBashOffersTheOptionsOfTheCommandAndNoOthers) {
-  for (const OpdrachtRegel& regel : Opdrachten) {
+  for (const OpdrachtRegel& regel : CliRegels()) {
     std::string namen;
     for (const OptieRegel& optie : Opties) {
       if (!Kent(optie, regel.Code)) continue;
@@ -173,7 +184,7 @@ TEST(Aanvulling, OfBothShellsCompletesTheFilesOfTheCommand) {
 }
 
 TEST(Aanvulling, OfZshTellsTheOptionsOfTheCommandAndNoOthers) {
-  for (const OpdrachtRegel& regel : Opdrachten) {
+  for (const OpdrachtRegel& regel : CliRegels()) {
     const std::string deel = ZshDeel(regel.Code);
     for (const OptieRegel& optie : Opties) {
       const std::string uitleg = "[" + std::string(optie.Uitleg) + "]";
