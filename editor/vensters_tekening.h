@@ -13,14 +13,16 @@ namespace murvane {
 [[nodiscard]] QIcon Icoon(const QString& naam, const QPalette& palet);
 [[nodiscard]] QIcon Icoon(const QString& naam);
 
-/// The line drawing of an element type, in which the dimension of one field is lit.
+/// The line drawing of an element type or of the room, in which the dimension of one field is lit.
 class Tekening : public QWidget {
   Q_OBJECT
 
  public:
   explicit Tekening(QWidget* ouder);
 
+  /// The drawing of an element type; for a number that is none that of a chain of elements.
   void ZetType(std::int16_t elementType);
+  void ZetRuimte();
   /// Lights the dimension of a field; one that the drawing does not show lights nothing.
   void Belicht(const QString& veldNaam);
   [[nodiscard]] const QString& Belicht() const { return belicht_; }
@@ -30,6 +32,7 @@ class Tekening : public QWidget {
   void changeEvent(QEvent* event) override;
 
  private:
+  void Zet(const char* beeld, const char* omschrijving);
   void Laad();
 
   QString bron_;

@@ -1,15 +1,19 @@
 #include "editor/vensters_veld.h"
 
 #include <QApplication>
+#include <QButtonGroup>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPainter>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
+#include <QTextCharFormat>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
 #include "basis/vensters_hulp.h"
+#include "basis/vensters_stijl.h"
 
 namespace murvane {
 
@@ -52,6 +56,15 @@ char32_t Teken(const QKeyEvent& event) {
 
 int VakBreedte(const QWidget& vak) {
   return vak.fontMetrics().horizontalAdvance("0000,00") + 14;
+}
+
+/// The chosen one of the options that exclude each other, and this one among them; none when none is.
+QAbstractButton* Gekozene(const QRadioButton& optie) {
+  if (optie.group() != nullptr) return optie.group()->checkedButton();
+  for (auto* const ander : optie.parentWidget()->findChildren<QRadioButton*>(Qt::FindDirectChildrenOnly)) {
+    if (ander->group() == nullptr && ander->isChecked()) return ander;
+  }
+  return nullptr;
 }
 
 QHBoxLayout* Regelindeling(QWidget* ouder) {
@@ -135,6 +148,7 @@ BandRij::BandRij(std::string_view naam, int eerste, const QString& omschrijving,
     auto* const kolom = new QVBoxLayout;
     kolom->setSpacing(2);
     QLabel* const kop = Bandnaam(band, this);
+    kop->setObjectName("lblBand_" + vak->objectName());
     kop->setBuddy(vak);
     kolom->addWidget(kop);
     kolom->addWidget(vak);
@@ -143,11 +157,25 @@ BandRij::BandRij(std::string_view naam, int eerste, const QString& omschrijving,
   indeling->addStretch();
 }
 
+void Optieknop::focusInEvent(QFocusEvent* event) {
+  QRadioButton::focusInEvent(event);
+  const bool gewezen = event->reason() == Qt::MouseFocusReason || BlijftInVeld(event->reason());
+  QAbstractButton* const gekozen = Gekozene(*this);
+  if (!gewezen && gekozen != nullptr && gekozen != this && gekozen->isVisible())
+    gekozen->setFocus(event->reason());
+}
+
+void Balkknop::keyPressEvent(QKeyEvent* event) {
+  if (IsEnter(event->key())) return click();
+  QToolButton::keyPressEvent(event);
+}
+
 Lijstvak::Lijstvak(const QString& objectNaam, const QString& naam, QWidget* ouder) : QListWidget(ouder) {
   setObjectName(objectNaam);
   setAccessibleName(naam);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setTextElideMode(Qt::ElideRight);
+  setViewportMargins(Ringruimte, Ringruimte, Ringruimte, Ringruimte);
   connect(this, &QListWidget::currentRowChanged, this, [this](int rij) {
     if (!stil_) emit Geklikt(rij);
   });
@@ -207,6 +235,23 @@ void Lijstvak::focusInEvent(QFocusEvent* event) {
     QListWidget::focusInEvent(event);
   }
   if (rij < 0) ZetRij(rij);
+}
+
+Kalender::Kalender(QWidget* ouder) : QCalendarWidget(ouder) {
+  setLocale(QLocale(QLocale::Dutch, QLocale::Netherlands));
+  setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+  setAutoFillBackground(true);
+  setContentsMargins(2, 2, 2, 2);
+  for (const Qt::DayOfWeek dag : {Qt::Saturday, Qt::Sunday}) setWeekdayTextFormat(dag, {});  // red on dark
+  connect(qApp, &QApplication::focusChanged, this, qOverload<>(&QWidget::update));
+}
+
+void Kalender::paintEvent(QPaintEvent* event) {
+  QCalendarWidget::paintEvent(event);
+  const bool heeftFocus = isAncestorOf(QApplication::focusWidget());
+  QPainter schilder(this);
+  schilder.setPen(QPen(palette().color(heeftFocus ? QPalette::Highlight : QPalette::PlaceholderText), 2));
+  schilder.drawRect(QRectF(rect()).adjusted(1, 1, -1, -1));
 }
 
 Keuzevak::Keuzevak(const QString& objectNaam, const QString& naam, QWidget* ouder) : QComboBox(ouder) {

@@ -2,9 +2,12 @@
 // The controls of the project window: an input field with its rule, a row of seven band fields, a list and a
 // combo box. They tell what the user does; what it means is decided elsewhere.
 
+#include <QCalendarWidget>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QRadioButton>
+#include <QToolButton>
 #include <array>
 #include <cstdint>
 
@@ -60,6 +63,28 @@ class BandRij : public QWidget {
   std::array<InvoerVeld*, Banden> vakken_{};
 };
 
+/// An option. The focus comes to the one that is chosen, unless the mouse points at another.
+class Optieknop : public QRadioButton {
+  Q_OBJECT
+
+ public:
+  using QRadioButton::QRadioButton;
+
+ protected:
+  void focusInEvent(QFocusEvent* event) override;
+};
+
+/// A button of a toolbar, which Enter presses as the space bar does.
+class Balkknop : public QToolButton {
+  Q_OBJECT
+
+ public:
+  using QToolButton::QToolButton;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+};
+
 /// A list whose rows are clicked: by the mouse, also the row that is selected already, or by the arrow keys.
 class Lijstvak : public QListWidget {
   Q_OBJECT
@@ -86,6 +111,17 @@ class Lijstvak : public QListWidget {
 
  private:
   bool stil_ = false;
+};
+
+/// A calendar that lies over other controls: it has a rim, which lights up while it has the focus.
+class Kalender : public QCalendarWidget {
+  Q_OBJECT
+
+ public:
+  explicit Kalender(QWidget* ouder);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
 };
 
 /// A combo box with a text of its own that the wheel does not change.

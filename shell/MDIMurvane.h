@@ -19,6 +19,7 @@ class QMenu;
 
 namespace murvane {
 
+class Taakbalk;
 class frmMurvane;
 class frmResultaat;
 
@@ -33,10 +34,14 @@ class MDIMurvane : public QMainWindow {
   void OpenVanOpdrachtregel();
 
  protected:
+  void showEvent(QShowEvent* gebeurtenis) override;
+  void changeEvent(QEvent* gebeurtenis) override;
   void closeEvent(QCloseEvent* gebeurtenis) override;
 
  private:
   void MaakMenu();
+  void ZetMenuBeelden();
+  void MaakTaakbalk();
   void MaakStatusbalk();
   void Verbind(std::string_view naam, void (MDIMurvane::*opdracht)());
   void Voer(const std::string& naam, void (MDIMurvane::*opdracht)());
@@ -54,6 +59,8 @@ class MDIMurvane : public QMainWindow {
   void mnuUitstraling();
   void mnuOverspraak();
   void mnuCalc();
+  void mnuHelpFile();
+  void mnuInfo();
 
   void Reken();
   QMdiSubWindow* LaadResultaat();
@@ -66,6 +73,7 @@ class MDIMurvane : public QMainWindow {
   Dialogen& dialogen_;
   QMdiArea* gebied_;
   frmMurvane* project_;
+  Taakbalk* taakbalk_ = nullptr;
   QPointer<frmResultaat> resultaat_;
   std::map<std::string_view, QAction*> acties_;  ///< by name; the names of MenuBalk
   QLabel* beeld_ = nullptr;

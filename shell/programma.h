@@ -25,10 +25,11 @@ struct Programma {
   murvane::Rapport Rapport;            ///< of the last run
   murvane::Instellingen Instellingen;  ///< written by mnuExit_Click only
 
-  std::filesystem::path DataDir;      ///< of murvane.set and the catalogues; fixed once the start is over
-  std::filesystem::path OpenBestand;  ///< the project that the command line named, until it was opened
-  DatumVeld Vandaag;                  ///< the day of the start
-  char Decimaal = ',';                ///< the region's decimal sign
+  std::filesystem::path DataDir;  ///< of murvane.set and the catalogues; fixed once the start is over
+  std::filesystem::path ProgrammaBestanden;  ///< of the manual and the notes on the delivered version
+  std::filesystem::path OpenBestand;         ///< the project that the command line named, until it was opened
+  DatumVeld Vandaag;                         ///< the day of the start
+  char Decimaal = ',';                       ///< the region's decimal sign
 
   /// The file name that stands in the file dialog: the one chosen last, or the project that was opened. The
   /// next dialog proposes it. Closing a project and making a new one empty it.

@@ -7,12 +7,15 @@
 #include <chrono>
 #include <filesystem>
 #include <iostream>
+#include <optional>
 #include <system_error>
 
 #include "basis/bestand.h"
+#include "basis/vensters_stijl.h"
 #include "editor/vensters_dialogen.h"
 #include "shell/MDIMurvane.h"
 #include "shell/bureaublad.h"
+#include "shell/frmSplashII.h"
 #include "shell/opstart.h"
 #include "shell/rookproef.h"
 #include "shell/startup.h"
@@ -59,16 +62,27 @@ class NaEersteBeeld : public QObject {
   }
 };
 
-/// From the start to the end of the program; the exit status.
+/// From the start to the end of the program; the exit status. The program loads behind the splash, which
+/// then gives way to the main window: after its time, or at once at a click or key.
 int Draai(murvane::Dialogen& dialogen, const murvane::StartGegevens& start, bool rookproef) {
+  std::optional<murvane::frmSplashII> splash;
+  if (!rookproef) splash.emplace().Toon();
   murvane::Programma programma;
+  programma.ProgrammaBestanden = murvane::MeegeleverdeMap(murvane::ProgrammaMap());
   if (murvane::MDIForm_Load(programma, dialogen, start) == murvane::Vervolg::Einde) return 0;
   murvane::MDIMurvane hoofdvenster(programma, dialogen);
   NaEersteBeeld naEersteBeeld;
   if (rookproef) hoofdvenster.installEventFilter(&naEersteBeeld);
   hoofdvenster.resize(1024, 740);
-  hoofdvenster.show();
-  hoofdvenster.OpenVanOpdrachtregel();
+  const auto toon = [&] {
+    hoofdvenster.show();
+    hoofdvenster.OpenVanOpdrachtregel();
+  };
+  if (!splash || splash->IsVoorbij()) {
+    toon();
+  } else {
+    QObject::connect(&*splash, &murvane::frmSplashII::Voorbij, &hoofdvenster, toon);
+  }
   return QApplication::exec();
 }
 
@@ -79,6 +93,7 @@ int main(int argc, char** argv) {
   murvane::Toepassing toepassing(argc, argv);
   QApplication::setApplicationName("MurVane");
   QApplication::setDesktopFileName("murvane");
+  murvane::ZetStijl(toepassing);
   QLocale::setDefault(QLocale(QLocale::Dutch, QLocale::Netherlands));
   QTranslator vertaling;
   if (murvane::LaadVertaling(vertaling)) QCoreApplication::installTranslator(&vertaling);
