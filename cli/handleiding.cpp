@@ -130,7 +130,7 @@ enum class Soort { Niets, Woorden, Map, Bestand };
 Soort SoortVan(const Hulpoptie& optie) {
   if (!optie.Waarden.empty()) return Soort::Woorden;
   if (optie.Argument == "MAP") return Soort::Map;
-  return optie.Argument.starts_with("AANTAL") ? Soort::Niets : Soort::Bestand;
+  return optie.Argument.starts_with("BESTAND") ? Soort::Bestand : Soort::Niets;
 }
 
 /// The extension in "PROJECT.mrv"; empty for any file.

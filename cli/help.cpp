@@ -56,7 +56,8 @@ std::string OptieNaam(const OptieRegel& optie) {
 
 std::string Gebruik(const OpdrachtRegel& regel) {
   if (regel.Code == Opdracht::Programma) return "Gebruik: murvane-cli OPDRACHT [OPTIES]\n\n";
-  std::string uit = "Gebruik: murvane-cli " + std::string(regel.Naam) + " " + std::string(regel.Argument);
+  std::string uit = "Gebruik: murvane-cli " + std::string(regel.Naam);
+  if (!regel.Argument.empty()) uit.append(" ").append(regel.Argument);
   if (regel.Meer) uit += "...";
   for (const OptieRegel& optie : Opties)
     if (Kent(optie, regel.Code) && optie.Verplicht) uit += " " + OptieNaam(optie);

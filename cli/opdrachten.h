@@ -8,6 +8,7 @@
 
 #include "cli/ontleed.h"
 #include "cli/uitslag.h"
+#include "estimators/schatters.h"
 
 namespace murvane {
 
@@ -24,6 +25,8 @@ namespace murvane {
 [[nodiscard]] int VoerMaak(const Keuzes& keuzes, Kanalen& kanalen);
 [[nodiscard]] int VoerCatalogusToon(const Keuzes& keuzes, Kanalen& kanalen);
 [[nodiscard]] int VoerCatalogusMaak(const Keuzes& keuzes, Kanalen& kanalen);
+[[nodiscard]] int VoerSchat(const Keuzes& keuzes, Schatter soort, Kanalen& kanalen);
+[[nodiscard]] int VoerSchatVentilator(const Keuzes& keuzes, Kanalen& kanalen);
 
 /// The decimal sign: --decimaal, else that of the regional setting.
 [[nodiscard]] char Decimaalteken(const Keuzes& keuzes);

@@ -15,7 +15,20 @@
 namespace murvane {
 
 /// The commands. Programma stands for a command line without one.
-enum class Opdracht : std::uint8_t { Programma, Reken, Controleer, Toon, Maak, CatalogusToon, CatalogusMaak };
+enum class Opdracht : std::uint8_t {
+  Programma,
+  Reken,
+  Controleer,
+  Toon,
+  Maak,
+  CatalogusToon,
+  CatalogusMaak,
+  SchatBekleed,
+  SchatKwartLambda,
+  SchatPlenum,
+  SchatKanaalwand,
+  SchatVentilator
+};
 
 struct OpdrachtRegel {
   Opdracht Code;
@@ -52,6 +65,29 @@ inline constexpr std::array Opdrachten = {
     OpdrachtRegel{Opdracht::CatalogusMaak, "catalogus maak", "BESTAND.json", false,
                   "maakt een catalogus uit JSON",
                   "Maakt een catalogusbestand uit JSON. De soort volgt uit de lijst in de JSON."},
+    OpdrachtRegel{Opdracht::SchatBekleed, "schat bekleed", "", false,
+                  "schat de demping van een bekleed kanaal",
+                  "Schat de demping van een kanaal met geluidsabsorberende bekleding. "
+                  "De omschrijving en de zeven octaafbanden verschijnen elk op een regel. Een optie die "
+                  "ontbreekt, is 0."},
+    OpdrachtRegel{Opdracht::SchatKwartLambda, "schat kwartlambda", "", false,
+                  "schat de demping van een kwartlambda-demper",
+                  "Schat de demping van een kwartlambda-demper: een verwijding in een kanaal. "
+                  "De omschrijving en de zeven octaafbanden verschijnen elk op een regel. Een optie die "
+                  "ontbreekt, is 0."},
+    OpdrachtRegel{Opdracht::SchatPlenum, "schat plenum", "", false, "schat de demping van een plenumdemper",
+                  "Schat de demping van een bekleed plenum waarin een kanaal uitkomt. "
+                  "De omschrijving en de zeven octaafbanden verschijnen elk op een regel. Een optie die "
+                  "ontbreekt, is 0."},
+    OpdrachtRegel{Opdracht::SchatKanaalwand, "schat kanaalwand", "", false,
+                  "schat de geluidsisolatie van een kanaalwand",
+                  "Schat de geluidsisolatie van een kanaalwand met de massawet. "
+                  "De omschrijving en de zeven octaafbanden verschijnen elk op een regel. Een optie die "
+                  "ontbreekt, is 0."},
+    OpdrachtRegel{Opdracht::SchatVentilator, "schat ventilator", "", false,
+                  "schat het geluidsvermogen van een ventilator",
+                  "Schat het geluidsvermogen van een ventilator. De naam, de zeven octaafbanden en het "
+                  "niveau in dB(A) verschijnen elk op een regel. Een optie die ontbreekt, is 0."},
 };
 
 enum class Optie : std::uint8_t {
@@ -62,6 +98,22 @@ enum class Optie : std::uint8_t {
   UitvoerToon,
   UitvoerMaak,
   Soort,
+  H,
+  B,
+  DikteBekleding,
+  L,
+  S2,
+  Hdemper,
+  Bdemper,
+  KanaalType,
+  DikteWand,
+  Massa,
+  FanType,
+  FanDebiet,
+  FanDruk,
+  FanToeren,
+  FanSchoepen,
+  FanVermogen,
   Data,
   Decimaal,
   Versie,
@@ -69,14 +121,14 @@ enum class Optie : std::uint8_t {
 };
 
 /// The commands that know an option, a bit for each.
-using Opdrachtenset = std::uint8_t;
+using Opdrachtenset = std::uint32_t;
 
 constexpr Opdrachtenset Bij(std::initializer_list<Opdracht> opdrachten) {
-  unsigned uit = 0;
+  Opdrachtenset uit = 0;
   for (const Opdracht opdracht : opdrachten) uit |= 1U << static_cast<unsigned>(opdracht);
-  return static_cast<Opdrachtenset>(uit);
+  return uit;
 }
-inline constexpr Opdrachtenset BijAlle = 0x7F;
+inline constexpr Opdrachtenset BijAlle = ~Opdrachtenset{0};
 
 struct OptieRegel {
   Optie Code;
@@ -105,12 +157,43 @@ inline constexpr std::array Opties = {
     OptieRegel{Optie::Soort, Bij({Opdracht::CatalogusToon}), "--soort", "SOORT", false,
                "kanaalelementen, ventilatoren, luchtkanalen of plafonds; gaat voor de bestandsnaam",
                "kanaalelementen|ventilatoren|luchtkanalen|plafonds"},
+    OptieRegel{Optie::H, Bij({Opdracht::SchatBekleed, Opdracht::SchatKwartLambda, Opdracht::SchatPlenum}),
+               "--h", "MM", false, "hoogte van het kanaal, of de diameter als het rond is"},
+    OptieRegel{Optie::B, Bij({Opdracht::SchatBekleed, Opdracht::SchatKwartLambda, Opdracht::SchatPlenum}),
+               "--B", "MM", false, "breedte van het kanaal; 0 is een rond kanaal"},
+    OptieRegel{Optie::DikteBekleding, Bij({Opdracht::SchatBekleed, Opdracht::SchatPlenum}), "--Dikte", "MM",
+               false, "dikte van het bekledingsmateriaal"},
+    OptieRegel{Optie::L, Bij({Opdracht::SchatBekleed, Opdracht::SchatKwartLambda, Opdracht::SchatPlenum}),
+               "--L", "M", false, "lengte van het kanaal of de demper"},
+    OptieRegel{Optie::S2, Bij({Opdracht::SchatKwartLambda}), "--S2", "M2", false, "doorsnede van de demper"},
+    OptieRegel{Optie::Hdemper, Bij({Opdracht::SchatPlenum}), "--Hdemper", "MM", false,
+               "hoogte van de plenumdemper"},
+    OptieRegel{Optie::Bdemper, Bij({Opdracht::SchatPlenum}), "--Bdemper", "MM", false,
+               "breedte van de plenumdemper"},
+    OptieRegel{Optie::KanaalType, Bij({Opdracht::SchatKanaalwand}), "--KanaalType", "TYPE", false,
+               "1 verzinkt staal, 2 rvs staal, 3 aluminium, 4 kunststof; elk ander getal telt als 1"},
+    OptieRegel{Optie::DikteWand, Bij({Opdracht::SchatKanaalwand}), "--Dikte", "MM", false,
+               "dikte van de kanaalwand"},
+    OptieRegel{Optie::Massa, Bij({Opdracht::SchatKanaalwand}), "--Massa", "KG", false,
+               "massa van de ontdreuning per m²"},
+    OptieRegel{Optie::FanType, Bij({Opdracht::SchatVentilator}), "--FanType", "TYPE", false,
+               "1 axiaal, 2 centrifugaal voorwaarts, 3 centrifugaal achterwaarts"},
+    OptieRegel{Optie::FanDebiet, Bij({Opdracht::SchatVentilator}), "--FanDebiet", "M3/S", false,
+               "luchtdebiet"},
+    OptieRegel{Optie::FanDruk, Bij({Opdracht::SchatVentilator}), "--FanDruk", "PA", false, "totale druk"},
+    OptieRegel{Optie::FanToeren, Bij({Opdracht::SchatVentilator}), "--FanToeren", "AANTAL", false,
+               "toerental per minuut"},
+    OptieRegel{Optie::FanSchoepen, Bij({Opdracht::SchatVentilator}), "--FanSchoepen", "AANTAL", false,
+               "aantal schoepen"},
+    OptieRegel{Optie::FanVermogen, Bij({Opdracht::SchatVentilator}), "--FanVermogen", "W", false,
+               "asvermogen; bij 0 wordt het berekend met een rendement van 70 %"},
     OptieRegel{Optie::Data, BijAlle, "--data", "MAP", false,
                "de map van murvane.set; zonder deze optie de huidige map als die er een heeft, anders de map "
                "data van "
                "het programma"},
     OptieRegel{Optie::Decimaal, BijAlle, "--decimaal", "punt|komma", false,
-               "het decimaalteken in rapporten; zonder deze optie dat van de landinstelling", "punt|komma"},
+               "het decimaalteken in rapporten en schattingen; zonder deze optie dat van de landinstelling",
+               "punt|komma"},
     OptieRegel{Optie::Versie, BijAlle, "--versie,--version", "", false, "toont de versie van het programma"},
     OptieRegel{Optie::Help, BijAlle, "-h,--help", "", false, "toont deze hulp"},
 };

@@ -123,7 +123,7 @@ void frmMurvane::ToonGeenProject() {
   leeg_->show();
   ProgressBar1->hide();
   if (SSTab1->count() > 0) {
-    SSTab2->hide();
+    ToonLijsten();
     lblElement->clear();
     lblLwA->clear();
   }
@@ -535,14 +535,12 @@ void frmMurvane::MonthView_DateClick(const QDate& datum) {
 
 void frmMurvane::KiesType(std::int16_t rekenType) {
   if (!BewaarVeld()) return;
-  Veilig(std::string(TypeVan(rekenType).Menu) + "_Click", [&] {
-    BouwTabs();
-    VoerUit(KiesRekenType(sessie_, project_, rekenType));
-    ToonType();
-    SSTab1->setCurrentIndex(static_cast<int>(StartPagina));
-    VoerUit(VrVldSet(project_));
-    VormPagina();
-  });
+  BouwTabs();
+  VoerUit(KiesRekenType(sessie_, project_, rekenType));
+  ToonType();
+  SSTab1->setCurrentIndex(static_cast<int>(StartPagina));
+  VoerUit(VrVldSet(project_));
+  VormPagina();
 }
 
 ProjectInvoer frmMurvane::LeesInvoer() const {

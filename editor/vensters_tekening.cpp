@@ -137,17 +137,17 @@ Tekening::Tekening(QWidget* ouder) : QWidget(ouder) {
 void Tekening::ZetType(std::int16_t elementType) {
   const auto* const beeld = std::find_if(Beelden.begin(), Beelden.end(),
                                          [elementType](const Beeld& een) { return een.Type == elementType; });
-  if (beeld == Beelden.end()) return Zet("keten", "Keten van kanaalelementen");
-  Zet(beeld->Naam, beeld->Omschrijving);
+  if (beeld == Beelden.end()) return ZetBeeld(":/editor/beelden/keten.svg", "Keten van kanaalelementen");
+  ZetBeeld(QString(":/editor/beelden/") + beeld->Naam + ".svg", beeld->Omschrijving);
 }
 
 void Tekening::ZetRuimte() {
-  Zet("ruimte", "Vertrek");
+  ZetBeeld(":/editor/beelden/ruimte.svg", "Vertrek");
 }
 
-void Tekening::Zet(const char* beeld, const char* omschrijving) {
-  bron_ = LeesBron(QString(":/editor/beelden/") + beeld + ".svg");
-  setAccessibleName(QString("Tekening: ") + omschrijving);
+void Tekening::ZetBeeld(const QString& pad, const QString& omschrijving) {
+  bron_ = LeesBron(pad);
+  setAccessibleName("Tekening: " + omschrijving);
   Laad();
 }
 

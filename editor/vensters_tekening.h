@@ -13,7 +13,7 @@ namespace murvane {
 [[nodiscard]] QIcon Icoon(const QString& naam, const QPalette& palet);
 [[nodiscard]] QIcon Icoon(const QString& naam);
 
-/// The line drawing of an element type or of the room, in which the dimension of one field is lit.
+/// The line drawing of an element type, the room or an estimate, in which the dimension of one field is lit.
 class Tekening : public QWidget {
   Q_OBJECT
 
@@ -23,6 +23,8 @@ class Tekening : public QWidget {
   /// The drawing of an element type; for a number that is none that of a chain of elements.
   void ZetType(std::int16_t elementType);
   void ZetRuimte();
+  /// Another drawing of the same family, out of the program's resources.
+  void ZetBeeld(const QString& pad, const QString& omschrijving);
   /// Lights the dimension of a field; one that the drawing does not show lights nothing.
   void Belicht(const QString& veldNaam);
   [[nodiscard]] const QString& Belicht() const { return belicht_; }
@@ -32,7 +34,6 @@ class Tekening : public QWidget {
   void changeEvent(QEvent* event) override;
 
  private:
-  void Zet(const char* beeld, const char* omschrijving);
   void Laad();
 
   QString bron_;

@@ -89,7 +89,10 @@ QString ObjectNaam(VeldId veld) {
 }
 
 InvoerVeld::InvoerVeld(VeldId veld, const QString& naam, QWidget* ouder)
-    : QLineEdit(ouder), veld_(veld), regel_(Regel(veld)) {
+    : InvoerVeld(veld, Regel(veld), naam, ouder) {}
+
+InvoerVeld::InvoerVeld(VeldId veld, const VeldRegel& regel, const QString& naam, QWidget* ouder)
+    : QLineEdit(ouder), veld_(veld), regel_(regel) {
   setObjectName(ObjectNaam(veld));
   setAccessibleName(naam);
   if (const int meest = MaxTekens(regel_); meest > 0) setMaxLength(meest);
@@ -209,15 +212,14 @@ void Lijstvak::mousePressEvent(QMouseEvent* event) {
   emit Geklikt(currentRow());
 }
 
-void Lijstvak::mouseDoubleClickEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton) QListWidget::mouseDoubleClickEvent(event);
+/// A row that is pressed stays selected: Ctrl would clear it, at the press or at the release.
+QItemSelectionModel::SelectionFlags Lijstvak::selectionCommand(const QModelIndex& index,
+                                                               const QEvent* /*event*/) const {
+  return index.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
 }
 
-/// One row is selected, also with Ctrl down.
-QItemSelectionModel::SelectionFlags Lijstvak::selectionCommand(const QModelIndex& rij,
-                                                               const QEvent* event) const {
-  if (rij.isValid()) return QItemSelectionModel::ClearAndSelect;
-  return QListWidget::selectionCommand(rij, event);
+void Lijstvak::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) QListWidget::mouseDoubleClickEvent(event);
 }
 
 void Lijstvak::keyPressEvent(QKeyEvent* event) {

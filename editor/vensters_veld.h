@@ -4,6 +4,7 @@
 
 #include <QCalendarWidget>
 #include <QComboBox>
+#include <QItemSelectionModel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QRadioButton>
@@ -26,8 +27,11 @@ class InvoerVeld : public QLineEdit {
 
  public:
   InvoerVeld(VeldId veld, const QString& naam, QWidget* ouder);
+  /// A field of another window, by the rule of its own table, which outlives it.
+  InvoerVeld(VeldId veld, const VeldRegel& regel, const QString& naam, QWidget* ouder);
 
   [[nodiscard]] VeldId Veld() const { return veld_; }
+  [[nodiscard]] const VeldRegel& DeRegel() const { return regel_; }
   void ZetKleur(std::uint32_t bgr);
 
  signals:
@@ -106,7 +110,7 @@ class Lijstvak : public QListWidget {
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
-  [[nodiscard]] QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& rij,
+  [[nodiscard]] QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                                      const QEvent* event) const override;
 
  private:

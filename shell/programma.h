@@ -8,6 +8,7 @@
 #include "basis/tekst.h"
 #include "calc/resultaten.h"
 #include "catalogue/catfiles.h"
+#include "estimators/schatting.h"
 #include "project/records.h"
 #include "reports/rapport.h"
 #include "shell/settings.h"
@@ -23,6 +24,7 @@ struct Programma {
   murvane::Catalogi Catalogi;
   murvane::Resultaten Resultaten;      ///< of the last run
   murvane::Rapport Rapport;            ///< of the last run
+  murvane::SchatInvoer SchatInvoer;    ///< that each estimator had last
   murvane::Instellingen Instellingen;  ///< written by mnuExit_Click only
 
   std::filesystem::path DataDir;  ///< of murvane.set and the catalogues; fixed once the start is over

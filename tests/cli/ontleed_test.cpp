@@ -99,6 +99,17 @@ const Verkeerd Gevallen[] = {
      "catalogus toon "},
     {{"catalogus", "maak", "x.json"}, "Optie -o BESTAND ontbreekt.", "catalogus maak "},
     {{"catalogus", "maak", "-o", "x.dat"}, "BESTAND.json ontbreekt.", "catalogus maak "},
+    {{"schat"}, "Achter schat hoort bekleed, kwartlambda, plenum, kanaalwand of ventilator.", ""},
+    {{"schat", "raam"}, "Achter schat hoort bekleed, kwartlambda, plenum, kanaalwand of ventilator.", ""},
+    {{"schat", "bekleed", "500"}, "Onverwacht argument: 500", "schat bekleed "},
+    {{"schat", "bekleed", "--S2", "1"}, "Onbekende optie: --S2", "schat bekleed "},
+    {{"schat", "kwartlambda", "--Dikte", "1"}, "Onbekende optie: --Dikte", "schat kwartlambda "},
+    {{"schat", "plenum", "--l", "1"}, "Onbekende optie: --l", "schat plenum "},
+    {{"schat", "plenum", "--h"}, "Achter --h ontbreekt MM.", "schat plenum "},
+    {{"schat", "kanaalwand", "--h", "1"}, "Onbekende optie: --h", "schat kanaalwand "},
+    {{"schat", "ventilator", "--FanDruk", "1", "--FanDruk", "2"},
+     "Optie --FanDruk staat er meer dan één keer.",
+     "schat ventilator "},
 };
 
 TEST_P(VerkeerdGebruik, IsToldInDutchWithAHintAndStatus64) {
@@ -134,7 +145,8 @@ TEST(Ontleed, TakesEveryOptionWithAValueInBothForms) {
     for (const OpdrachtRegel& regel : Opdrachten) {
       if (!Kent(optie, regel.Code) || regel.Code == Opdracht::Programma) continue;
       const std::string naam(EersteNaam(optie));
-      Woorden kaal{"x"};
+      Woorden kaal;
+      if (!regel.Argument.empty()) kaal.emplace_back("x");
       if (!optie.Verplicht && (regel.Code == Opdracht::Maak || regel.Code == Opdracht::CatalogusMaak))
         kaal.insert(kaal.end(), {"-o", "y"});
       Woorden los = kaal;

@@ -34,8 +34,8 @@ Script& Script::Voeg(Stap stap) {
 Script& Script::Box(const Melding& melding, Antwoord antwoord, Intussen intussen) {
   return Voeg({Woorden(melding), antwoord, {}, {}, std::move(intussen)});
 }
-Script& Script::InvoerBox(const InvoerVraag& vraag, const std::string& antwoord) {
-  return Voeg({Woorden(vraag), {}, antwoord, {}, {}});
+Script& Script::InvoerBox(const InvoerVraag& vraag, const std::string& antwoord, Intussen intussen) {
+  return Voeg({Woorden(vraag), {}, antwoord, {}, std::move(intussen)});
 }
 Script& Script::Open(const BestandVraag& vraag, std::optional<fs::path> antwoord, Intussen intussen) {
   return Voeg({"open" + Woorden(vraag), {}, {}, std::move(antwoord), std::move(intussen)});

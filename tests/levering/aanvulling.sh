@@ -28,7 +28,7 @@ verwacht() {  # what comes, command line
   [ "$wordt" = "$1" ] || { echo "$(printf '[%s] ' "${@:2}"): '$wordt' in plaats van '$1'" >&2; fouten=1; }
 }
 
-verwacht 'catalogus|controleer|maak|reken|toon' murvane-cli ''
+verwacht 'catalogus|controleer|maak|reken|schat|toon' murvane-cli ''
 verwacht 'reken' murvane-cli re
 verwacht 'reken' murvane-cli --data map re
 verwacht 'punt' murvane-cli --decimaal p
@@ -47,6 +47,10 @@ verwacht 'kanaalelementen' murvane-cli catalogus toon --soort k
 verwacht '--taken' murvane-cli reken --t
 verwacht '--data|--decimaal|--help|--versie|--version|-h|-o' murvane-cli catalogus maak -
 verwacht '' murvane-cli reken een.mrv --taken ''
+verwacht 'bekleed|kanaalwand|kwartlambda|plenum|ventilator' murvane-cli schat ''
+verwacht '--Dikte' murvane-cli schat bekleed --Di
+verwacht '' murvane-cli schat bekleed --Dikte ''
+verwacht '' murvane-cli schat bekleed ''
 verwacht 'TWEE.MRV|een.mrv|mijn map' murvane ''
 
 for bestand in "$map"/zsh/_*; do zsh -n "$bestand" || fouten=1; done
