@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Completes command lines with the made completion, as a user would by the Tab key: aanvulling.sh MAP
 set -euo pipefail
-map=$1
+map=$(realpath "$1")
 werk=$(mktemp -d)
 trap 'rm -rf "$werk"' EXIT
 cd "$werk"
