@@ -76,7 +76,8 @@ void MDIMurvane::MaakMenu() {
   std::map<std::string_view, ZijbalkMenu*> menus;
   for (const MenuItem& item : MenuBalk) {
     if (item.Soort == MenuSoort::Menu || item.Soort == MenuSoort::SubMenu) {
-      auto* const menu = new ZijbalkMenu(VanCp(item.Opschrift), this);
+      QWidget* const ouder = item.In.empty() ? static_cast<QWidget*>(this) : menus.at(item.In);
+      auto* const menu = new ZijbalkMenu(VanCp(item.Opschrift), ouder);
       if (item.In.empty()) {
         menuBar()->addMenu(menu);
       } else {

@@ -113,22 +113,18 @@ struct Opgeschreven {
   QStringList Teksten;  ///< caption and unit
 };
 const std::vector<Opgeschreven> Maten = {
-    {"txtHoogte", {"Hoogte of diameter", "mm"}},
     {"txtBreedte", {"Breedte", "mm"}},
     {"txtLengte", {"Lengte", "m"}},
     {"txtDebiet", {"Luchtdebiet", "m³/s"}},
     {"cmbKanaal", {"Kanaalwand"}},
-    {"txtHAftak", {"Hoogte of diameter aftakking", "mm"}},
     {"txtBAftak", {"Breedte aftakking", "mm"}},
     {"txtRAftak", {"Afronding r/d aftakking", ""}},
     {"txtQAftak", {"Luchtdebiet aftakking", "m³/s"}},
     {"txtHHoofd", {"Hoogte of diameter hoofdkanaal", "mm"}},
-    {"txtBHoofd", {"Breedte hoofdkanaal", "mm"}},
+    {"txtBHoofd", {"Breedte hoofdkanaal", "mm, 0 is rond"}},
     {"txtHDoor", {"Hoogte of diameter doorgaand kanaal", "mm"}},
-    {"txtBDoor", {"Breedte doorgaand kanaal", "mm"}},
-    {"txtH1Doorsnee", {"Hoogte of diameter intrede", "mm"}},
+    {"txtBDoor", {"Breedte doorgaand kanaal", "mm, 0 is rond"}},
     {"txtB1Doorsnee", {"Breedte intrede", "mm"}},
-    {"txtH2Doorsnee", {"Hoogte of diameter uittrede", "mm"}},
     {"txtB2Doorsnee", {"Breedte uittrede", "mm"}},
     {"txtLDoorsnee", {"Lengte", "m"}},
     {"txtSnetto", {"Netto doorlaat", "cm²"}},
@@ -147,12 +143,30 @@ const std::vector<Opgeschreven> Maten = {
 };
 
 TEST_F(Elementpagina, EveryFieldHasItsCaptionAndUnit) {
+  Nieuw();
   for (const Opgeschreven& vak : Maten) EXPECT_EQ(Opschriften(vak.Naam), vak.Teksten) << vak.Naam;
   EXPECT_TRUE(Opschriften("txtdemp_0").contains("Geluidsinstraling"));
   EXPECT_TRUE(Opschriften("txtdemp_0").contains("LAeq in dB(A)"));
   EXPECT_TRUE(Opschriften("txtdemp_7").contains("Invoegdemping in dB"));
   EXPECT_TRUE(Opschriften("txtruis_0").contains("Eigenruis in dB"));
   EXPECT_TRUE(Opschriften("txtLw_0").contains("Lw in dB"));
+}
+
+TEST_F(Elementpagina, AHeightIsADiameterWhereTheElementIsRound) {
+  struct Rij {
+    int Record;
+    const char* Naam;
+    const char* Opschrift;
+  };
+  for (const Rij& rij :
+       {Rij{8, "txtHoogte", "Hoogte"}, Rij{9, "txtHoogte", "Diameter"}, Rij{3, "txtHoogte", "Hoogte"},
+        Rij{5, "txtHoogte", "Diameter"}, Rij{1, "txtHAftak", "Hoogte aftakking"},
+        Rij{2, "txtHAftak", "Diameter aftakking"}, Rij{6, "txtH1Doorsnee", "Hoogte intrede"},
+        Rij{7, "txtH1Doorsnee", "Diameter intrede"}, Rij{6, "txtH2Doorsnee", "Hoogte uittrede"},
+        Rij{7, "txtH2Doorsnee", "Diameter uittrede"}}) {
+    MaakKeten(rij.Record);
+    EXPECT_EQ(Opschriften(rij.Naam), (QStringList{rij.Opschrift, "mm"})) << rij.Record;
+  }
 }
 
 TEST_F(Elementpagina, LabelsComeAndGoWithTheirFields) {

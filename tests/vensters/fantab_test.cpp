@@ -224,6 +224,7 @@ TEST_F(Fantab, TheLevelBesideTheBandsReadsInFull) {
 }
 
 TEST_F(Fantab, HasItsCaptionsAndUnits) {
+  Nieuw();
   EXPECT_EQ(Zoek<QRadioButton>("optInvoer")->text(), "Ventilator uit de lijst");
   EXPECT_EQ(Zoek<QRadioButton>("optPrognose")->text(), "Prognose uit de ventilatorgegevens");
   EXPECT_EQ(Zoek<QRadioButton>("optAxiaal")->text(), "Axiaal");

@@ -190,6 +190,10 @@ TEST_F(Invoerveld, EnterTakesTheDateOfTheCalendar) {
 TEST_F(Invoerveld, TheCalendarOfAnInvalidDateShowsToday) {
   OpenVoorbeeld("kantoor.mrv");
   for (const char* const tekst : {"31-02-2026", "", "2026", "1-1-2026"}) {
+    Veld("txtMyDate")->setText("05-06-2020");
+    KlikKalender();
+    ASSERT_EQ(Kalender()->selectedDate(), QDate(2020, 6, 5));
+    KlikKalender();
     Veld("txtMyDate")->setText(tekst);
     KlikKalender();
     EXPECT_EQ(Kalender()->selectedDate(), QDate(2026, 11, 20)) << tekst;

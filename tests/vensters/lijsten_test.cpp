@@ -103,6 +103,7 @@ TEST_F(Lijsten, EachButtonDoesWhatItSays) {
 }
 
 TEST_F(Lijsten, TheButtonsTellWhatTheyDo) {
+  Nieuw();
   const std::vector<std::pair<const char*, const char*>> knoppen = {
       {"Toolbar1_Add", "Kanaalelementen toevoegen"},
       {"Toolbar1_Prop", "Kanaalelementen invoegen"},

@@ -204,6 +204,7 @@ TEST_F(Ruimtetab, EnterPassesOverWhatTheTypeHides) {
 }
 
 TEST_F(Ruimtetab, HasItsCaptionsAndUnits) {
+  Nieuw();
   const std::vector<std::pair<const char*, QStringList>> vakken = {
       {"txtRLengte", {"Lengte vertrek", "m"}},
       {"txtRBreedte", {"Breedte vertrek", "m"}},
@@ -219,6 +220,7 @@ TEST_F(Ruimtetab, HasItsCaptionsAndUnits) {
 }
 
 TEST_F(Ruimtetab, EveryBandRowHasItsBandsAsCaptions) {
+  Nieuw();
   const QStringList banden = {"63", "125", "250", "500", "1000", "2000", "4000"};
   struct Rij {
     const char* Naam;
