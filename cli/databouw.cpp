@@ -41,11 +41,11 @@ std::string InstellingenImage(std::string_view json) {
   const JsonWaarde waarde = LeesJson(json);
   JsonObject object(JsonVeld(waarde, ""));
   Instellingen instellingen;
-  object.Lees("LettertypeNaam", instellingen.LettertypeNaam);
-  object.Lees("LetterGrootte", instellingen.LetterGrootte);
-  object.Lees("KopStijl", instellingen.KopStijl);
-  object.Lees("BlokBovenStijl", instellingen.BlokBovenStijl);
-  object.Lees("BlokOnderStijl", instellingen.BlokOnderStijl);
+  object.Lees("LettertypeNaam", instellingen.Druk.LettertypeNaam);
+  object.Lees("LetterGrootte", instellingen.Druk.LetterGrootte);
+  object.Lees("KopStijl", instellingen.Druk.KopStijl);
+  object.Lees("BlokBovenStijl", instellingen.Druk.BlokBovenStijl);
+  object.Lees("BlokOnderStijl", instellingen.Druk.BlokOnderStijl);
   object.Lees("GebruikerLabel", instellingen.GebruikerLabel);
   object.Lees("Gebruikersnaam", instellingen.Gebruikersnaam);
   object.Klaar();

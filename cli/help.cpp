@@ -55,8 +55,9 @@ std::string OptieNaam(const OptieRegel& optie) {
 }
 
 std::string Gebruik(const OpdrachtRegel& regel) {
-  if (regel.Code == Opdracht::Programma) return "Gebruik: murvane-cli OPDRACHT [OPTIES]\n\n";
-  std::string uit = "Gebruik: murvane-cli " + std::string(regel.Naam);
+  std::string uit = "Gebruik: " + std::string(Programmanaam(regel.Code));
+  if (regel.Code == Opdracht::Programma) return uit + " OPDRACHT [OPTIES]\n\n";
+  if (!regel.Naam.empty()) uit.append(" ").append(regel.Naam);
   if (!regel.Argument.empty()) uit.append(" ").append(regel.Argument);
   if (regel.Meer) uit += "...";
   for (const OptieRegel& optie : Opties)
@@ -67,7 +68,7 @@ std::string Gebruik(const OpdrachtRegel& regel) {
 void VoegOpdrachtenToe(std::string& uit) {
   uit += "\nOpdrachten:\n";
   for (const OpdrachtRegel& regel : Opdrachten)
-    if (regel.Code != Opdracht::Programma) VoegRegelToe(uit, regel.Naam, regel.Kort);
+    if (!regel.Naam.empty()) VoegRegelToe(uit, regel.Naam, regel.Kort);
   uit += "\nHulp bij een opdracht: murvane-cli OPDRACHT --help\n";
 }
 
@@ -87,7 +88,7 @@ std::string HelpTekst(Opdracht opdracht) {
 
 std::string HelpVerwijzing(Opdracht opdracht) {
   const std::string naam(RegelVan(opdracht).Naam);
-  return "Hulp: murvane-cli " + (naam.empty() ? "" : naam + " ") + "--help";
+  return "Hulp: " + std::string(Programmanaam(opdracht)) + " " + (naam.empty() ? "" : naam + " ") + "--help";
 }
 
 }  // namespace murvane

@@ -193,7 +193,7 @@ Opdracht NeemOpdracht(std::vector<std::string>& argumenten) {
   if (woord == argumenten.end()) return Opdracht::Programma;
   const bool tweede = woord + 1 != argumenten.end();
   for (const OpdrachtRegel& regel : Opdrachten) {
-    if (regel.Code == Opdracht::Programma) continue;
+    if (regel.Naam.empty()) continue;
     const bool een = *woord == regel.Naam;
     if (!een && !(tweede && *woord + " " + woord[1] == regel.Naam)) continue;
     argumenten.erase(woord, woord + (een ? 1 : 2));

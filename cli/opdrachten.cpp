@@ -14,6 +14,7 @@ namespace {
 int Voer(const Keuzes& keuzes, Kanalen& kanalen) {
   switch (keuzes.Wat) {
     case Opdracht::Programma:
+    case Opdracht::Druk:
       break;
     case Opdracht::Reken:
       return VoerReken(keuzes, kanalen);
@@ -27,6 +28,10 @@ int Voer(const Keuzes& keuzes, Kanalen& kanalen) {
       return VoerCatalogusToon(keuzes, kanalen);
     case Opdracht::CatalogusMaak:
       return VoerCatalogusMaak(keuzes, kanalen);
+    case Opdracht::CatalogusSorteer:
+      return VoerCatalogusSorteer(keuzes, kanalen);
+    case Opdracht::Overzicht:
+      return VoerOverzicht(keuzes, kanalen);
     case Opdracht::SchatBekleed:
       return VoerSchat(keuzes, Schatter::Bekleed, kanalen);
     case Opdracht::SchatKwartLambda:
@@ -41,14 +46,15 @@ int Voer(const Keuzes& keuzes, Kanalen& kanalen) {
   return status::Klaar;
 }
 
-int OntleedEnVoer(Opdracht opdracht, const std::vector<std::string>& argumenten, Kanalen& kanalen) {
+int OntleedEnVoer(Opdracht opdracht, const std::vector<std::string>& argumenten, Kanalen& kanalen,
+                  const Uitvoerder& voer) {
   const Keuzes keuzes = Ontleed(opdracht, argumenten);
   if (keuzes.Heeft(Optie::Help)) {
     kanalen.uit << HelpTekst(opdracht);
   } else if (keuzes.Heeft(Optie::Versie)) {
     kanalen.uit << "MurVane " << VersieTekst << "\n";
   } else {
-    return Voer(keuzes, kanalen);
+    return voer(keuzes, kanalen);
   }
   return status::Klaar;
 }
@@ -59,24 +65,38 @@ void EisGeschreven(std::ostream& uit) {
     throw Fout(FoutNummer::SchijfVol, "Schijf vol of uitvoer gesloten", {}, "standaarduitvoer");
 }
 
+/// Ends a program: what went wrong becomes a message and an exit status.
+int Beeindig(Opdracht opdracht, Uitslag uitslag, Kanalen& kanalen) {
+  if (uitslag.Status == status::VerkeerdGebruik) uitslag.Melding += "\n" + HelpVerwijzing(opdracht);
+  Meld(uitslag, kanalen);
+  const Uitslag geschreven = Bewaakt(std::string(Programmanaam(opdracht)), [&kanalen] {
+    EisGeschreven(kanalen.uit);
+    return Uitslag{};
+  });
+  Meld(geschreven, kanalen);
+  return Zwaarste(uitslag.Status, geschreven.Status);
+}
+
 }  // namespace
 
 int VoerOpdrachtUit(std::vector<std::string> argumenten, std::ostream& uit, std::ostream& err,
                     bool terminal) {
   Kanalen kanalen{uit, err, terminal};
   Opdracht opdracht = Opdracht::Programma;
-  Uitslag uitslag = Bewaakt("murvane-cli", [&] {
+  const Uitslag uitslag = Bewaakt("murvane-cli", [&] {
     opdracht = NeemOpdracht(argumenten);
-    return Uitslag{OntleedEnVoer(opdracht, argumenten, kanalen), {}};
+    return Uitslag{OntleedEnVoer(opdracht, argumenten, kanalen, Voer), {}};
   });
-  if (uitslag.Status == status::VerkeerdGebruik) uitslag.Melding += "\n" + HelpVerwijzing(opdracht);
-  Meld(uitslag, kanalen);
-  const Uitslag geschreven = Bewaakt("murvane-cli", [&uit] {
-    EisGeschreven(uit);
-    return Uitslag{};
+  return Beeindig(opdracht, uitslag, kanalen);
+}
+
+int VoerProgrammaUit(Opdracht opdracht, const std::vector<std::string>& argumenten, std::ostream& uit,
+                     std::ostream& err, const Uitvoerder& voer) {
+  Kanalen kanalen{uit, err};
+  const Uitslag uitslag = Bewaakt(std::string(Programmanaam(opdracht)), [&] {
+    return Uitslag{OntleedEnVoer(opdracht, argumenten, kanalen, voer), {}};
   });
-  Meld(geschreven, kanalen);
-  return Zwaarste(uitslag.Status, geschreven.Status);
+  return Beeindig(opdracht, uitslag, kanalen);
 }
 
 char Decimaalteken(const Keuzes& keuzes) {

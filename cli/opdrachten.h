@@ -2,6 +2,7 @@
 // The commands of murvane-cli as functions of arguments and channels that return the exit status. They keep
 // no state, so that tests call them in-process. Arguments and messages are UTF-8.
 
+#include <functional>
 #include <iosfwd>
 #include <string>
 #include <vector>
@@ -18,6 +19,12 @@ namespace murvane {
 [[nodiscard]] int VoerOpdrachtUit(std::vector<std::string> argumenten, std::ostream& uit, std::ostream& err,
                                   bool terminal = false);
 
+/// The work of a command once its command line was understood; its exit status.
+using Uitvoerder = std::function<int(const Keuzes& keuzes, Kanalen& kanalen)>;
+/// The same for a program that is one command.
+[[nodiscard]] int VoerProgrammaUit(Opdracht opdracht, const std::vector<std::string>& argumenten,
+                                   std::ostream& uit, std::ostream& err, const Uitvoerder& voer);
+
 // One function for each command; what goes wrong before the first file is an exception.
 [[nodiscard]] int VoerReken(const Keuzes& keuzes, Kanalen& kanalen);
 [[nodiscard]] int VoerControleer(const Keuzes& keuzes, Kanalen& kanalen);
@@ -25,6 +32,8 @@ namespace murvane {
 [[nodiscard]] int VoerMaak(const Keuzes& keuzes, Kanalen& kanalen);
 [[nodiscard]] int VoerCatalogusToon(const Keuzes& keuzes, Kanalen& kanalen);
 [[nodiscard]] int VoerCatalogusMaak(const Keuzes& keuzes, Kanalen& kanalen);
+[[nodiscard]] int VoerCatalogusSorteer(const Keuzes& keuzes, Kanalen& kanalen);
+[[nodiscard]] int VoerOverzicht(const Keuzes& keuzes, Kanalen& kanalen);
 [[nodiscard]] int VoerSchat(const Keuzes& keuzes, Schatter soort, Kanalen& kanalen);
 [[nodiscard]] int VoerSchatVentilator(const Keuzes& keuzes, Kanalen& kanalen);
 

@@ -14,7 +14,8 @@
 
 namespace murvane {
 
-/// The commands. Programma stands for a command line without one.
+/// The commands. Programma stands for a command line without one; Druk is the program murvane-druk, which has
+/// no other.
 enum class Opdracht : std::uint8_t {
   Programma,
   Reken,
@@ -23,16 +24,19 @@ enum class Opdracht : std::uint8_t {
   Maak,
   CatalogusToon,
   CatalogusMaak,
+  CatalogusSorteer,
+  Overzicht,
   SchatBekleed,
   SchatKwartLambda,
   SchatPlenum,
   SchatKanaalwand,
-  SchatVentilator
+  SchatVentilator,
+  Druk
 };
 
 struct OpdrachtRegel {
   Opdracht Code;
-  std::string_view Naam;      ///< as typed, one or two words
+  std::string_view Naam;      ///< as typed, one or two words; empty for a whole program
   std::string_view Argument;  ///< what its file argument is called; empty when it has none
   bool Meer;                  ///< takes more than one file
   std::string_view Kort;      ///< one line for the list of commands
@@ -65,6 +69,16 @@ inline constexpr std::array Opdrachten = {
     OpdrachtRegel{Opdracht::CatalogusMaak, "catalogus maak", "BESTAND.json", false,
                   "maakt een catalogus uit JSON",
                   "Maakt een catalogusbestand uit JSON. De soort volgt uit de lijst in de JSON."},
+    OpdrachtRegel{
+        Opdracht::CatalogusSorteer, "catalogus sorteer", "BESTAND.dat", false,
+        "sorteert een catalogus op naam",
+        "Sorteert een catalogus op naam, zoals het venster ervan dat doet, en bewaart haar onder de "
+        "naam achter -o, die dezelfde mag zijn. De elf ingebouwde kanaalelementen blijven op hun "
+        "plaats. De soort volgt als bij catalogus toon."},
+    OpdrachtRegel{Opdracht::Overzicht, "overzicht", "SOORT", false, "toont het overzicht van een catalogus",
+                  "Toont het overzicht van een catalogus; SOORT is kanaalelementen, ventilatoren, "
+                  "luchtkanalen of plafonds. Met -o komen de bytes van het bewaarde overzicht (Windows-1252) "
+                  "in het bestand."},
     OpdrachtRegel{Opdracht::SchatBekleed, "schat bekleed", "", false,
                   "schat de demping van een bekleed kanaal",
                   "Schat de demping van een kanaal met geluidsabsorberende bekleding. "
@@ -88,6 +102,10 @@ inline constexpr std::array Opdrachten = {
                   "schat het geluidsvermogen van een ventilator",
                   "Schat het geluidsvermogen van een ventilator. De naam, de zeven octaafbanden en het "
                   "niveau in dB(A) verschijnen elk op een regel. Een optie die ontbreekt, is 0."},
+    OpdrachtRegel{
+        Opdracht::Druk, "", "PROJECT.mrv", false, "",
+        "Controleert en berekent een project en zet het berekeningsformulier in een PDF-bestand, met "
+        "lettertype en stijlen van murvane.set."},
 };
 
 enum class Optie : std::uint8_t {
@@ -98,6 +116,8 @@ enum class Optie : std::uint8_t {
   UitvoerToon,
   UitvoerMaak,
   Soort,
+  Zoek,
+  Datum,
   H,
   B,
   DikteBekleding,
@@ -117,7 +137,10 @@ enum class Optie : std::uint8_t {
   Data,
   Decimaal,
   Versie,
-  Help
+  Help,
+  Pdf,
+  Bmp,
+  Grafiek
 };
 
 /// The commands that know an option, a bit for each.
@@ -150,13 +173,17 @@ inline constexpr std::array Opties = {
                "schrijft van elk project NAAM.prn en NAAM.json in deze map, die zo nodig wordt gemaakt"},
     OptieRegel{Optie::Taken, Bij({Opdracht::Reken}), "--taken", "AANTAL", false,
                "rekent met --uit aan zoveel projecten tegelijk; zonder deze optie met alle processorkernen"},
-    OptieRegel{Optie::UitvoerToon, Bij({Opdracht::Toon, Opdracht::CatalogusToon}), "-o", "BESTAND", false,
-               "schrijft naar dit bestand in plaats van naar de standaarduitvoer"},
-    OptieRegel{Optie::UitvoerMaak, Bij({Opdracht::Maak, Opdracht::CatalogusMaak}), "-o", "BESTAND", true,
-               "het bestand dat wordt geschreven; een - is de standaarduitvoer"},
-    OptieRegel{Optie::Soort, Bij({Opdracht::CatalogusToon}), "--soort", "SOORT", false,
-               "kanaalelementen, ventilatoren, luchtkanalen of plafonds; gaat voor de bestandsnaam",
+    OptieRegel{Optie::UitvoerToon, Bij({Opdracht::Toon, Opdracht::CatalogusToon, Opdracht::Overzicht}), "-o",
+               "BESTAND", false, "schrijft naar dit bestand in plaats van naar de standaarduitvoer"},
+    OptieRegel{Optie::UitvoerMaak, Bij({Opdracht::Maak, Opdracht::CatalogusMaak, Opdracht::CatalogusSorteer}),
+               "-o", "BESTAND", true, "het bestand dat wordt geschreven; een - is de standaarduitvoer"},
+    OptieRegel{Optie::Soort, Bij({Opdracht::CatalogusToon, Opdracht::CatalogusSorteer}), "--soort", "SOORT",
+               false, "kanaalelementen, ventilatoren, luchtkanalen of plafonds; gaat voor de bestandsnaam",
                "kanaalelementen|ventilatoren|luchtkanalen|plafonds"},
+    OptieRegel{Optie::Zoek, Bij({Opdracht::Overzicht}), "--zoek", "TEKST", false,
+               "alleen wat deze tekst in zijn naam heeft, in hoofdletters of kleine letters"},
+    OptieRegel{Optie::Datum, Bij({Opdracht::Overzicht}), "--datum", "DD-MM-JJJJ", false,
+               "de datum op het overzicht; zonder deze optie die van vandaag"},
     OptieRegel{Optie::H, Bij({Opdracht::SchatBekleed, Opdracht::SchatKwartLambda, Opdracht::SchatPlenum}),
                "--h", "MM", false, "hoogte van het kanaal, of de diameter als het rond is"},
     OptieRegel{Optie::B, Bij({Opdracht::SchatBekleed, Opdracht::SchatKwartLambda, Opdracht::SchatPlenum}),
@@ -196,6 +223,13 @@ inline constexpr std::array Opties = {
                "punt|komma"},
     OptieRegel{Optie::Versie, BijAlle, "--versie,--version", "", false, "toont de versie van het programma"},
     OptieRegel{Optie::Help, BijAlle, "-h,--help", "", false, "toont deze hulp"},
+    OptieRegel{Optie::Pdf, Bij({Opdracht::Druk}), "--pdf", "BESTAND", true,
+               "het PDF-bestand dat wordt geschreven; een - is de standaarduitvoer"},
+    OptieRegel{
+        Optie::Bmp, Bij({Opdracht::Druk}), "--bmp", "BESTAND.bmp", false,
+        "schrijft ook de eerste vijf pagina's als bitmap, met het paginanummer voor de punt: BESTAND1.bmp"},
+    OptieRegel{Optie::Grafiek, Bij({Opdracht::Druk}), "--grafiek", "1m|galmveld|geen", false,
+               "de grafiek onder het formulier; zonder deze optie geen", "1m|galmveld|geen"},
 };
 
 inline constexpr std::size_t AantalOpties = Opties.size();
@@ -209,6 +243,11 @@ constexpr const OpdrachtRegel& RegelVan(Opdracht opdracht) {
 }
 constexpr const OptieRegel& RegelVan(Optie optie) {
   return Opties[static_cast<std::size_t>(optie)];
+}
+
+/// The program that has a command.
+constexpr std::string_view Programmanaam(Opdracht opdracht) {
+  return opdracht == Opdracht::Druk ? "murvane-druk" : "murvane-cli";
 }
 
 /// The first of an option's names.

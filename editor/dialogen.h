@@ -3,8 +3,11 @@
 // script does in a test. Texts are Windows-1252, file names are paths.
 
 #include <filesystem>
+#include <functional>
+#include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "editor/melding.h"
 
@@ -19,17 +22,37 @@ struct InvoerVraag {
   friend bool operator==(const InvoerVraag&, const InvoerVraag&) = default;
 };
 
-/// A file dialog, to open or to save. It adds no extension to a name.
+/// A file dialog, to open or to save.
 struct BestandVraag {
   std::string Titel;
-  std::string Filter;               ///< one filter as "description|pattern"
-  std::filesystem::path BeginMap;   ///< where it opens, unless `Naam` has a directory of its own
-  std::filesystem::path Naam;       ///< the file name that it proposes; may be empty
-  bool OverschrijfVraag = false;    ///< asks before a file that exists is chosen
-  bool BestandMoetBestaan = false;  ///< takes no name of a file that does not exist
-  bool MapBlijft = false;           ///< leaves the current directory alone
+  std::string Filter;                ///< one filter as "description|pattern"
+  std::filesystem::path BeginMap{};  ///< where it opens, unless `Naam` has a directory of its own
+  std::filesystem::path Naam{};      ///< the file name that it proposes; may be empty
+  bool OverschrijfVraag = false;     ///< asks before a file that exists is chosen
+  bool BestandMoetBestaan = false;   ///< takes no name of a file that does not exist
+  bool MapBlijft = false;            ///< leaves the current directory alone
+  std::string Extensie{};            ///< added to a name to save under that has none; empty adds nothing
 
   friend bool operator==(const BestandVraag&, const BestandVraag&) = default;
+};
+
+class Vlak;
+
+/// The print dialog: no choice of pages and no selection.
+struct AfdrukVraag {
+  bool NaarBestandMogelijk = true;                     ///< offers to print to a file
+  bool Liggend = false;                                ///< lays the sheets on their long side
+  std::string_view Document = "Berekeningsformulier";  ///< what the printer's queue calls it
+
+  friend bool operator==(const AfdrukVraag&, const AfdrukVraag&) = default;
+};
+
+/// What the user chose in a print dialog; nothing to print before one was shown.
+struct AfdrukKeuze {
+  int Exemplaren = 0;
+  bool NaarBestand = false;  ///< ticked printing to a file
+  /// Begins a document on the chosen printer: one sheet a page, printing one copy.
+  std::function<std::unique_ptr<Vlak>()> NieuwDocument;
 };
 
 class Dialogen {
@@ -46,6 +69,8 @@ class Dialogen {
   /// The name that was chosen. Fout 32755 when the dialog was cancelled.
   virtual std::filesystem::path OpenDialoog(const BestandVraag& vraag) = 0;
   virtual std::filesystem::path OpslaanDialoog(const BestandVraag& vraag) = 0;
+  /// What was chosen. Fout 32755 when the dialog was cancelled.
+  virtual AfdrukKeuze AfdrukDialoog(const AfdrukVraag& vraag) = 0;
   /// Shows the wait cursor or restores the normal one. Raises nothing.
   virtual void Wachten(bool aan) = 0;
 };

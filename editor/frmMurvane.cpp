@@ -154,18 +154,20 @@ void frmMurvane::VulLijsten(const VensterBeeld& beeld) {
   cmbRplafond->ZetTekst(VanCp(beeld.RplafondTekst));
 }
 
-void frmMurvane::VulCatalogi() {
+void frmMurvane::VulElementen() {
   BouwTabs();
   const QScopedValueRollback<bool> vult(vult_, true);
-  const VensterBeeld beeld = TabSettings(project_, catalogi_, decimaal_);
   lstTotaalGevuld(lijst_);
-  lstFan->ZetRijen(Rijen(beeld.lstFan));
-  lstTotaal->ZetRijen(Rijen(beeld.lstTotaal));
-  cmbKanaal->ZetRijen(Rijen(beeld.cmbKanaal));
-  cmbRkanaal->ZetRijen(Rijen(beeld.cmbRkanaal));
-  cmbRplafond->ZetRijen(Rijen(beeld.cmbRplafond));
+  lstTotaal->ZetRijen(Rijen(RijenTotaal(catalogi_.CatElementen)));
   ToonLijsten();
   emit ToestandGewijzigd();
+}
+
+void frmMurvane::VulFans() {
+  BouwTabs();
+  const QScopedValueRollback<bool> vult(vult_, true);
+  laatsteFan_ = 0;  // the row that was chosen last may hold another fan now
+  lstFan->ZetRijen(Rijen(CatalogusRijen(catalogi_.CatFans)));
 }
 
 void frmMurvane::ToonFan(const FanZicht& zicht) {

@@ -63,8 +63,9 @@ class frmMurvane : public QWidget {
   /// the user has to look.
   [[nodiscard]] bool NeemOverEnBeoordeel();
   void KiesType(std::int16_t rekenType);
-  /// Shows the catalogues' rows again.
-  void VulCatalogi();
+  /// Shows the rows of a catalogue again, after its maintenance. No row is selected then.
+  void VulElementen();
+  void VulFans();
   /// The progress bar; a `totaal` of 0 hides it.
   void ZetVoortgang(int van, int totaal);
 

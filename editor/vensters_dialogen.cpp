@@ -1,6 +1,8 @@
 #include "editor/vensters_dialogen.h"
 
 #include <QApplication>
+#include <QBoxLayout>
+#include <QCheckBox>
 #include <QCloseEvent>
 #include <QFileDialog>
 #include <QInputDialog>
@@ -8,10 +10,13 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
 
 #include "basis/bestand.h"
 #include "basis/fout.h"
 #include "basis/vensters_hulp.h"
+#include "reports/vensters_vlak.h"
 
 namespace murvane {
 
@@ -98,11 +103,39 @@ std::filesystem::path Vraag(QWidget* ouder, const BestandVraag& vraag, QFileDial
   dialoog.setOption(QFileDialog::DontConfirmOverwrite, !vraag.OverschrijfVraag);
   const bool eigenMap = vraag.Naam.has_parent_path();
   dialoog.setDirectory(NaarQt(eigenMap ? vraag.Naam.parent_path() : vraag.BeginMap));
+  dialoog.setDefaultSuffix(VanCp(vraag.Extensie));
   if (vraag.Naam.has_filename()) dialoog.selectFile(NaarQt(vraag.Naam.filename()));
   if (dialoog.exec() != QDialog::Accepted || dialoog.selectedFiles().isEmpty())
     throw Fout(FoutNummer::DialoogGeannuleerd);
   return VanQt(dialoog.selectedFiles().constFirst());
 }
+
+/// The system's print dialog with a tick that saves the text report instead of printing, above the buttons.
+class Afdrukvenster : public QPrintDialog {
+ public:
+  using QPrintDialog::QPrintDialog;
+
+  void VoegNaarBestandToe() {
+    auto* indeling = qobject_cast<QBoxLayout*>(layout());
+    if (indeling == nullptr) return;
+    vinkje_ = new QCheckBox("Afdrukken naar &bestand (tekstrapport, *.prn)", this);
+    vinkje_->setObjectName("chkNaarBestand");
+    indeling->insertWidget(indeling->count() - 1, vinkje_);
+  }
+  [[nodiscard]] bool NaarBestand() const { return vinkje_ != nullptr && vinkje_->isChecked(); }
+
+  /// Who saves text needs no printer, nor the name of a file for it.
+  void accept() override {
+    if (NaarBestand()) {
+      done(Accepted);
+    } else {
+      QPrintDialog::accept();
+    }
+  }
+
+ private:
+  QCheckBox* vinkje_ = nullptr;
+};
 
 /// The window that a dialog stands before: the one in hand. Just after another dialog none is; while the
 /// program starts there is none at all.
@@ -140,6 +173,20 @@ std::filesystem::path SchermDialogen::OpenDialoog(const BestandVraag& vraag) {
 
 std::filesystem::path SchermDialogen::OpslaanDialoog(const BestandVraag& vraag) {
   return Vraag(Ouder(), vraag, QFileDialog::AcceptSave);
+}
+
+AfdrukKeuze SchermDialogen::AfdrukDialoog(const AfdrukVraag& vraag) {
+  const auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
+  printer->setDocName(VanCp(vraag.Document));
+  printer->setPageOrientation(vraag.Liggend ? QPageLayout::Landscape : QPageLayout::Portrait);
+  Afdrukvenster dialoog(printer.get(), Ouder());
+  dialoog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintCollateCopies);
+  if (vraag.NaarBestandMogelijk) dialoog.VoegNaarBestandToe();
+  if (dialoog.exec() != QDialog::Accepted) throw Fout(FoutNummer::DialoogGeannuleerd);
+  const int exemplaren = printer->copyCount();
+  printer->setCopyCount(1);  // each copy is a document of its own
+  return {exemplaren, dialoog.NaarBestand(),
+          [printer, liggend = vraag.Liggend] { return std::make_unique<Schildervlak>(printer, liggend); }};
 }
 
 void SchermDialogen::Wachten(bool aan) {

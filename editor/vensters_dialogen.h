@@ -11,6 +11,7 @@ class SchermDialogen : public Dialogen {
   std::string Invoer(const InvoerVraag& vraag) override;
   std::filesystem::path OpenDialoog(const BestandVraag& vraag) override;
   std::filesystem::path OpslaanDialoog(const BestandVraag& vraag) override;
+  AfdrukKeuze AfdrukDialoog(const AfdrukVraag& vraag) override;
   void Wachten(bool aan) override;
 };
 

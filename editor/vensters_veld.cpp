@@ -141,11 +141,16 @@ void InvoerVeld::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 BandRij::BandRij(std::string_view naam, int eerste, const QString& omschrijving, QWidget* ouder)
+    : BandRij(naam, eerste, Regel(VeldId{naam, eerste}), omschrijving, ouder) {}
+
+BandRij::BandRij(std::string_view naam, int eerste, const VeldRegel& regel, const QString& omschrijving,
+                 QWidget* ouder)
     : QWidget(ouder) {
   auto* const indeling = Regelindeling(this);
   for (int band = 0; band < Banden; ++band) {
     const QString bandNaam = BandNamen[static_cast<std::size_t>(band)];
-    auto* const vak = new InvoerVeld({naam, eerste + band}, omschrijving + ", " + bandNaam + " Hz", this);
+    auto* const vak =
+        new InvoerVeld({naam, eerste + band}, regel, omschrijving + ", " + bandNaam + " Hz", this);
     vak->setFixedWidth(VakBreedte(*vak));
     vakken_[static_cast<std::size_t>(band)] = vak;
     auto* const kolom = new QVBoxLayout;

@@ -60,6 +60,9 @@ class BandRij : public QWidget {
 
  public:
   BandRij(std::string_view naam, int eerste, const QString& omschrijving, QWidget* ouder);
+  /// A row of another window, by the rule of its own table, which outlives it.
+  BandRij(std::string_view naam, int eerste, const VeldRegel& regel, const QString& omschrijving,
+          QWidget* ouder);
 
   [[nodiscard]] const std::array<InvoerVeld*, Banden>& Vakken() const { return vakken_; }
 

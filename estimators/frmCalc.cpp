@@ -7,7 +7,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -37,12 +36,6 @@ QPushButton* MaakKnop(const char* naam, const QString& tekst, QWidget* ouder) {
   knop->setObjectName(naam);
   knop->setAutoDefault(false);  // Enter goes from field to field; see keyPressEvent
   return knop;
-}
-
-/// The Tab key comes to the chosen option alone; the arrow keys go to the others.
-void HoudTabstop(const QButtonGroup& groep) {
-  for (QAbstractButton* const optie : groep.buttons())
-    optie->setFocusPolicy(optie->isChecked() ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 QString Grootheid(Schatter soort) {
@@ -106,22 +99,17 @@ QWidget* frmCalc::BouwInvoer() {
 QWidget* frmCalc::BouwMaterialen() {
   auto* const vak = new QGroupBox("Materiaal kanaalwand", this);
   vak->setObjectName("frameMateriaal");
-  auto* const indeling = new QGridLayout(vak);
-  indeling->setHorizontalSpacing(2 * Marge);
+  auto* const indeling = new QVBoxLayout(vak);
   auto* const groep = new QButtonGroup(vak);
-  int nummer = 0;
   for (const KanaalSoort& soort : KanaalSoorten) {
-    auto* const optie = new QRadioButton(VanCp(soort.Caption), vak);
+    auto* const optie = new Optieknop(VanCp(soort.Caption), vak);
     optie->setObjectName(VanCp(soort.Naam));
     groep->addButton(optie, soort.KanaalType);
-    indeling->addWidget(optie, nummer / 2, nummer % 2);
-    ++nummer;
+    indeling->addWidget(optie);
   }
   groep->button(invoer_.Kanaalwand.KanaalType)->setChecked(true);
-  HoudTabstop(*groep);
-  connect(groep, &QButtonGroup::idToggled, this, [this, groep](int kanaalType, bool aan) {
+  connect(groep, &QButtonGroup::idToggled, this, [this](int kanaalType, bool aan) {
     if (!aan) return;
-    HoudTabstop(*groep);
     invoer_.Kanaalwand.KanaalType = kanaalType;
     ToonVoorproef();
   });

@@ -84,27 +84,14 @@ class Blok {
   char decimaal_;
 };
 
-std::string_view TypeNaam(std::int16_t rekenType) {
-  switch (rekenType) {
-    case rekentype::Installatiegeluid:
-      return "Installatiegeluid";
-    case rekentype::Geluidsuitstraling:
-      return "Geluidsuitstraling";
-    case rekentype::Overspraak:
-      return "Overspraak";
-    default:
-      return "";
-  }
-}
-
 bool IsBekend(std::int16_t rekenType) {
-  return !TypeNaam(rekenType).empty();
+  return !RekenTypeNaam(rekenType).empty();
 }
 
 void MaakKop(Blok blok, const ProjectRec& kop, const Tekst<35>& gebruikersnaam) {
   blok.NieuweRegel().NieuweRegel().NieuweRegel().Wit(3).Tekst(gebruikersnaam.Heel()).Tot(0, 72);
   blok.Tekst("MurVane ").Getal(VersieHoofd, Formaat::Heel).Tekst(".").Getal(VersieSub, Formaat::Heel);
-  blok.NieuweRegel().Wit(3).Tekst(TypeNaam(kop.RekenType)).NieuweRegel();
+  blok.NieuweRegel().Wit(3).Tekst(RekenTypeNaam(kop.RekenType)).NieuweRegel();
 }
 
 void MaakProject(Blok blok, const ProjectRec& kop) {
@@ -236,6 +223,19 @@ void MaakResultaat(Blok blok, const Project& project, const Resultaten& resultat
 }
 
 }  // namespace
+
+std::string_view RekenTypeNaam(std::int16_t rekenType) {
+  switch (rekenType) {
+    case rekentype::Installatiegeluid:
+      return "Installatiegeluid";
+    case rekentype::Geluidsuitstraling:
+      return "Geluidsuitstraling";
+    case rekentype::Overspraak:
+      return "Overspraak";
+    default:
+      return "";
+  }
+}
 
 void Afdruk(const Project& project, const Resultaten& resultaten, const Tekst<35>& gebruikersnaam,
             char decimaal, Rapport& rapport) {

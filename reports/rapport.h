@@ -3,6 +3,7 @@
 // This header: the text report, six blocks of Windows-1252 text with CR LF as line end.
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -22,6 +23,9 @@ struct Rapport {
   std::string RapElementen;  ///< the elements
   std::string RapResultaat;  ///< the final results
 };
+
+/// The name of a calculation type as a report shows it; empty for an unknown type.
+[[nodiscard]] std::string_view RekenTypeNaam(std::int16_t rekenType);
 
 /// Writes the report of a calculated project. A calculation type outside 1 to 3 leaves the blocks from
 /// RapHoofd on as they were. Fout 6 when a value to print is infinite or not a number; the report then stays

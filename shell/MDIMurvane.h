@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "catalogue/catfiles.h"
 #include "editor/dialogen.h"
 #include "editor/sessie.h"
 #include "shell/programma.h"
@@ -21,6 +22,7 @@ namespace murvane {
 
 class Taakbalk;
 class frmMurvane;
+class frmPreView;
 class frmResultaat;
 
 class MDIMurvane : public QMainWindow {
@@ -54,6 +56,10 @@ class MDIMurvane : public QMainWindow {
   void mnuSluiten();
   void mnuOpslaan();
   void mnuExit();
+  void mnuElementen();
+  void mnuFan();
+  void mnuDuct();
+  void mnuPlafonds();
   void mnuGebruiker();
   void mnuVent();
   void mnuUitstraling();
@@ -61,9 +67,21 @@ class MDIMurvane : public QMainWindow {
   void mnuCalc();
   void mnuHelpFile();
   void mnuInfo();
+  void mnuAfdrukken();
+  void mnuLetterType();
+
+  // The buttons of the result window and the preview.
+  void Toolbar1_Opslaan();
+  void Toolbar1_Grafiek();
+  void Toolbar1_preview();
+  void Toolbar1_PDF();
+  void Toolbar1_save();
+  void VerbindResultaat(frmResultaat& venster);
+  void LaadPreView();
 
   void Reken();
   QMdiSubWindow* LaadResultaat();
+  void Onderhoud(CatalogusSoort soort);
   void Voer(const Gevolg& gevolg);
   void SluitVensters();
   void ToonToestand();
@@ -75,6 +93,7 @@ class MDIMurvane : public QMainWindow {
   frmMurvane* project_;
   Taakbalk* taakbalk_ = nullptr;
   QPointer<frmResultaat> resultaat_;
+  QPointer<frmPreView> preview_;
   std::map<std::string_view, QAction*> acties_;  ///< by name; the names of MenuBalk
   QLabel* beeld_ = nullptr;
   QLabel* paneel1_ = nullptr;

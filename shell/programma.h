@@ -3,6 +3,7 @@
 // handed down by reference.
 
 #include <chrono>
+#include <cstdint>
 #include <filesystem>
 
 #include "basis/tekst.h"
@@ -10,6 +11,8 @@
 #include "catalogue/catfiles.h"
 #include "estimators/schatting.h"
 #include "project/records.h"
+#include "reports/grafiek.h"
+#include "reports/paginas.h"
 #include "reports/rapport.h"
 #include "shell/settings.h"
 
@@ -25,6 +28,9 @@ struct Programma {
   murvane::Resultaten Resultaten;      ///< of the last run
   murvane::Rapport Rapport;            ///< of the last run
   murvane::SchatInvoer SchatInvoer;    ///< that each estimator had last
+  murvane::Grafiek Grafiek;            ///< as the last Grafiek2 filled it
+  std::int16_t KiesGrafiek = 0;        ///< kiesgrafiek: what the user chose to see in it
+  VoorbeeldStand Voorbeeld;            ///< of the preview
   murvane::Instellingen Instellingen;  ///< written by mnuExit_Click only
 
   std::filesystem::path DataDir;  ///< of murvane.set and the catalogues; fixed once the start is over

@@ -30,4 +30,9 @@ std::filesystem::path StilleDialogen::OpslaanDialoog(const BestandVraag& vraag) 
   return OpenDialoog(vraag);
 }
 
+AfdrukKeuze StilleDialogen::AfdrukDialoog(const AfdrukVraag& /*vraag*/) {
+  Schrijf("Afdrukken", "");
+  throw Fout(FoutNummer::DialoogGeannuleerd);
+}
+
 }  // namespace murvane

@@ -28,6 +28,7 @@ class StilleDialogen final : public Dialogen {
   std::string Invoer(const InvoerVraag& vraag) override;
   std::filesystem::path OpenDialoog(const BestandVraag& vraag) override;
   std::filesystem::path OpslaanDialoog(const BestandVraag& vraag) override;
+  AfdrukKeuze AfdrukDialoog(const AfdrukVraag& vraag) override;
   void Wachten(bool /*aan*/) override {}
 
  private:

@@ -75,21 +75,21 @@ std::string MetDubbeleEn(std::string_view naam) {
 Instellingen InstellingenUitBytes(std::string_view bytes) {
   Regels regels(bytes);
   Instellingen uit;
-  uit.LettertypeNaam = regels.Tekst();
-  uit.LetterGrootte = regels.Getal();
-  uit.KopStijl = regels.Getal();
-  uit.BlokBovenStijl = regels.Getal();
-  uit.BlokOnderStijl = regels.Getal();
+  uit.Druk.LettertypeNaam = regels.Tekst();
+  uit.Druk.LetterGrootte = regels.Getal();
+  uit.Druk.KopStijl = regels.Getal();
+  uit.Druk.BlokBovenStijl = regels.Getal();
+  uit.Druk.BlokOnderStijl = regels.Getal();
   uit.GebruikerLabel = regels.Tekst();
   uit.Gebruikersnaam = regels.Tekst();
   return uit;
 }
 
 std::string InstellingenBytes(const Instellingen& instellingen) {
-  std::string uit = instellingen.LettertypeNaam;
+  std::string uit = instellingen.Druk.LettertypeNaam;
   uit.append(Nl);
-  for (const std::int16_t getal : {instellingen.LetterGrootte, instellingen.KopStijl,
-                                   instellingen.BlokBovenStijl, instellingen.BlokOnderStijl})
+  for (const std::int16_t getal : {instellingen.Druk.LetterGrootte, instellingen.Druk.KopStijl,
+                                   instellingen.Druk.BlokBovenStijl, instellingen.Druk.BlokOnderStijl})
     uit.append(GetalRegel(getal)).append(Nl);
   uit.append(instellingen.GebruikerLabel.Heel()).append(Nl);
   uit.append(instellingen.Gebruikersnaam.Heel()).append(Nl);

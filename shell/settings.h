@@ -8,17 +8,14 @@
 #include <string_view>
 
 #include "basis/tekst.h"
+#include "reports/lettertype.h"
 
 namespace murvane {
 
 inline constexpr std::string_view StandaardGebruiker = "..Gebruikersnaam..";
 
 struct Instellingen {
-  std::string LettertypeNaam;                    ///< report font
-  std::int16_t LetterGrootte = 0;                ///< points
-  std::int16_t KopStijl = 0;                     ///< style of the page header, from 1
-  std::int16_t BlokBovenStijl = 0;               ///< style of the upper text block, from 1
-  std::int16_t BlokOnderStijl = 0;               ///< style of the lower text block, from 1
+  DrukInstelling Druk;                           ///< font and styles of the printed form
   Tekst<35> GebruikerLabel{StandaardGebruiker};  ///< user name for labels: its first "&" doubled
   Tekst<35> Gebruikersnaam{StandaardGebruiker};  ///< user name as printed
 };

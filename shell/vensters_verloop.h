@@ -13,13 +13,13 @@ class VerloopVlak : public QWidget {
   Q_OBJECT
 
  public:
-  VerloopVlak(Kleur van, Kleur naar, QWidget* ouder);
+  VerloopVlak(Verloopkleur van, Verloopkleur naar, QWidget* ouder);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  Kleur van_, naar_;
+  Verloopkleur van_, naar_;
 };
 
 }  // namespace murvane

@@ -43,6 +43,7 @@ TEST(Help, TheTableStandsInTheOrderOfItsCodes) {
 
 TEST(Help, EveryCommandShowsItsRowsOfTheTableAndNoOthers) {
   for (const OpdrachtRegel& regel : Opdrachten) {
+    if (regel.Code == Opdracht::Druk) continue;  // another program
     const Afloop afloop = Draai(Woorden(regel, "--help"));
     EXPECT_EQ(afloop.Code, 0) << regel.Naam;
     EXPECT_EQ(afloop.Err, "") << regel.Naam;
@@ -108,6 +109,17 @@ TEST(Help, RequiredOptionsStandInTheUsageLine) {
   EXPECT_THAT(HelpTekst(Opdracht::Reken), HasSubstr("Gebruik: murvane-cli reken PROJECT.mrv... [OPTIES]\n"));
   EXPECT_THAT(HelpTekst(Opdracht::Programma), HasSubstr("Gebruik: murvane-cli OPDRACHT [OPTIES]\n"));
   EXPECT_THAT(HelpTekst(Opdracht::SchatPlenum), HasSubstr("Gebruik: murvane-cli schat plenum [OPTIES]\n"));
+}
+
+TEST(Help, OfTheProgramThatPrintsNamesItAndItsOptions) {
+  const std::string tekst = HelpTekst(Opdracht::Druk);
+  EXPECT_THAT(tekst, HasSubstr("Gebruik: murvane-druk PROJECT.mrv --pdf BESTAND [OPTIES]\n"));
+  for (const Optie optie :
+       {Optie::Pdf, Optie::Bmp, Optie::Grafiek, Optie::Data, Optie::Decimaal, Optie::Help})
+    EXPECT_THAT(Vloeiend(tekst), HasSubstr(std::string(RegelVan(optie).Uitleg)));
+  EXPECT_THAT(tekst, Not(HasSubstr("--prn")));
+  EXPECT_THAT(HelpTekst(Opdracht::Programma), Not(HasSubstr("--pdf")));
+  EXPECT_EQ(HelpVerwijzing(Opdracht::Druk), "Hulp: murvane-druk --help");
 }
 
 TEST(Help, VersionIsShownWithAndWithoutACommand) {

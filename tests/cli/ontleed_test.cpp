@@ -28,8 +28,8 @@ const Verkeerd Gevallen[] = {
     {{"Reken", "x.mrv"}, "Onbekende opdracht: Reken", ""},
     {{"bereken", "--prn", "x"}, "Onbekende opdracht: bereken", ""},
     {{"--taal"}, "Onbekende optie: --taal", ""},
-    {{"catalogus"}, "Achter catalogus hoort toon of maak.", ""},
-    {{"catalogus", "wis", "Fan.dat"}, "Achter catalogus hoort toon of maak.", ""},
+    {{"catalogus"}, "Achter catalogus hoort toon, maak of sorteer.", ""},
+    {{"catalogus", "wis", "Fan.dat"}, "Achter catalogus hoort toon, maak of sorteer.", ""},
     {{"reken"}, "PROJECT.mrv ontbreekt.", "reken "},
     {{"reken", "--"}, "PROJECT.mrv ontbreekt.", "reken "},
     {{"reken", ""}, "Een bestandsnaam is leeg.", "reken "},
@@ -128,11 +128,14 @@ Keuzes OntleedRegel(Woorden argumenten) {
 
 TEST(Ontleed, KnowsEveryCommandByItsWords) {
   for (const OpdrachtRegel& regel : Opdrachten) {
+    if (regel.Code == Opdracht::Druk) continue;  // another program
     std::istringstream in{std::string(regel.Naam)};
     Woorden woorden{std::istream_iterator<std::string>(in), {}};
     EXPECT_EQ(NeemOpdracht(woorden), regel.Code) << regel.Naam;
     EXPECT_TRUE(woorden.empty()) << regel.Naam;
   }
+  for (Woorden woorden : {Woorden{""}, Woorden{"druk"}, Woorden{"murvane-druk"}})
+    EXPECT_EQ(NeemOpdracht(woorden), Opdracht::Programma);
 }
 
 TEST(Ontleed, TakesEveryOptionWithAValueInBothForms) {
@@ -141,14 +144,16 @@ TEST(Ontleed, TakesEveryOptionWithAValueInBothForms) {
     const std::string waarde = optie.Code == Optie::Taken      ? "3"
                                : optie.Code == Optie::Decimaal ? "punt"
                                : optie.Code == Optie::Soort    ? "plafonds"
+                               : optie.Code == Optie::Grafiek  ? "1m"
                                                                : "een bestand é";
     for (const OpdrachtRegel& regel : Opdrachten) {
       if (!Kent(optie, regel.Code) || regel.Code == Opdracht::Programma) continue;
       const std::string naam(EersteNaam(optie));
       Woorden kaal;
       if (!regel.Argument.empty()) kaal.emplace_back("x");
-      if (!optie.Verplicht && (regel.Code == Opdracht::Maak || regel.Code == Opdracht::CatalogusMaak))
+      if (!optie.Verplicht && Kent(RegelVan(Optie::UitvoerMaak), regel.Code))
         kaal.insert(kaal.end(), {"-o", "y"});
+      if (!optie.Verplicht && regel.Code == Opdracht::Druk) kaal.insert(kaal.end(), {"--pdf", "y"});
       Woorden los = kaal;
       los.insert(los.end(), {naam, waarde});
       EXPECT_EQ(Ontleed(regel.Code, los).Waarde(optie.Code), waarde) << regel.Naam << naam;

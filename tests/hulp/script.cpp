@@ -21,7 +21,12 @@ std::string Woorden(const InvoerVraag& v) {
 std::string Woorden(const BestandVraag& v) {
   return " dialog [" + v.Titel + "] " + v.Filter + " in {" + PadTekst(v.BeginMap) + "} name {" +
          PadTekst(v.Naam) + "}" + (v.OverschrijfVraag ? " overwrite-prompt" : "") +
-         (v.BestandMoetBestaan ? " must-exist" : "") + (v.MapBlijft ? " keep-directory" : "");
+         (v.BestandMoetBestaan ? " must-exist" : "") + (v.MapBlijft ? " keep-directory" : "") +
+         (v.Extensie.empty() ? "" : " extension {" + v.Extensie + "}");
+}
+std::string Woorden(const AfdrukVraag& v) {
+  return std::string("print dialog") + (v.NaarBestandMogelijk ? " to-file" : "") +
+         (v.Liggend ? " landscape" : "") + " {" + std::string(v.Document) + "}";
 }
 
 }  // namespace
@@ -32,16 +37,20 @@ Script& Script::Voeg(Stap stap) {
 }
 
 Script& Script::Box(const Melding& melding, Antwoord antwoord, Intussen intussen) {
-  return Voeg({Woorden(melding), antwoord, {}, {}, std::move(intussen)});
+  return Voeg({Woorden(melding), antwoord, {}, {}, std::move(intussen), {}});
 }
 Script& Script::InvoerBox(const InvoerVraag& vraag, const std::string& antwoord, Intussen intussen) {
-  return Voeg({Woorden(vraag), {}, antwoord, {}, std::move(intussen)});
+  return Voeg({Woorden(vraag), {}, antwoord, {}, std::move(intussen), {}});
 }
 Script& Script::Open(const BestandVraag& vraag, std::optional<fs::path> antwoord, Intussen intussen) {
-  return Voeg({"open" + Woorden(vraag), {}, {}, std::move(antwoord), std::move(intussen)});
+  return Voeg({"open" + Woorden(vraag), {}, {}, std::move(antwoord), std::move(intussen), {}});
 }
 Script& Script::Opslaan(const BestandVraag& vraag, std::optional<fs::path> antwoord, Intussen intussen) {
-  return Voeg({"save" + Woorden(vraag), {}, {}, std::move(antwoord), std::move(intussen)});
+  return Voeg({"save" + Woorden(vraag), {}, {}, std::move(antwoord), std::move(intussen), {}});
+}
+
+Script& Script::Afdrukken(const AfdrukVraag& vraag, std::optional<AfdrukKeuze> antwoord, Intussen intussen) {
+  return Voeg({Woorden(vraag), {}, {}, {}, std::move(intussen), std::move(antwoord)});
 }
 
 void Script::IsKlaar() {
@@ -81,6 +90,12 @@ fs::path Script::OpenDialoog(const BestandVraag& vraag) {
 }
 fs::path Script::OpslaanDialoog(const BestandVraag& vraag) {
   return NeemPad("save" + Woorden(vraag));
+}
+
+AfdrukKeuze Script::AfdrukDialoog(const AfdrukVraag& vraag) {
+  Stap stap = Neem(Woorden(vraag));
+  if (!stap.Afdruk) throw Fout(FoutNummer::DialoogGeannuleerd);
+  return std::move(*stap.Afdruk);
 }
 
 void Script::Wachten(bool aan) {

@@ -32,6 +32,8 @@ class Script final : public Dialogen {
   Script& Opslaan(const BestandVraag& vraag, std::optional<std::filesystem::path> antwoord,
                   Intussen intussen = {});
 
+  Script& Afdrukken(const AfdrukVraag& vraag, std::optional<AfdrukKeuze> antwoord, Intussen intussen = {});
+
   /// Fails the test unless every question was asked and the wait cursor is gone.
   void IsKlaar();
   /// How often the wait cursor was shown.
@@ -41,6 +43,7 @@ class Script final : public Dialogen {
   std::string Invoer(const InvoerVraag& vraag) override;
   std::filesystem::path OpenDialoog(const BestandVraag& vraag) override;
   std::filesystem::path OpslaanDialoog(const BestandVraag& vraag) override;
+  AfdrukKeuze AfdrukDialoog(const AfdrukVraag& vraag) override;
   void Wachten(bool aan) override;
 
  private:
@@ -50,6 +53,7 @@ class Script final : public Dialogen {
     std::string Tekst;
     std::optional<std::filesystem::path> Pad;
     Intussen Onderwijl;
+    std::optional<AfdrukKeuze> Afdruk;
   };
 
   Script& Voeg(Stap stap);

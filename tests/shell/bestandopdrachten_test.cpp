@@ -395,9 +395,9 @@ TEST_F(mnuNieuw, TakesTheDayOfTheStartAndNoFileName) {
 class mnuExit : public Bestandopdrachten {
  protected:
   mnuExit() {
-    programma_.Instellingen.LettertypeNaam = "Courier New";
-    programma_.Instellingen.LetterGrootte = 12;
-    programma_.Instellingen.KopStijl = -1;
+    programma_.Instellingen.Druk.LettertypeNaam = "Courier New";
+    programma_.Instellingen.Druk.LetterGrootte = 12;
+    programma_.Instellingen.Druk.KopStijl = -1;
     proef::Schrijf(Pad(), "oud");
   }
   [[nodiscard]] fs::path Pad() const { return map_ / "data één" / "murvane.set"; }
@@ -470,6 +470,7 @@ TEST_F(mnuExit, TellsOfADirectoryThatMayNotBeEntered) {
       std::string Invoer(const InvoerVraag&) override { return {}; }
       fs::path OpenDialoog(const BestandVraag&) override { return {}; }
       fs::path OpslaanDialoog(const BestandVraag&) override { return {}; }
+      AfdrukKeuze AfdrukDialoog(const AfdrukVraag&) override { return {}; }
       void Wachten(bool) override {}
       Melding& melding;
     } stil(gezien);

@@ -65,7 +65,7 @@ class Opstart : public testing::Test {
   }
   void IsGeladenUit(const std::string& naam, int extra = 0) const {
     EXPECT_TRUE(fs::equivalent(programma_.DataDir, Map(naam)));
-    EXPECT_EQ(programma_.Instellingen.LettertypeNaam, "Lettertype van " + naam);
+    EXPECT_EQ(programma_.Instellingen.Druk.LettertypeNaam, "Lettertype van " + naam);
     EXPECT_EQ(programma_.Catalogi.CatElementen.Aantal, 1 + extra);
     EXPECT_EQ(programma_.Catalogi.CatFans.Aantal, 2 + extra);
     EXPECT_EQ(programma_.Catalogi.CatRduct.Aantal, 3 + extra);
@@ -82,10 +82,10 @@ TEST_F(Opstart, ReadsSettingsAndCataloguesOfTheCurrentDirectory) {
   IsGeladenUit("hier");
   EXPECT_EQ(programma_.Vandaag.Heel(), "20-11-2026");
   EXPECT_EQ(programma_.Decimaal, '.');
-  EXPECT_EQ(programma_.Instellingen.LetterGrootte, 12);
-  EXPECT_EQ(programma_.Instellingen.KopStijl, 3);
-  EXPECT_EQ(programma_.Instellingen.BlokBovenStijl, 2);
-  EXPECT_EQ(programma_.Instellingen.BlokOnderStijl, 1);
+  EXPECT_EQ(programma_.Instellingen.Druk.LetterGrootte, 12);
+  EXPECT_EQ(programma_.Instellingen.Druk.KopStijl, 3);
+  EXPECT_EQ(programma_.Instellingen.Druk.BlokBovenStijl, 2);
+  EXPECT_EQ(programma_.Instellingen.Druk.BlokOnderStijl, 1);
   EXPECT_EQ(programma_.Instellingen.GebruikerLabel.Getrimd(), "J && Co");
   EXPECT_EQ(programma_.Instellingen.Gebruikersnaam.Getrimd(), "J & Co");
   EXPECT_TRUE(programma_.OpenBestand.empty());

@@ -55,17 +55,17 @@ TEST(Instellingen, StartWithTheStandardUser) {
   const Instellingen instellingen;
   EXPECT_EQ(instellingen.Gebruikersnaam.Heel(), Vul("..Gebruikersnaam.."));
   EXPECT_EQ(instellingen.GebruikerLabel.Heel(), Vul("..Gebruikersnaam.."));
-  EXPECT_EQ(instellingen.LetterGrootte, 0);
+  EXPECT_EQ(instellingen.Druk.LetterGrootte, 0);
 }
 
 TEST(Instellingen, ReadsSevenLines) {
   const Instellingen uit =
       InstellingenUitBytes("Liberation Mono \r\n 10 \r\n 4 \r\n-1 \r\n 32767 \r\nA && B\r\n A & B \r\n");
-  EXPECT_EQ(uit.LettertypeNaam, "Liberation Mono ");  // the whole line
-  EXPECT_EQ(uit.LetterGrootte, 10);
-  EXPECT_EQ(uit.KopStijl, 4);
-  EXPECT_EQ(uit.BlokBovenStijl, -1);
-  EXPECT_EQ(uit.BlokOnderStijl, 32767);
+  EXPECT_EQ(uit.Druk.LettertypeNaam, "Liberation Mono ");  // the whole line
+  EXPECT_EQ(uit.Druk.LetterGrootte, 10);
+  EXPECT_EQ(uit.Druk.KopStijl, 4);
+  EXPECT_EQ(uit.Druk.BlokBovenStijl, -1);
+  EXPECT_EQ(uit.Druk.BlokOnderStijl, 32767);
   EXPECT_EQ(uit.GebruikerLabel.Heel(), Vul("A && B"));
   EXPECT_EQ(uit.Gebruikersnaam.Heel(), Vul(" A & B"));
 }
@@ -84,9 +84,9 @@ TEST(Instellingen, ReadsEveryFormOfANumberLine) {
   for (const auto& rij : rijen) {
     for (const char* einde : {"\r\n", "\n"}) {
       const Instellingen uit = InstellingenUitBytes(MetKopStijl(rij.regel, einde));
-      EXPECT_EQ(uit.KopStijl, rij.getal) << rij.regel;
-      EXPECT_EQ(uit.LetterGrootte, 8) << rij.regel;
-      EXPECT_EQ(uit.BlokBovenStijl, 4) << rij.regel;
+      EXPECT_EQ(uit.Druk.KopStijl, rij.getal) << rij.regel;
+      EXPECT_EQ(uit.Druk.LetterGrootte, 8) << rij.regel;
+      EXPECT_EQ(uit.Druk.BlokBovenStijl, 4) << rij.regel;
       EXPECT_EQ(uit.Gebruikersnaam.Heel(), Vul("N")) << rij.regel;
     }
   }
@@ -151,9 +151,9 @@ TEST(Instellingen, NamesTheLineThatIsMissing) {
 
 TEST(Instellingen, ReadsEmptyLinesAsNothing) {
   const Instellingen uit = InstellingenUitBytes("\r\n\r\n\r\n\r\n\r\n\r\n\r\n");
-  EXPECT_EQ(uit.LettertypeNaam, "");
-  EXPECT_EQ(uit.LetterGrootte, 0);
-  EXPECT_EQ(uit.BlokOnderStijl, 0);
+  EXPECT_EQ(uit.Druk.LettertypeNaam, "");
+  EXPECT_EQ(uit.Druk.LetterGrootte, 0);
+  EXPECT_EQ(uit.Druk.BlokOnderStijl, 0);
   EXPECT_EQ(uit.GebruikerLabel.Heel(), Vul(""));
   EXPECT_EQ(uit.Gebruikersnaam.Heel(), Vul(""));
 }
@@ -172,18 +172,18 @@ TEST(Instellingen, CutsUserTextsAt35Characters) {
 
 TEST(Instellingen, KeepsACarriageReturnInsideALine) {
   const Instellingen uit = InstellingenUitBytes("a\rb\r\r\n1\n1\n1\n1\nL\rM\nN\rO\r");
-  EXPECT_EQ(uit.LettertypeNaam, "a\rb\r");
+  EXPECT_EQ(uit.Druk.LettertypeNaam, "a\rb\r");
   EXPECT_EQ(uit.GebruikerLabel.Heel(), Vul("L\rM"));
   EXPECT_EQ(uit.Gebruikersnaam.Heel(), Vul("N\rO"));  // the last one is half a line end
 }
 
 TEST(Instellingen, WritesSevenLinesWithSignsInPlaceOfBlanks) {
   Instellingen in;
-  in.LettertypeNaam = "Courier New";
-  in.LetterGrootte = 12;
-  in.KopStijl = -12;
-  in.BlokBovenStijl = 0;
-  in.BlokOnderStijl = -32768;
+  in.Druk.LettertypeNaam = "Courier New";
+  in.Druk.LetterGrootte = 12;
+  in.Druk.KopStijl = -12;
+  in.Druk.BlokBovenStijl = 0;
+  in.Druk.BlokOnderStijl = -32768;
   in.GebruikerLabel =
       "B\xE9"
       "ton && Zn";

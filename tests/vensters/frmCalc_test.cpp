@@ -375,7 +375,7 @@ TEST_F(SchatVensters, TabGoesRoundByTheChosenMaterial) {
     EXPECT_EQ(Focus().toStdString(), naam);
   }
   Zoek<QRadioButton>("optAlu")->setFocus(Qt::TabFocusReason);
-  Druk(Qt::Key_Right);
+  Druk(Qt::Key_Down);
   EXPECT_EQ(Omschrijving(), "kunststof,  2 mm, massa ontdreuning  5 kg/m²");
   Zoek<QPushButton>("cmdCancel")->setFocus(Qt::TabFocusReason);
   Druk(Qt::Key_Tab);

@@ -725,7 +725,13 @@ TEST_F(ProjectVenster, RefilledCataloguesKeepTheProject) {
   KiesRecord(5);
   const QString was = Zoek<QComboBox>("cmbRplafond")->currentText();
   MaakBerekend();
-  venster->VulCatalogi();
+  catalogi.CatElementen.Records[12].CatNaam = "anders";
+  --catalogi.CatFans.Aantal;
+  venster->VulElementen();
+  EXPECT_EQ(Zoek<QListWidget>("lstTotaal")->item(11)->text(), "anders");
+  EXPECT_EQ(Zoek<QListWidget>("lstFan")->count(), catalogi.CatFans.Aantal + 1);
+  venster->VulFans();
+  EXPECT_EQ(Zoek<QListWidget>("lstFan")->count(), catalogi.CatFans.Aantal);
   EXPECT_EQ(venster->DeLijst().CatalogusPositie, 0);
   EXPECT_EQ(Zoek<QListWidget>("lstTotaal")->currentRow(), -1);
   EXPECT_EQ(Zoek<QComboBox>("cmbRplafond")->currentText(), was);

@@ -36,6 +36,7 @@
 #include "basis/vensters_stijl.h"
 #include "editor/frmMurvane.h"
 #include "editor/vensters_veld.h"
+#include "estimators/frmCalc.h"
 #include "project/projectfile.h"
 #include "reports/frmResultaat.h"
 #include "shell/MDIMurvane.h"
@@ -95,6 +96,10 @@ class Wereld {
 
   /// Back to no project.
   void Sluit() {
+    if (schatter_ != nullptr) {
+      schatter_.reset();
+      QApplication::setActiveWindow(hoofd_.get());
+    }
     if (!Zoek<QAction>("mnuSluiten")->isEnabled()) return;
     script_.Box({MeldingSoort::Vraag, "Bestand sluiten",
                  "Wilt u het bestand sluiten zonder data-opslag van eventueel ingevoerde/gewijzigde "
@@ -126,6 +131,18 @@ class Wereld {
     Zoek<QListWidget>("lstProject")->setCurrentRow(plaats - 1);
   }
 
+  /// An estimator, with a good estimate in it.
+  [[nodiscard]] frmCalc* MaakSchatter(Schatter soort) {
+    programma_.SchatInvoer.Bekleed = {400, 600, 50, 2.5};
+    programma_.SchatInvoer.KwartLambda = {200, 0, 1, 0.5};
+    programma_.SchatInvoer.Plenum = {600, 800, 1.2, 250, 0, 50};
+    programma_.SchatInvoer.Kanaalwand = {kanaaltype::Zink, 2, 5.5};
+    schatter_ = std::make_unique<frmCalc>(soort, programma_.SchatInvoer, script_, ',');
+    schatter_->show();
+    QApplication::setActiveWindow(schatter_.get());
+    return schatter_.get();
+  }
+
   /// The results of a sample, in their window.
   void MaakResultaat(const char* voorbeeld) {
     Open(Data / voorbeeld);
@@ -139,6 +156,7 @@ class Wereld {
   proef::Script script_;
   Programma programma_;
   std::unique_ptr<MDIMurvane> hoofd_;
+  std::unique_ptr<frmCalc> schatter_;
 };
 
 /// A window as the user meets it: `Maak` brings the program there and gives the window that is walked.
@@ -217,6 +235,10 @@ const std::vector<Stand>& Fotos() {
                        w.Zoek<QToolButton>("Image1")->click();
                        return w.Hoofd();
                      }});
+    for (const Schatter soort :
+         {Schatter::Bekleed, Schatter::KwartLambda, Schatter::Plenum, Schatter::Kanaalwand})
+      fotos.push_back(
+          {std::string(VensterVan(soort).Naam), [soort](Wereld& w) { return w.MaakSchatter(soort); }});
     fotos.push_back({"resultaten", [](Wereld& w) {
                        w.MaakResultaat("kantoor.mrv");
                        return w.Hoofd();
@@ -496,7 +518,7 @@ TEST(Rondgang, EveryFieldHasItsLabel) {
 bool NaamVolgensRegel(const QWidget& vak) {
   static const QRegularExpression Vast(
       "^(frm|MDI)[A-Z]\\w+$|^SSTab[12]$|^Toolbar[12](_[A-Z][a-z]+)?$|^StatusBar1(_[123](_beeld)?)?$|"
-      "^(VrijVeld|Image1|MonthView|ProgressBar1|Tekening(Ruimte|Leeg)?|RichTextBox1)$");
+      "^(VrijVeld|Text[1-6]|Image1|MonthView|ProgressBar1|Tekening(Ruimte|Leeg)?|RichTextBox1)$");
   const std::vector<std::pair<bool, QString>> soorten = {
       {qobject_cast<const QLineEdit*>(&vak) != nullptr, "^txt[A-Z a-z]\\w*(_\\d+)?$"},
       {qobject_cast<const QListWidget*>(&vak) != nullptr, "^lst[A-Z]\\w+$"},
@@ -549,7 +571,7 @@ int TekstRuimte(const QLineEdit& veld) {
 
 /// The widest text that a field can be left with. A text of words is taken at the width of its average.
 int BreedsteTekst(const InvoerVeld& veld) {
-  const VeldRegel& regel = Regel(veld.Veld());
+  const VeldRegel& regel = veld.DeRegel();
   const QFontMetrics letters = veld.fontMetrics();
   if (regel.Soort == VeldSoort::Datum) return letters.horizontalAdvance("30-09-2026");
   if (const int tekens = MaxTekens(regel); tekens > 0) return tekens * letters.averageCharWidth();
