@@ -154,18 +154,29 @@ void ControleerBestanden(const Keuzes& keuzes) {
     throw Gebruiksfout("Een bestandsnaam is leeg.");
 }
 
+/// "a, b of c"
+std::string Opsomming(const std::vector<std::string_view>& woorden) {
+  std::string uit;
+  for (std::size_t i = 0; i < woorden.size(); ++i) {
+    if (i > 0) uit += i + 1 == woorden.size() ? " of " : ", ";
+    uit += woorden[i];
+  }
+  return uit;
+}
+
 void ControleerWaarden(const Keuzes& keuzes) {
-  const auto eis = [&keuzes](Optie optie, std::initializer_list<std::string_view> mag, const char* vraagt) {
-    const auto& waarde = keuzes.Waarde(optie);
-    if (waarde && std::find(mag.begin(), mag.end(), *waarde) == mag.end())
-      throw Gebruiksfout(std::string(EersteNaam(RegelVan(optie))) + " vraagt " + vraagt + ", niet \"" +
-                         *waarde + "\".");
+  const auto weiger = [&keuzes](const OptieRegel& optie, const std::string& vraagt) {
+    throw Gebruiksfout(std::string(EersteNaam(optie)) + " vraagt " + vraagt + ", niet \"" +
+                       *keuzes.Waarde(optie.Code) + "\".");
   };
-  eis(Optie::Decimaal, {"punt", "komma"}, "punt of komma");
-  eis(Optie::Soort, {"kanaalelementen", "ventilatoren", "luchtkanalen", "plafonds"},
-      "kanaalelementen, ventilatoren, luchtkanalen of plafonds");
-  eis(Optie::Grafiek, {"1m", "galmveld", "geen"}, "1m, galmveld of geen");
-  if (keuzes.Heeft(Optie::Taken) && keuzes.Taken() == 0) eis(Optie::Taken, {}, "een geheel getal vanaf 1");
+  for (const OptieRegel& optie : Opties) {
+    const std::vector<std::string_view> mag = Delen(optie.Waarden, '|');
+    const auto& waarde = keuzes.Waarde(optie.Code);
+    if (waarde && !mag.empty() && std::find(mag.begin(), mag.end(), *waarde) == mag.end())
+      weiger(optie, Opsomming(mag));
+  }
+  if (keuzes.Heeft(Optie::Taken) && keuzes.Taken() == 0)
+    weiger(RegelVan(Optie::Taken), "een geheel getal vanaf 1");
 }
 
 }  // namespace

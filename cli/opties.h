@@ -1,14 +1,16 @@
 #pragma once
 // cli/: the command-line programs, without a toolkit. murvane-cli is a main function around the commands in
 // opdrachten.h, which tests call in-process.
-// This header: every command and option in one table. It feeds the parser and the help texts. Texts are
-// UTF-8.
+// This header: every command and option in one table. It feeds the parser, the help texts, the manual page
+// and the completion of the shells. Texts are UTF-8.
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
 #include <string_view>
+#include <vector>
 
 namespace murvane {
 
@@ -158,6 +160,7 @@ struct OptieRegel {
   std::string_view Argument;  ///< what its value is called; empty for an option without one
   bool Verplicht;
   std::string_view Uitleg;
+  std::string_view Waarden = {};  ///< the values it may have, separated by "|"; empty for any
 };
 
 /// In the order of Optie.
@@ -175,7 +178,8 @@ inline constexpr std::array Opties = {
     OptieRegel{Optie::UitvoerMaak, Bij({Opdracht::Maak, Opdracht::CatalogusMaak, Opdracht::CatalogusSorteer}),
                "-o", "BESTAND", true, "het bestand dat wordt geschreven; een - is de standaarduitvoer"},
     OptieRegel{Optie::Soort, Bij({Opdracht::CatalogusToon, Opdracht::CatalogusSorteer}), "--soort", "SOORT",
-               false, "kanaalelementen, ventilatoren, luchtkanalen of plafonds; gaat voor de bestandsnaam"},
+               false, "kanaalelementen, ventilatoren, luchtkanalen of plafonds; gaat voor de bestandsnaam",
+               "kanaalelementen|ventilatoren|luchtkanalen|plafonds"},
     OptieRegel{Optie::Zoek, Bij({Opdracht::Overzicht}), "--zoek", "TEKST", false,
                "alleen wat deze tekst in zijn naam heeft, in hoofdletters of kleine letters"},
     OptieRegel{Optie::Datum, Bij({Opdracht::Overzicht}), "--datum", "DD-MM-JJJJ", false,
@@ -215,7 +219,8 @@ inline constexpr std::array Opties = {
                "data van "
                "het programma"},
     OptieRegel{Optie::Decimaal, BijAlle, "--decimaal", "punt|komma", false,
-               "het decimaalteken in rapporten en schattingen; zonder deze optie dat van de landinstelling"},
+               "het decimaalteken in rapporten en schattingen; zonder deze optie dat van de landinstelling",
+               "punt|komma"},
     OptieRegel{Optie::Versie, BijAlle, "--versie,--version", "", false, "toont de versie van het programma"},
     OptieRegel{Optie::Help, BijAlle, "-h,--help", "", false, "toont deze hulp"},
     OptieRegel{Optie::Pdf, Bij({Opdracht::Druk}), "--pdf", "BESTAND", true,
@@ -224,7 +229,7 @@ inline constexpr std::array Opties = {
         Optie::Bmp, Bij({Opdracht::Druk}), "--bmp", "BESTAND.bmp", false,
         "schrijft ook de eerste vijf pagina's als bitmap, met het paginanummer voor de punt: BESTAND1.bmp"},
     OptieRegel{Optie::Grafiek, Bij({Opdracht::Druk}), "--grafiek", "1m|galmveld|geen", false,
-               "de grafiek onder het formulier; zonder deze optie geen"},
+               "de grafiek onder het formulier; zonder deze optie geen", "1m|galmveld|geen"},
 };
 
 inline constexpr std::size_t AantalOpties = Opties.size();
@@ -250,15 +255,21 @@ constexpr std::string_view EersteNaam(const OptieRegel& optie) {
   return optie.Namen.substr(0, optie.Namen.find(','));
 }
 
-/// Whether `naam` is one of an option's names.
-constexpr bool Heet(const OptieRegel& optie, std::string_view naam) {
-  std::string_view rest = optie.Namen;
-  while (!rest.empty()) {
-    const std::size_t komma = rest.find(',');
-    if (rest.substr(0, komma) == naam) return true;
-    rest = komma == std::string_view::npos ? std::string_view() : rest.substr(komma + 1);
+/// The parts of a text between the signs `teken`; none of an empty text.
+inline std::vector<std::string_view> Delen(std::string_view tekst, char teken) {
+  std::vector<std::string_view> uit;
+  while (!tekst.empty()) {
+    const std::size_t einde = tekst.find(teken);
+    uit.push_back(tekst.substr(0, einde));
+    tekst = einde == std::string_view::npos ? std::string_view() : tekst.substr(einde + 1);
   }
-  return false;
+  return uit;
+}
+
+/// Whether `naam` is one of an option's names.
+inline bool Heet(const OptieRegel& optie, std::string_view naam) {
+  const std::vector<std::string_view> namen = Delen(optie.Namen, ',');
+  return std::find(namen.begin(), namen.end(), naam) != namen.end();
 }
 
 }  // namespace murvane

@@ -25,13 +25,13 @@ struct InvoerVraag {
 /// A file dialog, to open or to save.
 struct BestandVraag {
   std::string Titel;
-  std::string Filter;               ///< one filter as "description|pattern"
-  std::filesystem::path BeginMap;   ///< where it opens, unless `Naam` has a directory of its own
-  std::filesystem::path Naam;       ///< the file name that it proposes; may be empty
-  bool OverschrijfVraag = false;    ///< asks before a file that exists is chosen
-  bool BestandMoetBestaan = false;  ///< takes no name of a file that does not exist
-  bool MapBlijft = false;           ///< leaves the current directory alone
-  std::string Extensie{};           ///< added to a name to save under that has none; empty adds nothing
+  std::string Filter;                ///< one filter as "description|pattern"
+  std::filesystem::path BeginMap{};  ///< where it opens, unless `Naam` has a directory of its own
+  std::filesystem::path Naam{};      ///< the file name that it proposes; may be empty
+  bool OverschrijfVraag = false;     ///< asks before a file that exists is chosen
+  bool BestandMoetBestaan = false;   ///< takes no name of a file that does not exist
+  bool MapBlijft = false;            ///< leaves the current directory alone
+  std::string Extensie{};            ///< added to a name to save under that has none; empty adds nothing
 
   friend bool operator==(const BestandVraag&, const BestandVraag&) = default;
 };

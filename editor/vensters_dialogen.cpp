@@ -110,15 +110,32 @@ std::filesystem::path Vraag(QWidget* ouder, const BestandVraag& vraag, QFileDial
   return VanQt(dialoog.selectedFiles().constFirst());
 }
 
-/// The tick that saves the text report instead of printing, above the buttons.
-const QCheckBox* VoegNaarBestandToe(QPrintDialog& dialoog) {
-  auto* indeling = qobject_cast<QBoxLayout*>(dialoog.layout());
-  if (indeling == nullptr) return nullptr;
-  auto* vinkje = new QCheckBox("Afdrukken naar &bestand (tekstrapport, *.prn)", &dialoog);
-  vinkje->setObjectName("chkNaarBestand");
-  indeling->insertWidget(indeling->count() - 1, vinkje);
-  return vinkje;
-}
+/// The system's print dialog with a tick that saves the text report instead of printing, above the buttons.
+class Afdrukvenster : public QPrintDialog {
+ public:
+  using QPrintDialog::QPrintDialog;
+
+  void VoegNaarBestandToe() {
+    auto* indeling = qobject_cast<QBoxLayout*>(layout());
+    if (indeling == nullptr) return;
+    vinkje_ = new QCheckBox("Afdrukken naar &bestand (tekstrapport, *.prn)", this);
+    vinkje_->setObjectName("chkNaarBestand");
+    indeling->insertWidget(indeling->count() - 1, vinkje_);
+  }
+  [[nodiscard]] bool NaarBestand() const { return vinkje_ != nullptr && vinkje_->isChecked(); }
+
+  /// Who saves text needs no printer, nor the name of a file for it.
+  void accept() override {
+    if (NaarBestand()) {
+      done(Accepted);
+    } else {
+      QPrintDialog::accept();
+    }
+  }
+
+ private:
+  QCheckBox* vinkje_ = nullptr;
+};
 
 /// The window that a dialog stands before: the one in hand. Just after another dialog none is; while the
 /// program starts there is none at all.
@@ -162,13 +179,13 @@ AfdrukKeuze SchermDialogen::AfdrukDialoog(const AfdrukVraag& vraag) {
   const auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
   printer->setDocName(VanCp(vraag.Document));
   printer->setPageOrientation(vraag.Liggend ? QPageLayout::Landscape : QPageLayout::Portrait);
-  QPrintDialog dialoog(printer.get(), Ouder());
+  Afdrukvenster dialoog(printer.get(), Ouder());
   dialoog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintCollateCopies);
-  const QCheckBox* naarBestand = vraag.NaarBestandMogelijk ? VoegNaarBestandToe(dialoog) : nullptr;
+  if (vraag.NaarBestandMogelijk) dialoog.VoegNaarBestandToe();
   if (dialoog.exec() != QDialog::Accepted) throw Fout(FoutNummer::DialoogGeannuleerd);
   const int exemplaren = printer->copyCount();
   printer->setCopyCount(1);  // each copy is a document of its own
-  return {exemplaren, naarBestand != nullptr && naarBestand->isChecked(),
+  return {exemplaren, dialoog.NaarBestand(),
           [printer, liggend = vraag.Liggend] { return std::make_unique<Schildervlak>(printer, liggend); }};
 }
 

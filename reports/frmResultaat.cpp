@@ -5,6 +5,7 @@
 #include <QTextEdit>
 
 #include "basis/vensters_hulp.h"
+#include "reports/vensters_werkbalk.h"
 
 namespace murvane {
 
@@ -30,7 +31,7 @@ void VoegToe(QTextCursor& cursor, const std::string& blok, double punten) {
 }  // namespace
 
 frmResultaat::frmResultaat(const Rapport& rapport, QWidget* ouder)
-    : QWidget(ouder), tekst_(new QTextEdit(this)) {
+    : QWidget(ouder), Toolbar1(new Werkbalk(ResultaatKnoppen, this)), tekst_(new QTextEdit(this)) {
   setObjectName("frmResultaat");
   setWindowTitle("Berekeningsresultaten");
   tekst_->setObjectName("RichTextBox1");
@@ -45,10 +46,12 @@ frmResultaat::frmResultaat(const Rapport& rapport, QWidget* ouder)
     VoegToe(cursor, *blok, 7.2);
   tekst_->moveCursor(QTextCursor::Start);
   setFocusProxy(tekst_);
+  connect(Toolbar1, &Werkbalk::ButtonClick, this, &frmResultaat::ButtonClick);
 }
 
 void frmResultaat::resizeEvent(QResizeEvent* gebeurtenis) {
   QWidget::resizeEvent(gebeurtenis);
+  Toolbar1->setGeometry(0, 0, width(), Strook);
   tekst_->setGeometry(0, Strook, width(), height() - Strook);
 }
 

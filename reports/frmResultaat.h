@@ -9,6 +9,8 @@ class QTextEdit;
 
 namespace murvane {
 
+class Werkbalk;
+
 class frmResultaat : public QWidget {
   Q_OBJECT
 
@@ -16,10 +18,15 @@ class frmResultaat : public QWidget {
   /// Shows the report as it stands now; the text stays when the report changes.
   explicit frmResultaat(const Rapport& rapport, QWidget* ouder = nullptr);
 
+ signals:
+  /// A button of the toolbar, by its key.
+  void ButtonClick(const QString& sleutel);
+
  protected:
   void resizeEvent(QResizeEvent* gebeurtenis) override;
 
  private:
+  Werkbalk* Toolbar1;
   QTextEdit* tekst_;
 };
 

@@ -18,26 +18,27 @@ struct Werkknop {
   int Positie;
   std::string_view Sleutel;
   std::string_view Tip;
+  std::string_view Beeld;  ///< its icon
 };
 
 inline constexpr std::string_view PdfTip = "Berekeningsformulier opslaan als PDF";
 
 inline constexpr auto ResultaatKnoppen = std::to_array<Werkknop>({
-    {1, "Printen", "Berekeningsresultaten afdrukken op printer"},
-    {2, "Opslaan", "Berekeningsresultaten opslaan in bestand"},
-    {3, "Grafiek", "Grafische weergave berekeningsresultaten"},
-    {4, "preview", "Afdrukvoorbeeld berekeningsresultaten"},
-    {6, "PDF", PdfTip},
+    {1, "Printen", "Berekeningsresultaten afdrukken op printer", "printen"},
+    {2, "Opslaan", "Berekeningsresultaten opslaan in bestand", "opslaan"},
+    {3, "Grafiek", "Grafische weergave berekeningsresultaten", "grafiek"},
+    {4, "preview", "Afdrukvoorbeeld berekeningsresultaten", "voorbeeld"},
+    {6, "PDF", PdfTip, "pdf"},
 });
 
 inline constexpr auto VoorbeeldKnoppen = std::to_array<Werkknop>({
-    {2, "printen", "Afdrukken op printer"},
-    {3, "save", "Afdrukvoorbeeld opslaan als bitmap-bestand"},
-    {5, "begin", "Naar beginpagina"},
-    {6, "terug", "Naar vorige pagina"},
-    {7, "volgende", "Naar volgende pagina"},
-    {8, "eind", "Naar laatste pagina"},
-    {10, "PDF", PdfTip},
+    {2, "printen", "Afdrukken op printer", "printen"},
+    {3, "save", "Afdrukvoorbeeld opslaan als bitmap-bestand", "opslaan"},
+    {5, "begin", "Naar beginpagina", "begin"},
+    {6, "terug", "Naar vorige pagina", "terug"},
+    {7, "volgende", "Naar volgende pagina", "volgende"},
+    {8, "eind", "Naar laatste pagina", "eind"},
+    {10, "PDF", PdfTip, "pdf"},
 });
 
 /// The page of the preview: 21.0 by 29.1 cm, 1440 twips to the inch.

@@ -24,7 +24,13 @@
 #include "catalogue/frmOnderhoud.h"
 #include "editor/frmMurvane.h"
 #include "editor/vensters_tekening.h"
+#include "reports/frmGrafiek.h"
+#include "reports/frmLettertype.h"
+#include "reports/frmPreView.h"
 #include "reports/frmResultaat.h"
+#include "reports/frmSelGraf.h"
+#include "reports/vensters_pdf.h"
+#include "shell/afdrukken.h"
 #include "shell/bestandopdrachten.h"
 #include "shell/frmAbout.h"
 #include "shell/hoofdvenster.h"
@@ -118,6 +124,8 @@ void MDIMurvane::MaakMenu() {
   Verbind("mnuHelpFile", &MDIMurvane::mnuHelpFile);
   Verbind("mnuInfo", &MDIMurvane::mnuInfo);
   ZetMenuBeelden();
+  Verbind("mnuAfdrukken", &MDIMurvane::mnuAfdrukken);
+  Verbind("mnuLetterType", &MDIMurvane::mnuLetterType);
   QMenu* const vensters = menus.at("mnuVenster");
   connect(vensters, &QMenu::aboutToShow, this, [this, vensters] { VulVensterMenu(*vensters); });
 }
@@ -293,6 +301,7 @@ void MDIMurvane::Reken() {
 
 QMdiSubWindow* MDIMurvane::LaadResultaat() {
   resultaat_ = new frmResultaat(programma_.Rapport);
+  VerbindResultaat(*resultaat_);
   QMdiSubWindow* const kader = gebied_->addSubWindow(resultaat_);
   kader->setAttribute(Qt::WA_DeleteOnClose);
   return kader;
@@ -303,6 +312,79 @@ void MDIMurvane::mnuPreview() {
   auto* kader = qobject_cast<QMdiSubWindow*>(resultaat_->parentWidget());
   kader->showMaximized();
   gebied_->setActiveSubWindow(kader);
+}
+
+void MDIMurvane::VerbindResultaat(frmResultaat& venster) {
+  connect(&venster, &frmResultaat::ButtonClick, this, [this](const QString& sleutel) {
+    const std::string naam = "Toolbar1_" + sleutel.toStdString();
+    if (sleutel == "Printen") Voer(naam, &MDIMurvane::mnuAfdrukken);
+    if (sleutel == "Opslaan") Voer(naam, &MDIMurvane::Toolbar1_Opslaan);
+    if (sleutel == "Grafiek") Voer(naam, &MDIMurvane::Toolbar1_Grafiek);
+    if (sleutel == "preview") Voer(naam, &MDIMurvane::Toolbar1_preview);
+    if (sleutel == "PDF") Voer(naam, &MDIMurvane::Toolbar1_PDF);
+  });
+}
+
+void MDIMurvane::mnuAfdrukken() {
+  AfdrukPrinter(programma_, dialogen_, [this] { return VraagGrafiekKeuze(this); });
+}
+
+void MDIMurvane::Toolbar1_Opslaan() {
+  Afdruk(programma_, dialogen_);
+}
+
+void MDIMurvane::Toolbar1_Grafiek() {
+  if (!VulGrafiek(programma_, dialogen_, [this] { return VraagGrafiekKeuze(this); })) return;
+  frmGrafiek venster(
+      programma_.Grafiek, [this](const auto& druk) { DrukGrafiek(dialogen_, druk); }, this);
+  venster.exec();
+}
+
+/// A preview that is open stays as it was drawn.
+void MDIMurvane::Toolbar1_preview() {
+  if (preview_ == nullptr) LaadPreView();
+  auto* const kader = qobject_cast<QMdiSubWindow*>(preview_->parentWidget());
+  kader->showMaximized();
+  gebied_->setActiveSubWindow(kader);
+  preview_->setFocus();
+}
+
+void MDIMurvane::LaadPreView() {
+  auto venster = std::make_unique<frmPreView>(programma_.Voorbeeld);
+  LaadVoorbeeld(
+      programma_, dialogen_, [this] { return VraagGrafiekKeuze(this); }, venster->Document());
+  venster->ToonBlad();
+  preview_ = venster.get();
+  connect(preview_, &frmPreView::Printen, this,
+          [this] { Voer("Toolbar1_printen", &MDIMurvane::mnuAfdrukken); });
+  connect(preview_, &frmPreView::Opslaan, this,
+          [this] { Voer("Toolbar1_save", &MDIMurvane::Toolbar1_save); });
+  connect(preview_, &frmPreView::Pdf, this, [this] { Voer("Toolbar1_PDF", &MDIMurvane::Toolbar1_PDF); });
+  gebied_->addSubWindow(venster.release())->setAttribute(Qt::WA_DeleteOnClose);
+}
+
+void MDIMurvane::Toolbar1_save() {
+  OpslaanAlsBitmap(programma_, dialogen_, [this](int index) { return preview_->Bitmap(index); });
+}
+
+void MDIMurvane::Toolbar1_PDF() {
+  OpslaanAlsPdf(
+      programma_, dialogen_, [this] { return VraagGrafiekKeuze(this); },
+      [this](std::int16_t wens, std::int16_t keuze) {
+        return MaakPdf(FormulierVan(programma_), wens, keuze, programma_.Grafiek);
+      });
+}
+
+void MDIMurvane::mnuLetterType() {
+  std::optional<Zandloper> zandloper(dialogen_);
+  frmLettertype venster(programma_.Instellingen.Druk, SysteemFonts, this);
+  zandloper.reset();
+  if (venster.Laadfout())
+    (void)dialogen_.Toon(OnverwachteFout("Form_Load", "frmLettertype", *venster.Laadfout()));
+  connect(&venster, &frmLettertype::Geweigerd, this, [this](const Fout& fout) {
+    (void)dialogen_.Toon(OnverwachteFout("cmdOK_Click", "frmLettertype", fout));
+  });
+  venster.exec();
 }
 
 void MDIMurvane::mnuSluiten() {

@@ -22,6 +22,7 @@ namespace murvane {
 
 class Taakbalk;
 class frmMurvane;
+class frmPreView;
 class frmResultaat;
 
 class MDIMurvane : public QMainWindow {
@@ -66,6 +67,17 @@ class MDIMurvane : public QMainWindow {
   void mnuCalc();
   void mnuHelpFile();
   void mnuInfo();
+  void mnuAfdrukken();
+  void mnuLetterType();
+
+  // The buttons of the result window and the preview.
+  void Toolbar1_Opslaan();
+  void Toolbar1_Grafiek();
+  void Toolbar1_preview();
+  void Toolbar1_PDF();
+  void Toolbar1_save();
+  void VerbindResultaat(frmResultaat& venster);
+  void LaadPreView();
 
   void Reken();
   QMdiSubWindow* LaadResultaat();
@@ -81,6 +93,7 @@ class MDIMurvane : public QMainWindow {
   frmMurvane* project_;
   Taakbalk* taakbalk_ = nullptr;
   QPointer<frmResultaat> resultaat_;
+  QPointer<frmPreView> preview_;
   std::map<std::string_view, QAction*> acties_;  ///< by name; the names of MenuBalk
   QLabel* beeld_ = nullptr;
   QLabel* paneel1_ = nullptr;

@@ -79,10 +79,10 @@ const std::vector<Tekening>& Tekeningen() {
 }
 
 const std::vector<std::string> Pictogrammen = {
-    "berekend", "calculator", "exit",          "gebruiker",  "grafiek",     "help",    "info",
-    "invoegen", "kalender",   "kanaalelement", "letter",     "luchtkanaal", "nieuw",   "omhoog",
-    "omlaag",   "openen",     "opslaan",       "pdf",        "plafond",     "printen", "reken",
-    "sluiten",  "toevoegen",  "type",          "ventilator", "voorbeeld",   "wissen"};
+    "begin",  "berekend",  "calculator", "eind",          "exit",     "gebruiker",   "grafiek", "help",
+    "info",   "invoegen",  "kalender",   "kanaalelement", "letter",   "luchtkanaal", "nieuw",   "omhoog",
+    "omlaag", "openen",    "opslaan",    "pdf",           "plafond",  "printen",     "reken",   "sluiten",
+    "terug",  "toevoegen", "type",       "ventilator",    "volgende", "voorbeeld",   "wissen"};
 
 using Kenmerken = std::map<std::string, std::string>;
 

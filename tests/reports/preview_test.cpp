@@ -28,13 +28,13 @@ TEST(Werkbalk, OfTheResultsHasItsKeysAndTips) {
 
 TEST(Werkbalk, OfThePreviewHasItsKeysTipsAndPositions) {
   ASSERT_EQ(VoorbeeldKnoppen.size(), 7U);
-  const Werkknop rijen[] = {{2, "printen", "Afdrukken op printer"},
-                            {3, "save", "Afdrukvoorbeeld opslaan als bitmap-bestand"},
-                            {5, "begin", "Naar beginpagina"},
-                            {6, "terug", "Naar vorige pagina"},
-                            {7, "volgende", "Naar volgende pagina"},
-                            {8, "eind", "Naar laatste pagina"},
-                            {10, "PDF", "Berekeningsformulier opslaan als PDF"}};
+  const Werkknop rijen[] = {{2, "printen", "Afdrukken op printer", "printen"},
+                            {3, "save", "Afdrukvoorbeeld opslaan als bitmap-bestand", "opslaan"},
+                            {5, "begin", "Naar beginpagina", "begin"},
+                            {6, "terug", "Naar vorige pagina", "terug"},
+                            {7, "volgende", "Naar volgende pagina", "volgende"},
+                            {8, "eind", "Naar laatste pagina", "eind"},
+                            {10, "PDF", "Berekeningsformulier opslaan als PDF", "pdf"}};
   for (std::size_t i = 0; i < 7; ++i) {
     EXPECT_EQ(VoorbeeldKnoppen[i].Positie, rijen[i].Positie);
     EXPECT_EQ(VoorbeeldKnoppen[i].Sleutel, rijen[i].Sleutel);

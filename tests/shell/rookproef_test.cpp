@@ -30,7 +30,9 @@ TEST(Rookproef, CancelsEveryQuestionAndWritesItDown) {
   EXPECT_EQ(stil.Invoer({"Naam", "Uw naam", "A"}), "");
   EXPECT_EQ(proef::NummerVan([&] { return stil.OpenDialoog({"Openen", "Project|*.mrv", {}, {}}); }), 32755);
   EXPECT_EQ(proef::NummerVan([&] { return stil.OpslaanDialoog({"Opslaan als", "P|*.mrv", {}, {}}); }), 32755);
-  EXPECT_EQ(uit.str(), "Titel: Geluid h×b?\nNaam: Uw naam\nOpenen: Project|*.mrv\nOpslaan als: P|*.mrv\n");
+  EXPECT_EQ(proef::NummerVan([&] { return stil.AfdrukDialoog({}).Exemplaren; }), 32755);
+  EXPECT_EQ(uit.str(),
+            "Titel: Geluid h×b?\nNaam: Uw naam\nOpenen: Project|*.mrv\nOpslaan als: P|*.mrv\nAfdrukken: \n");
 }
 
 TEST(Rookproef, WaitingIsNoQuestion) {

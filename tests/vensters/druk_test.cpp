@@ -3,7 +3,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QCheckBox>
 #include <QImage>
+#include <QLineEdit>
+#include <QPrinter>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStringList>
@@ -13,6 +16,7 @@
 #include <sstream>
 
 #include "cli/vensters_druk.h"
+#include "editor/vensters_dialogen.h"
 #include "project/projectfile.h"
 #include "reports/preview.h"
 #include "reports/vensters_grafiek.h"
@@ -21,6 +25,7 @@
 #include "shell/run.h"
 #include "tests/cli/hulp.h"
 #include "tests/hulp/opnemer.h"
+#include "tests/vensters/robot.h"
 
 namespace murvane::clitest {
 namespace {
@@ -205,6 +210,65 @@ TEST(FontVan, HasTheFormsMeasuresWhereItsFontIsMissing) {
   font.setPixelSize(1000);
   EXPECT_NEAR(QFontMetricsF(font).horizontalAdvance("0"), 600, 3);
   EXPECT_LE(QFontMetricsF(font).lineSpacing(), 1170);
+}
+
+// The print dialog and the printer behind it: without any printer, the one that writes a PDF.
+
+TEST(Afdrukdialoog, PrintsOnTheChosenPrinter) {
+  const proef::TijdelijkeMap map;
+  const auto pad = map / "gedrukt één.pdf";
+  proef::Robot robot;
+  robot.Dan([&](QDialog& dialoog) {
+    auto* const bestand = dialoog.findChild<QLineEdit*>("filename");
+    ASSERT_NE(bestand, nullptr);
+    bestand->setText(QString::fromStdString(PadTekst(pad)));
+    EXPECT_FALSE(dialoog.findChild<QCheckBox*>("chkNaarBestand")->isChecked());
+    dialoog.accept();
+  });
+  SchermDialogen dialogen;
+  const AfdrukKeuze keuze = dialogen.AfdrukDialoog({});
+  EXPECT_EQ(keuze.Exemplaren, 1);
+  EXPECT_FALSE(keuze.NaarBestand);
+  EXPECT_FALSE(std::filesystem::exists(pad));  // nothing is printed before the form is drawn
+  Voorbeeldproject voorbeeld("kantoor.mrv");
+  VoorbeeldStand stand;
+  Grafiek grafiek;
+  for (int exemplaar = 0; exemplaar < 2; ++exemplaar) {
+    const auto document = keuze.NieuwDocument();
+    EXPECT_NEAR(document->ScaleWidth(), 11905.5, 0.1);
+    EXPECT_NEAR(document->ScaleHeight(), 16837.8, 0.1);
+    (void)DrukRapport(*document, voorbeeld.HetFormulier(), 0, 0, stand, grafiek);
+    EXPECT_EQ(document->Page(), 2);
+    document->EndDoc();
+  }
+  EXPECT_TRUE(Uitvoer("pdfinfo", {QString::fromStdString(PadTekst(pad))}).contains("(A4)"));
+  const auto opRaster = OpRasterVan(WoordenVan(PadTekst(pad)));
+  for (const auto& [getal, aantal] : Tabelgetallen(voorbeeld.HetFormulier()))
+    EXPECT_TRUE(opRaster.contains(getal)) << getal;
+}
+
+TEST(Afdrukdialoog, HasATickOfItsOwnForTheTextReport) {
+  proef::Robot robot;
+  robot
+      .Dan([](QDialog& dialoog) {
+        dialoog.findChild<QCheckBox*>("chkNaarBestand")->setChecked(true);
+        dialoog.accept();  // no printer and no file for it is asked for
+      })
+      .Dan([](QDialog& dialoog) {
+        EXPECT_EQ(dialoog.findChild<QCheckBox*>("chkNaarBestand"), nullptr);
+        dialoog.reject();
+      });
+  SchermDialogen dialogen;
+  EXPECT_TRUE(dialogen.AfdrukDialoog({true}).NaarBestand);
+  EXPECT_EQ(proef::NummerVan([&] { return dialogen.AfdrukDialoog({false}).Exemplaren; }), 32755);
+}
+
+TEST(Schildervlak, TellsOfAPrinterThatCannotBegin) {
+  const proef::TijdelijkeMap map;
+  const auto printer = std::make_shared<QPrinter>();
+  printer->setOutputFormat(QPrinter::PdfFormat);
+  printer->setOutputFileName(QString::fromStdString(PadTekst(map / "geen map/x.pdf")));
+  EXPECT_EQ(proef::NummerVan([&] { return Schildervlak(printer).Page(); }), 75);
 }
 
 // The preview's picture.
