@@ -1,5 +1,6 @@
 #include "basis/tekst.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <optional>
 
@@ -79,7 +80,55 @@ char NaarByte(char32_t punt) {
              "Het teken '" + teken + "' kan niet in een tekst van het project staan");
 }
 
+constexpr int Code(char c) {
+  return static_cast<unsigned char>(c);
+}
+/// The distance of the small letter behind a capital of the code page; 0 for any other character.
+constexpr int AfstandTotKlein(int c) {
+  if ((c >= 'A' && c <= 'Z') || (c >= 0xC0 && c <= 0xDE && c != 0xD7)) return 0x20;
+  if (c == 0x8A || c == 0x8C || c == 0x8E) return 0x10;  // Š Œ Ž
+  return c == 0x9F ? 0x60 : 0;                           // Ÿ
+}
+
+using Vormen = std::array<char, 256>;  ///< of every character of the code page
+
+constexpr Vormen KleineVorm = [] {
+  Vormen uit{};
+  for (int c = 0; c < 256; ++c) uit[static_cast<std::size_t>(c)] = static_cast<char>(c + AfstandTotKlein(c));
+  return uit;
+}();
+
+constexpr Vormen GroteVorm = [] {
+  Vormen uit{};
+  for (int c = 0; c < 256; ++c) uit[static_cast<std::size_t>(c)] = static_cast<char>(c);
+  for (int c = 0; c < 256; ++c) {
+    const int afstand = AfstandTotKlein(c);
+    if (afstand > 0) uit[static_cast<std::size_t>(c + afstand)] = static_cast<char>(c);
+  }
+  return uit;
+}();
+
 }  // namespace
+
+char NaarKlein(char c) {
+  return KleineVorm[static_cast<std::size_t>(Code(c))];
+}
+
+char NaarGroot(char c) {
+  return GroteVorm[static_cast<std::size_t>(Code(c))];
+}
+
+std::string InKleineLetters(std::string_view cp1252) {
+  std::string uit(cp1252);
+  std::transform(uit.begin(), uit.end(), uit.begin(), NaarKlein);
+  return uit;
+}
+
+std::string InHoofdletters(std::string_view cp1252) {
+  std::string uit(cp1252);
+  std::transform(uit.begin(), uit.end(), uit.begin(), NaarGroot);
+  return uit;
+}
 
 std::string_view TrimRechts(std::string_view tekst) {
   while (!tekst.empty() && IsLeeg(tekst.back())) tekst.remove_suffix(1);

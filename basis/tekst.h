@@ -45,6 +45,12 @@ class Tekst {
   std::array<char, N> tekens_{};
 };
 
+/// A character of the code page as a small letter or as a capital; what has no other form stays as it is.
+[[nodiscard]] char NaarKlein(char c);
+[[nodiscard]] char NaarGroot(char c);
+[[nodiscard]] std::string InKleineLetters(std::string_view cp1252);
+[[nodiscard]] std::string InHoofdletters(std::string_view cp1252);
+
 /// Windows-1252 to UTF-8. The five bytes that the code page leaves undefined (81, 8D, 8F, 90, 9D hexadecimal)
 /// become the control characters of the same number, so that they come back unchanged.
 [[nodiscard]] std::string NaarUtf8(std::string_view cp1252);

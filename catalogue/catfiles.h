@@ -42,6 +42,9 @@ struct Catalogus {
 using ElementCatalogus = Catalogus<CatElementRec>;
 using SpectrumCatalogus = Catalogus<SpectrumRec>;
 
+/// The four catalogues, in the order in which they are loaded.
+enum class CatalogusSoort { Kanaalelementen, Ventilatoren, Luchtkanalen, Plafonds };
+
 /// The four catalogues in the order in which they are loaded.
 struct Catalogi {
   ElementCatalogus CatElementen;  ///< Duct.dat
@@ -49,6 +52,52 @@ struct Catalogi {
   SpectrumCatalogus CatRduct;     ///< Rduct.dat
   SpectrumCatalogus CatRplaf;     ///< Rplaf.dat
 };
+
+/// Does `stap` with the catalogue of a kind.
+template <typename Alle, typename Stap>
+decltype(auto) MetCatalogus(Alle& catalogi, CatalogusSoort soort, Stap stap) {
+  switch (soort) {
+    case CatalogusSoort::Kanaalelementen:
+      return stap(catalogi.CatElementen);
+    case CatalogusSoort::Ventilatoren:
+      return stap(catalogi.CatFans);
+    case CatalogusSoort::Luchtkanalen:
+      return stap(catalogi.CatRduct);
+    default:
+      return stap(catalogi.CatRplaf);
+  }
+}
+
+/// What the two kinds of record have in common: a name and a row of band values.
+[[nodiscard]] inline auto& NaamVan(CatElementRec& rec) {
+  return rec.CatNaam;
+}
+[[nodiscard]] inline const auto& NaamVan(const CatElementRec& rec) {
+  return rec.CatNaam;
+}
+[[nodiscard]] inline auto& NaamVan(SpectrumRec& rec) {
+  return rec.SpecNaam;
+}
+[[nodiscard]] inline const auto& NaamVan(const SpectrumRec& rec) {
+  return rec.SpecNaam;
+}
+[[nodiscard]] inline auto& WaardenVan(CatElementRec& rec) {
+  return rec.CatDemp;
+}
+[[nodiscard]] inline const auto& WaardenVan(const CatElementRec& rec) {
+  return rec.CatDemp;
+}
+[[nodiscard]] inline auto& WaardenVan(SpectrumRec& rec) {
+  return rec.SpecWaarde;
+}
+[[nodiscard]] inline const auto& WaardenVan(const SpectrumRec& rec) {
+  return rec.SpecWaarde;
+}
+
+/// The first record that the user may change, sort and list: behind the built-in ones of Duct.dat.
+[[nodiscard]] constexpr int EersteRecord(CatalogusSoort soort) {
+  return soort == CatalogusSoort::Kanaalelementen ? IngebouwdeElementen + 1 : 1;
+}
 
 /// The catalogue of a file image; what stands behind its last record is ignored. Fout 62 when it ends too
 /// early, Fout 9 when its count is above 500 and it does hold 500 records; a count of 0 or below reads none.

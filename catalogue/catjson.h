@@ -12,8 +12,6 @@
 
 namespace murvane {
 
-enum class CatalogusSoort { Kanaalelementen, Ventilatoren, Luchtkanalen, Plafonds };
-
 /// One catalogue of any of the four kinds.
 struct CatalogusInhoud {
   CatalogusSoort Soort = CatalogusSoort::Kanaalelementen;

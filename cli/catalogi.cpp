@@ -1,6 +1,7 @@
-// The commands catalogus toon and catalogus maak.
+// The commands catalogus toon, catalogus maak, catalogus sorteer and overzicht.
 
 #include <algorithm>
+#include <filesystem>
 #include <optional>
 #include <ostream>
 #include <string_view>
@@ -9,9 +10,16 @@
 #include "basis/bestand.h"
 #include "basis/fout.h"
 #include "basis/stroom.h"
+#include "basis/tekst.h"
 #include "catalogue/catjson.h"
+#include "catalogue/onderhoud.h"
+#include "catalogue/overzicht.h"
 #include "cli/opdrachten.h"
+#include "cli/systeem.h"
 #include "cli/uitvoer.h"
+#include "editor/invoer.h"
+#include "shell/programma.h"
+#include "shell/startup.h"
 
 namespace murvane {
 
@@ -75,6 +83,13 @@ CatalogusInhoud LeesCatalogus(const Keuzes& keuzes) {
   });
 }
 
+void Lees(ElementCatalogus& catalogus, const std::filesystem::path& pad) {
+  catalogus = LeesElementen(pad);
+}
+void Lees(SpectrumCatalogus& catalogus, const std::filesystem::path& pad) {
+  catalogus = LeesSpectra(pad);
+}
+
 CatalogusInhoud LeesCatalogusJson(const std::string& naam) {
   return OverBestand(naam, [&naam] { return CatalogusUitJson(LeesBestand(PadVan(naam))); });
 }
@@ -83,6 +98,44 @@ std::string Bytes(const CatalogusInhoud& catalogus, const std::string& naam) {
   return OverBestand(naam, [&catalogus] {
     return std::visit([](const auto& inhoud) { return CatalogusBytes(inhoud); }, catalogus.Inhoud);
   });
+}
+
+/// Saves a catalogue as the command line says: a longer file keeps its tail.
+void Bewaar(const CatalogusInhoud& catalogus, const Keuzes& keuzes, Kanalen& kanalen) {
+  const std::string uitvoer = *keuzes.Waarde(Optie::UitvoerMaak);
+  if (uitvoer == Standaarduitvoer) {
+    kanalen.uit << Bytes(catalogus, keuzes.Bestanden.front());
+  } else {
+    std::visit([&](const auto& inhoud) { SchrijfCatalogus(inhoud, PadVan(uitvoer)); }, catalogus.Inhoud);
+  }
+}
+
+CatalogusSoort SoortVanWoord(const std::string& woord) {
+  if (const auto soort = SoortVanNaam(woord, "")) return *soort;
+  throw Gebruiksfout("overzicht vraagt kanaalelementen, ventilatoren, luchtkanalen of plafonds, niet \"" +
+                     woord + "\".");
+}
+
+std::filesystem::path CatalogusPad(const Keuzes& keuzes, CatalogusSoort soort) {
+  const auto& data = keuzes.Waarde(Optie::Data);
+  return (data ? PadVan(*data) : StandaardDataMap()) / OnderhoudVan(soort).Bestand;
+}
+
+/// The catalogue of one kind, the others empty.
+Catalogi LeesEen(const std::filesystem::path& pad, CatalogusSoort soort) {
+  Catalogi uit;
+  MetCatalogus(uit, soort, [&pad](auto& catalogus) { Lees(catalogus, pad); });
+  return uit;
+}
+
+std::string DatumVan(const Keuzes& keuzes) {
+  const auto& datum = keuzes.Waarde(Optie::Datum);
+  if (!datum) return std::string(DatumTekst(Vandaag()).Heel());
+  VeldRegel regel{};
+  regel.Soort = VeldSoort::Datum;
+  if (!ValiDate(*datum, regel, {}, '.').Geldig)
+    throw Gebruiksfout("--datum vraagt een bestaande datum als dd-mm-jjjj, niet \"" + *datum + "\".");
+  return *datum;
 }
 
 }  // namespace
@@ -96,13 +149,32 @@ int VoerCatalogusToon(const Keuzes& keuzes, Kanalen& kanalen) {
 
 int VoerCatalogusMaak(const Keuzes& keuzes, Kanalen& kanalen) {
   const std::string& naam = keuzes.Bestanden.front();
-  const std::string uitvoer = *keuzes.Waarde(Optie::UitvoerMaak);
-  WeigerOverschrijven(naam, uitvoer);
-  const CatalogusInhoud catalogus = LeesCatalogusJson(naam);
-  if (uitvoer == Standaarduitvoer) {
-    kanalen.uit << Bytes(catalogus, naam);
+  WeigerOverschrijven(naam, *keuzes.Waarde(Optie::UitvoerMaak));
+  Bewaar(LeesCatalogusJson(naam), keuzes, kanalen);
+  return status::Klaar;
+}
+
+int VoerCatalogusSorteer(const Keuzes& keuzes, Kanalen& kanalen) {
+  CatalogusInhoud catalogus = LeesCatalogus(keuzes);
+  std::visit([](auto& inhoud) { Sorteren(inhoud); }, catalogus.Inhoud);
+  Bewaar(catalogus, keuzes, kanalen);
+  return status::Klaar;
+}
+
+int VoerOverzicht(const Keuzes& keuzes, Kanalen& kanalen) {
+  const CatalogusSoort soort = SoortVanWoord(keuzes.Bestanden.front());
+  const std::string datum = DatumVan(keuzes);
+  const std::filesystem::path pad = CatalogusPad(keuzes, soort);
+  const auto& uitvoer = keuzes.Waarde(Optie::UitvoerToon);
+  if (uitvoer) WeigerOverschrijven(PadTekst(pad), *uitvoer);
+  const auto& zoek = keuzes.Waarde(Optie::Zoek);
+  const std::string bytes = OverzichtBytes(
+      Overzicht(LeesEen(pad, soort), soort, zoek ? OverzichtWijze::Zoeken : OverzichtWijze::Alles,
+                zoek ? NaarCp1252(*zoek) : std::string(ZoekAlles), datum, Decimaalteken(keuzes)));
+  if (uitvoer) {
+    SchrijfNaar(*uitvoer, bytes, kanalen);
   } else {
-    std::visit([&](const auto& inhoud) { SchrijfCatalogus(inhoud, PadVan(uitvoer)); }, catalogus.Inhoud);
+    kanalen.uit << NaarUtf8(bytes);
   }
   return status::Klaar;
 }

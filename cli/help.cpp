@@ -55,10 +55,10 @@ std::string OptieNaam(const OptieRegel& optie) {
 }
 
 std::string Gebruik(const OpdrachtRegel& regel) {
-  std::string uit = "Gebruik: " + std::string(Programmanaam(regel.Code)) + " ";
-  if (regel.Code == Opdracht::Programma) return uit + "OPDRACHT [OPTIES]\n\n";
-  if (!regel.Naam.empty()) uit.append(regel.Naam).append(" ");
-  uit += regel.Argument;
+  std::string uit = "Gebruik: " + std::string(Programmanaam(regel.Code));
+  if (regel.Code == Opdracht::Programma) return uit + " OPDRACHT [OPTIES]\n\n";
+  if (!regel.Naam.empty()) uit.append(" ").append(regel.Naam);
+  if (!regel.Argument.empty()) uit.append(" ").append(regel.Argument);
   if (regel.Meer) uit += "...";
   for (const OptieRegel& optie : Opties)
     if (Kent(optie, regel.Code) && optie.Verplicht) uit += " " + OptieNaam(optie);

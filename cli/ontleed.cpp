@@ -94,12 +94,26 @@ void NeemWaarden(Keuzes& keuzes, const CliOpties& opties) {
   }
 }
 
+/// "toon of maak": the second words of the commands of two words that start with this one.
+std::string Vervolgwoorden(const std::string& eerste) {
+  std::vector<std::string_view> woorden;
+  for (const OpdrachtRegel& regel : Opdrachten)
+    if (regel.Naam.starts_with(eerste + " ")) woorden.push_back(regel.Naam.substr(eerste.size() + 1));
+  std::string uit;
+  for (std::size_t i = 0; i < woorden.size(); ++i) {
+    if (i > 0) uit += i + 1 == woorden.size() ? " of " : ", ";
+    uit += woorden[i];
+  }
+  return uit;
+}
+
 /// A command line whose command is not known: whatever else it holds can only mislead.
 [[noreturn]] void MeldOpdracht(const std::vector<std::string>& rest) {
   const auto woord = std::find_if_not(rest.begin(), rest.end(), IsOptie);
   if (woord == rest.end())
     throw Gebruiksfout(rest.empty() ? "Geen opdracht opgegeven." : "Onbekende optie: " + rest[0]);
-  if (*woord == "catalogus") throw Gebruiksfout("Achter catalogus hoort toon of maak.");
+  const std::string vervolg = Vervolgwoorden(*woord);
+  if (!vervolg.empty()) throw Gebruiksfout("Achter " + *woord + " hoort " + vervolg + ".");
   throw Gebruiksfout("Onbekende opdracht: " + *woord);
 }
 
@@ -133,24 +147,36 @@ void ControleerAanwezig(const Keuzes& keuzes) {
 void ControleerBestanden(const Keuzes& keuzes) {
   const OpdrachtRegel& regel = RegelVan(keuzes.Wat);
   const std::vector<std::string>& bestanden = keuzes.Bestanden;
-  if (bestanden.empty()) throw Gebruiksfout(std::string(regel.Argument) + " ontbreekt.");
-  if (!regel.Meer && bestanden.size() > 1) throw Gebruiksfout("Onverwacht argument: " + bestanden[1]);
+  const std::size_t minst = regel.Argument.empty() ? 0 : 1;
+  if (bestanden.size() < minst) throw Gebruiksfout(std::string(regel.Argument) + " ontbreekt.");
+  if (!regel.Meer && bestanden.size() > minst) throw Gebruiksfout("Onverwacht argument: " + bestanden[minst]);
   if (std::find(bestanden.begin(), bestanden.end(), "") != bestanden.end())
     throw Gebruiksfout("Een bestandsnaam is leeg.");
 }
 
+/// "a, b of c"
+std::string Opsomming(const std::vector<std::string_view>& woorden) {
+  std::string uit;
+  for (std::size_t i = 0; i < woorden.size(); ++i) {
+    if (i > 0) uit += i + 1 == woorden.size() ? " of " : ", ";
+    uit += woorden[i];
+  }
+  return uit;
+}
+
 void ControleerWaarden(const Keuzes& keuzes) {
-  const auto eis = [&keuzes](Optie optie, std::initializer_list<std::string_view> mag, const char* vraagt) {
-    const auto& waarde = keuzes.Waarde(optie);
-    if (waarde && std::find(mag.begin(), mag.end(), *waarde) == mag.end())
-      throw Gebruiksfout(std::string(EersteNaam(RegelVan(optie))) + " vraagt " + vraagt + ", niet \"" +
-                         *waarde + "\".");
+  const auto weiger = [&keuzes](const OptieRegel& optie, const std::string& vraagt) {
+    throw Gebruiksfout(std::string(EersteNaam(optie)) + " vraagt " + vraagt + ", niet \"" +
+                       *keuzes.Waarde(optie.Code) + "\".");
   };
-  eis(Optie::Decimaal, {"punt", "komma"}, "punt of komma");
-  eis(Optie::Soort, {"kanaalelementen", "ventilatoren", "luchtkanalen", "plafonds"},
-      "kanaalelementen, ventilatoren, luchtkanalen of plafonds");
-  eis(Optie::Grafiek, {"1m", "galmveld", "geen"}, "1m, galmveld of geen");
-  if (keuzes.Heeft(Optie::Taken) && keuzes.Taken() == 0) eis(Optie::Taken, {}, "een geheel getal vanaf 1");
+  for (const OptieRegel& optie : Opties) {
+    const std::vector<std::string_view> mag = Delen(optie.Waarden, '|');
+    const auto& waarde = keuzes.Waarde(optie.Code);
+    if (waarde && !mag.empty() && std::find(mag.begin(), mag.end(), *waarde) == mag.end())
+      weiger(optie, Opsomming(mag));
+  }
+  if (keuzes.Heeft(Optie::Taken) && keuzes.Taken() == 0)
+    weiger(RegelVan(Optie::Taken), "een geheel getal vanaf 1");
 }
 
 }  // namespace

@@ -28,6 +28,20 @@ int Voer(const Keuzes& keuzes, Kanalen& kanalen) {
       return VoerCatalogusToon(keuzes, kanalen);
     case Opdracht::CatalogusMaak:
       return VoerCatalogusMaak(keuzes, kanalen);
+    case Opdracht::CatalogusSorteer:
+      return VoerCatalogusSorteer(keuzes, kanalen);
+    case Opdracht::Overzicht:
+      return VoerOverzicht(keuzes, kanalen);
+    case Opdracht::SchatBekleed:
+      return VoerSchat(keuzes, Schatter::Bekleed, kanalen);
+    case Opdracht::SchatKwartLambda:
+      return VoerSchat(keuzes, Schatter::KwartLambda, kanalen);
+    case Opdracht::SchatPlenum:
+      return VoerSchat(keuzes, Schatter::Plenum, kanalen);
+    case Opdracht::SchatKanaalwand:
+      return VoerSchat(keuzes, Schatter::Kanaalwand, kanalen);
+    case Opdracht::SchatVentilator:
+      return VoerSchatVentilator(keuzes, kanalen);
   }
   return status::Klaar;
 }

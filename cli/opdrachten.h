@@ -9,6 +9,7 @@
 
 #include "cli/ontleed.h"
 #include "cli/uitslag.h"
+#include "estimators/schatters.h"
 
 namespace murvane {
 
@@ -31,6 +32,10 @@ using Uitvoerder = std::function<int(const Keuzes& keuzes, Kanalen& kanalen)>;
 [[nodiscard]] int VoerMaak(const Keuzes& keuzes, Kanalen& kanalen);
 [[nodiscard]] int VoerCatalogusToon(const Keuzes& keuzes, Kanalen& kanalen);
 [[nodiscard]] int VoerCatalogusMaak(const Keuzes& keuzes, Kanalen& kanalen);
+[[nodiscard]] int VoerCatalogusSorteer(const Keuzes& keuzes, Kanalen& kanalen);
+[[nodiscard]] int VoerOverzicht(const Keuzes& keuzes, Kanalen& kanalen);
+[[nodiscard]] int VoerSchat(const Keuzes& keuzes, Schatter soort, Kanalen& kanalen);
+[[nodiscard]] int VoerSchatVentilator(const Keuzes& keuzes, Kanalen& kanalen);
 
 /// The decimal sign: --decimaal, else that of the regional setting.
 [[nodiscard]] char Decimaalteken(const Keuzes& keuzes);

@@ -1,14 +1,16 @@
 #pragma once
 // cli/: the command-line programs, without a toolkit. murvane-cli is a main function around the commands in
 // opdrachten.h, which tests call in-process.
-// This header: every command and option in one table. It feeds the parser and the help texts. Texts are
-// UTF-8.
+// This header: every command and option in one table. It feeds the parser, the help texts, the manual page
+// and the completion of the shells. Texts are UTF-8.
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <initializer_list>
 #include <string_view>
+#include <vector>
 
 namespace murvane {
 
@@ -22,6 +24,13 @@ enum class Opdracht : std::uint8_t {
   Maak,
   CatalogusToon,
   CatalogusMaak,
+  CatalogusSorteer,
+  Overzicht,
+  SchatBekleed,
+  SchatKwartLambda,
+  SchatPlenum,
+  SchatKanaalwand,
+  SchatVentilator,
   Druk
 };
 
@@ -61,6 +70,39 @@ inline constexpr std::array Opdrachten = {
                   "maakt een catalogus uit JSON",
                   "Maakt een catalogusbestand uit JSON. De soort volgt uit de lijst in de JSON."},
     OpdrachtRegel{
+        Opdracht::CatalogusSorteer, "catalogus sorteer", "BESTAND.dat", false,
+        "sorteert een catalogus op naam",
+        "Sorteert een catalogus op naam, zoals het venster ervan dat doet, en bewaart haar onder de "
+        "naam achter -o, die dezelfde mag zijn. De elf ingebouwde kanaalelementen blijven op hun "
+        "plaats. De soort volgt als bij catalogus toon."},
+    OpdrachtRegel{Opdracht::Overzicht, "overzicht", "SOORT", false, "toont het overzicht van een catalogus",
+                  "Toont het overzicht van een catalogus; SOORT is kanaalelementen, ventilatoren, "
+                  "luchtkanalen of plafonds. Met -o komen de bytes van het bewaarde overzicht (Windows-1252) "
+                  "in het bestand."},
+    OpdrachtRegel{Opdracht::SchatBekleed, "schat bekleed", "", false,
+                  "schat de demping van een bekleed kanaal",
+                  "Schat de demping van een kanaal met geluidsabsorberende bekleding. "
+                  "De omschrijving en de zeven octaafbanden verschijnen elk op een regel. Een optie die "
+                  "ontbreekt, is 0."},
+    OpdrachtRegel{Opdracht::SchatKwartLambda, "schat kwartlambda", "", false,
+                  "schat de demping van een kwartlambda-demper",
+                  "Schat de demping van een kwartlambda-demper: een verwijding in een kanaal. "
+                  "De omschrijving en de zeven octaafbanden verschijnen elk op een regel. Een optie die "
+                  "ontbreekt, is 0."},
+    OpdrachtRegel{Opdracht::SchatPlenum, "schat plenum", "", false, "schat de demping van een plenumdemper",
+                  "Schat de demping van een bekleed plenum waarin een kanaal uitkomt. "
+                  "De omschrijving en de zeven octaafbanden verschijnen elk op een regel. Een optie die "
+                  "ontbreekt, is 0."},
+    OpdrachtRegel{Opdracht::SchatKanaalwand, "schat kanaalwand", "", false,
+                  "schat de geluidsisolatie van een kanaalwand",
+                  "Schat de geluidsisolatie van een kanaalwand met de massawet. "
+                  "De omschrijving en de zeven octaafbanden verschijnen elk op een regel. Een optie die "
+                  "ontbreekt, is 0."},
+    OpdrachtRegel{Opdracht::SchatVentilator, "schat ventilator", "", false,
+                  "schat het geluidsvermogen van een ventilator",
+                  "Schat het geluidsvermogen van een ventilator. De naam, de zeven octaafbanden en het "
+                  "niveau in dB(A) verschijnen elk op een regel. Een optie die ontbreekt, is 0."},
+    OpdrachtRegel{
         Opdracht::Druk, "", "PROJECT.mrv", false, "",
         "Controleert en berekent een project en zet het berekeningsformulier in een PDF-bestand, met "
         "lettertype en stijlen van murvane.set."},
@@ -74,6 +116,24 @@ enum class Optie : std::uint8_t {
   UitvoerToon,
   UitvoerMaak,
   Soort,
+  Zoek,
+  Datum,
+  H,
+  B,
+  DikteBekleding,
+  L,
+  S2,
+  Hdemper,
+  Bdemper,
+  KanaalType,
+  DikteWand,
+  Massa,
+  FanType,
+  FanDebiet,
+  FanDruk,
+  FanToeren,
+  FanSchoepen,
+  FanVermogen,
   Data,
   Decimaal,
   Versie,
@@ -84,14 +144,14 @@ enum class Optie : std::uint8_t {
 };
 
 /// The commands that know an option, a bit for each.
-using Opdrachtenset = std::uint8_t;
+using Opdrachtenset = std::uint32_t;
 
 constexpr Opdrachtenset Bij(std::initializer_list<Opdracht> opdrachten) {
-  unsigned uit = 0;
+  Opdrachtenset uit = 0;
   for (const Opdracht opdracht : opdrachten) uit |= 1U << static_cast<unsigned>(opdracht);
-  return static_cast<Opdrachtenset>(uit);
+  return uit;
 }
-inline constexpr Opdrachtenset BijAlle = 0xFF;
+inline constexpr Opdrachtenset BijAlle = ~Opdrachtenset{0};
 
 struct OptieRegel {
   Optie Code;
@@ -100,6 +160,7 @@ struct OptieRegel {
   std::string_view Argument;  ///< what its value is called; empty for an option without one
   bool Verplicht;
   std::string_view Uitleg;
+  std::string_view Waarden = {};  ///< the values it may have, separated by "|"; empty for any
 };
 
 /// In the order of Optie.
@@ -112,18 +173,54 @@ inline constexpr std::array Opties = {
                "schrijft van elk project NAAM.prn en NAAM.json in deze map, die zo nodig wordt gemaakt"},
     OptieRegel{Optie::Taken, Bij({Opdracht::Reken}), "--taken", "AANTAL", false,
                "rekent met --uit aan zoveel projecten tegelijk; zonder deze optie met alle processorkernen"},
-    OptieRegel{Optie::UitvoerToon, Bij({Opdracht::Toon, Opdracht::CatalogusToon}), "-o", "BESTAND", false,
-               "schrijft naar dit bestand in plaats van naar de standaarduitvoer"},
-    OptieRegel{Optie::UitvoerMaak, Bij({Opdracht::Maak, Opdracht::CatalogusMaak}), "-o", "BESTAND", true,
-               "het bestand dat wordt geschreven; een - is de standaarduitvoer"},
-    OptieRegel{Optie::Soort, Bij({Opdracht::CatalogusToon}), "--soort", "SOORT", false,
-               "kanaalelementen, ventilatoren, luchtkanalen of plafonds; gaat voor de bestandsnaam"},
+    OptieRegel{Optie::UitvoerToon, Bij({Opdracht::Toon, Opdracht::CatalogusToon, Opdracht::Overzicht}), "-o",
+               "BESTAND", false, "schrijft naar dit bestand in plaats van naar de standaarduitvoer"},
+    OptieRegel{Optie::UitvoerMaak, Bij({Opdracht::Maak, Opdracht::CatalogusMaak, Opdracht::CatalogusSorteer}),
+               "-o", "BESTAND", true, "het bestand dat wordt geschreven; een - is de standaarduitvoer"},
+    OptieRegel{Optie::Soort, Bij({Opdracht::CatalogusToon, Opdracht::CatalogusSorteer}), "--soort", "SOORT",
+               false, "kanaalelementen, ventilatoren, luchtkanalen of plafonds; gaat voor de bestandsnaam",
+               "kanaalelementen|ventilatoren|luchtkanalen|plafonds"},
+    OptieRegel{Optie::Zoek, Bij({Opdracht::Overzicht}), "--zoek", "TEKST", false,
+               "alleen wat deze tekst in zijn naam heeft, in hoofdletters of kleine letters"},
+    OptieRegel{Optie::Datum, Bij({Opdracht::Overzicht}), "--datum", "DD-MM-JJJJ", false,
+               "de datum op het overzicht; zonder deze optie die van vandaag"},
+    OptieRegel{Optie::H, Bij({Opdracht::SchatBekleed, Opdracht::SchatKwartLambda, Opdracht::SchatPlenum}),
+               "--h", "MM", false, "hoogte van het kanaal, of de diameter als het rond is"},
+    OptieRegel{Optie::B, Bij({Opdracht::SchatBekleed, Opdracht::SchatKwartLambda, Opdracht::SchatPlenum}),
+               "--B", "MM", false, "breedte van het kanaal; 0 is een rond kanaal"},
+    OptieRegel{Optie::DikteBekleding, Bij({Opdracht::SchatBekleed, Opdracht::SchatPlenum}), "--Dikte", "MM",
+               false, "dikte van het bekledingsmateriaal"},
+    OptieRegel{Optie::L, Bij({Opdracht::SchatBekleed, Opdracht::SchatKwartLambda, Opdracht::SchatPlenum}),
+               "--L", "M", false, "lengte van het kanaal of de demper"},
+    OptieRegel{Optie::S2, Bij({Opdracht::SchatKwartLambda}), "--S2", "M2", false, "doorsnede van de demper"},
+    OptieRegel{Optie::Hdemper, Bij({Opdracht::SchatPlenum}), "--Hdemper", "MM", false,
+               "hoogte van de plenumdemper"},
+    OptieRegel{Optie::Bdemper, Bij({Opdracht::SchatPlenum}), "--Bdemper", "MM", false,
+               "breedte van de plenumdemper"},
+    OptieRegel{Optie::KanaalType, Bij({Opdracht::SchatKanaalwand}), "--KanaalType", "TYPE", false,
+               "1 verzinkt staal, 2 rvs staal, 3 aluminium, 4 kunststof; elk ander getal telt als 1"},
+    OptieRegel{Optie::DikteWand, Bij({Opdracht::SchatKanaalwand}), "--Dikte", "MM", false,
+               "dikte van de kanaalwand"},
+    OptieRegel{Optie::Massa, Bij({Opdracht::SchatKanaalwand}), "--Massa", "KG", false,
+               "massa van de ontdreuning per m²"},
+    OptieRegel{Optie::FanType, Bij({Opdracht::SchatVentilator}), "--FanType", "TYPE", false,
+               "1 axiaal, 2 centrifugaal voorwaarts, 3 centrifugaal achterwaarts"},
+    OptieRegel{Optie::FanDebiet, Bij({Opdracht::SchatVentilator}), "--FanDebiet", "M3/S", false,
+               "luchtdebiet"},
+    OptieRegel{Optie::FanDruk, Bij({Opdracht::SchatVentilator}), "--FanDruk", "PA", false, "totale druk"},
+    OptieRegel{Optie::FanToeren, Bij({Opdracht::SchatVentilator}), "--FanToeren", "AANTAL", false,
+               "toerental per minuut"},
+    OptieRegel{Optie::FanSchoepen, Bij({Opdracht::SchatVentilator}), "--FanSchoepen", "AANTAL", false,
+               "aantal schoepen"},
+    OptieRegel{Optie::FanVermogen, Bij({Opdracht::SchatVentilator}), "--FanVermogen", "W", false,
+               "asvermogen; bij 0 wordt het berekend met een rendement van 70 %"},
     OptieRegel{Optie::Data, BijAlle, "--data", "MAP", false,
                "de map van murvane.set; zonder deze optie de huidige map als die er een heeft, anders de map "
                "data van "
                "het programma"},
     OptieRegel{Optie::Decimaal, BijAlle, "--decimaal", "punt|komma", false,
-               "het decimaalteken in rapporten; zonder deze optie dat van de landinstelling"},
+               "het decimaalteken in rapporten en schattingen; zonder deze optie dat van de landinstelling",
+               "punt|komma"},
     OptieRegel{Optie::Versie, BijAlle, "--versie,--version", "", false, "toont de versie van het programma"},
     OptieRegel{Optie::Help, BijAlle, "-h,--help", "", false, "toont deze hulp"},
     OptieRegel{Optie::Pdf, Bij({Opdracht::Druk}), "--pdf", "BESTAND", true,
@@ -132,7 +229,7 @@ inline constexpr std::array Opties = {
         Optie::Bmp, Bij({Opdracht::Druk}), "--bmp", "BESTAND.bmp", false,
         "schrijft ook de eerste vijf pagina's als bitmap, met het paginanummer voor de punt: BESTAND1.bmp"},
     OptieRegel{Optie::Grafiek, Bij({Opdracht::Druk}), "--grafiek", "1m|galmveld|geen", false,
-               "de grafiek onder het formulier; zonder deze optie geen"},
+               "de grafiek onder het formulier; zonder deze optie geen", "1m|galmveld|geen"},
 };
 
 inline constexpr std::size_t AantalOpties = Opties.size();
@@ -158,15 +255,21 @@ constexpr std::string_view EersteNaam(const OptieRegel& optie) {
   return optie.Namen.substr(0, optie.Namen.find(','));
 }
 
-/// Whether `naam` is one of an option's names.
-constexpr bool Heet(const OptieRegel& optie, std::string_view naam) {
-  std::string_view rest = optie.Namen;
-  while (!rest.empty()) {
-    const std::size_t komma = rest.find(',');
-    if (rest.substr(0, komma) == naam) return true;
-    rest = komma == std::string_view::npos ? std::string_view() : rest.substr(komma + 1);
+/// The parts of a text between the signs `teken`; none of an empty text.
+inline std::vector<std::string_view> Delen(std::string_view tekst, char teken) {
+  std::vector<std::string_view> uit;
+  while (!tekst.empty()) {
+    const std::size_t einde = tekst.find(teken);
+    uit.push_back(tekst.substr(0, einde));
+    tekst = einde == std::string_view::npos ? std::string_view() : tekst.substr(einde + 1);
   }
-  return false;
+  return uit;
+}
+
+/// Whether `naam` is one of an option's names.
+inline bool Heet(const OptieRegel& optie, std::string_view naam) {
+  const std::vector<std::string_view> namen = Delen(optie.Namen, ',');
+  return std::find(namen.begin(), namen.end(), naam) != namen.end();
 }
 
 }  // namespace murvane

@@ -18,7 +18,29 @@
 #include <csignal>
 #endif
 
+#include <ctime>
+
 namespace murvane {
+
+namespace {
+
+std::tm Kalender(std::time_t tijd) {
+  std::tm uit{};
+#ifdef _WIN32
+  localtime_s(&uit, &tijd);
+#else
+  ::localtime_r(&tijd, &uit);
+#endif
+  return uit;
+}
+
+}  // namespace
+
+std::chrono::year_month_day Vandaag() {
+  const std::tm nu = Kalender(std::time(nullptr));
+  return {std::chrono::year(nu.tm_year + 1900), std::chrono::month(static_cast<unsigned>(nu.tm_mon + 1)),
+          std::chrono::day(static_cast<unsigned>(nu.tm_mday))};
+}
 
 #ifdef _WIN32
 

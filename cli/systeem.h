@@ -1,6 +1,7 @@
 #pragma once
 // What the main function needs of the operating system.
 
+#include <chrono>
 #include <string>
 #include <vector>
 
@@ -12,6 +13,9 @@ namespace murvane {
 /// Makes standard output and error fit to write to: bytes as they are, UTF-8, and never a file that was
 /// opened later where they had been closed. A limit on the size of files becomes a fault of the write.
 void BereidUitvoerVoor();
+
+/// The date of the system's clock in its time zone.
+[[nodiscard]] std::chrono::year_month_day Vandaag();
 
 /// Whether standard error is a terminal.
 [[nodiscard]] bool FoutuitvoerIsTerminal();

@@ -7,6 +7,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "editor/melding.h"
 
@@ -39,7 +40,9 @@ class Vlak;
 
 /// The print dialog: no choice of pages and no selection.
 struct AfdrukVraag {
-  bool NaarBestandMogelijk = true;  ///< offers to print to a file
+  bool NaarBestandMogelijk = true;                     ///< offers to print to a file
+  bool Liggend = false;                                ///< lays the sheets on their long side
+  std::string_view Document = "Berekeningsformulier";  ///< what the printer's queue calls it
 
   friend bool operator==(const AfdrukVraag&, const AfdrukVraag&) = default;
 };

@@ -44,6 +44,20 @@ const TypeRegel& RegelVan(std::int16_t type) {
   return regel == TypeRegels.end() ? ZonderPagina : *regel;
 }
 
+constexpr auto Rond = std::to_array<std::int16_t>(
+    {elementtype::AftakRond, elementtype::BochtRond, elementtype::DrsneeRond, elementtype::KanaalRond});
+
+struct Maat {
+  std::string_view Veld, Hoogte, Diameter;
+};
+
+constexpr auto MaatOpschriften = std::to_array<Maat>({
+    {"txtHoogte", "Hoogte", "Diameter"},
+    {"txtHAftak", "Hoogte aftakking", "Diameter aftakking"},
+    {"txtH1Doorsnee", "Hoogte intrede", "Diameter intrede"},
+    {"txtH2Doorsnee", "Hoogte uittrede", "Diameter uittrede"},
+});
+
 constexpr auto KanaalVelden = std::to_array<VeldId>(
     {{"txtHoogte"}, {"txtBreedte"}, {"txtLengte"}, {"txtDebiet"}, {"txtdemp", 0}, {"cmbKanaal"}});
 constexpr auto AftakVelden = std::to_array<VeldId>({{"txtHAftak"},
@@ -156,6 +170,14 @@ std::string_view EersteFocus(std::int16_t elementType) {
 std::vector<VeldId> PaginaVelden(Pagina pagina) {
   const auto velden = VeldenVan(pagina);
   return {velden.begin(), velden.end()};
+}
+
+std::string_view MaatOpschrift(std::int16_t elementType, std::string_view veld) {
+  const auto* const maat = std::find_if(MaatOpschriften.begin(), MaatOpschriften.end(),
+                                        [veld](const Maat& een) { return een.Veld == veld; });
+  if (maat == MaatOpschriften.end()) return {};
+  const bool rond = std::find(Rond.begin(), Rond.end(), elementType) != Rond.end();
+  return rond ? maat->Diameter : maat->Hoogte;
 }
 
 bool ElementVeldZichtbaar(const Project& project, int n, VeldId veld) {

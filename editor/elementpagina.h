@@ -30,6 +30,10 @@ enum class Pagina { Geen = -1, Kanaal = 0, Aftakking = 1, Doorsnee = 2, Weerstan
 /// show takes its labels with it. Fout 9 for an n outside 0 to 500.
 [[nodiscard]] bool ElementVeldZichtbaar(const Project& project, int n, VeldId veld);
 
+/// The caption of a height for an element type: what is round has a diameter. Empty for any other field, and
+/// for the ducts of a branch whose width field tells their shape. Windows-1252.
+[[nodiscard]] std::string_view MaatOpschrift(std::int16_t elementType, std::string_view veld);
+
 struct VeldStand {
   VeldId Veld;
   bool Zichtbaar;

@@ -72,6 +72,8 @@ void KleurLijst(Lijstvak& vak, bool actief) {
   if (actief) return ZetAchtergrond(vak, ActieveKleur);
   palet.setColor(QPalette::Base, palet.color(QPalette::Button));
   palet.setColor(QPalette::Text, palet.color(QPalette::ButtonText));
+  palet.setColor(QPalette::Highlight, palet.color(QPalette::Mid));  // its row is not what the buttons act on
+  palet.setColor(QPalette::HighlightedText, palet.color(QPalette::ButtonText));
   vak.setPalette(palet);
 }
 
@@ -105,6 +107,7 @@ void frmMurvane::ToonProject(bool isNieuwOfGeopend) {
   ToonType();
   ToonLijsten();
   if (MonthView != nullptr) MonthView->hide();
+  leeg_->hide();
   SSTab1->show();
   if (isNieuwOfGeopend) {
     laatsteFan_ = 0;  // a fan of the list that was chosen for another project
@@ -117,10 +120,11 @@ void frmMurvane::ToonProject(bool isNieuwOfGeopend) {
 void frmMurvane::ToonGeenProject() {
   const QScopedValueRollback<bool> vult(vult_, true);
   SSTab1->hide();
+  leeg_->show();
   ProgressBar1->hide();
   if (SSTab1->count() > 0) {
-    SSTab2->hide();
-    tekening_->hide();
+    ToonLijsten();
+    lblElement->clear();
     lblLwA->clear();
   }
   if (MonthView != nullptr) MonthView->hide();
@@ -150,18 +154,20 @@ void frmMurvane::VulLijsten(const VensterBeeld& beeld) {
   cmbRplafond->ZetTekst(VanCp(beeld.RplafondTekst));
 }
 
-void frmMurvane::VulCatalogi() {
+void frmMurvane::VulElementen() {
   BouwTabs();
   const QScopedValueRollback<bool> vult(vult_, true);
-  const VensterBeeld beeld = TabSettings(project_, catalogi_, decimaal_);
   lstTotaalGevuld(lijst_);
-  lstFan->ZetRijen(Rijen(beeld.lstFan));
-  lstTotaal->ZetRijen(Rijen(beeld.lstTotaal));
-  cmbKanaal->ZetRijen(Rijen(beeld.cmbKanaal));
-  cmbRkanaal->ZetRijen(Rijen(beeld.cmbRkanaal));
-  cmbRplafond->ZetRijen(Rijen(beeld.cmbRplafond));
+  lstTotaal->ZetRijen(Rijen(RijenTotaal(catalogi_.CatElementen)));
   ToonLijsten();
   emit ToestandGewijzigd();
+}
+
+void frmMurvane::VulFans() {
+  BouwTabs();
+  const QScopedValueRollback<bool> vult(vult_, true);
+  laatsteFan_ = 0;  // the row that was chosen last may hold another fan now
+  lstFan->ZetRijen(Rijen(CatalogusRijen(catalogi_.CatFans)));
 }
 
 void frmMurvane::ToonFan(const FanZicht& zicht) {
@@ -207,7 +213,9 @@ void frmMurvane::ToonLijsten() {
     knoppen_[i]->setEnabled(KnopAan(Toolbarknoppen[i], lijst_));
   if (lijst_.SSTab2) return;
   SSTab2->hide();
-  tekening_->hide();
+  lblElement->clear();
+  tekening_->ZetType(lijst_.CatalogusPositie > 0 ? TypeVanRecord(lijst_.CatalogusPositie) : std::int16_t{0});
+  tekening_->Belicht({});
 }
 
 void frmMurvane::ZetZichtbaar(VeldId veld, bool zichtbaar) {
@@ -410,7 +418,8 @@ void frmMurvane::Open(int n) {
     for (const VeldStand& stand : opening.Beeld.Stand) ZetZichtbaar(stand.Veld, stand.Zichtbaar);
     if (opening.SSTab2Zichtbaar) SSTab2->setCurrentIndex(static_cast<int>(opening.Beeld.OpPagina));
     SSTab2->setVisible(opening.SSTab2Zichtbaar);
-    tekening_->setVisible(opening.SSTab2Zichtbaar);
+    ZetOpschriften(project_.Elementen[static_cast<std::size_t>(n)].ElementType);
+    lblElement->setText(VanCp(TrimRechts(RijProject(project_, n))));
     tekening_->ZetType(project_.Elementen[static_cast<std::size_t>(n)].ElementType);
     tekening_->Belicht({});
   }
@@ -528,14 +537,12 @@ void frmMurvane::MonthView_DateClick(const QDate& datum) {
 
 void frmMurvane::KiesType(std::int16_t rekenType) {
   if (!BewaarVeld()) return;
-  Veilig(std::string(TypeVan(rekenType).Menu) + "_Click", [&] {
-    BouwTabs();
-    VoerUit(KiesRekenType(sessie_, project_, rekenType));
-    ToonType();
-    SSTab1->setCurrentIndex(static_cast<int>(StartPagina));
-    VoerUit(VrVldSet(project_));
-    VormPagina();
-  });
+  BouwTabs();
+  VoerUit(KiesRekenType(sessie_, project_, rekenType));
+  ToonType();
+  SSTab1->setCurrentIndex(static_cast<int>(StartPagina));
+  VoerUit(VrVldSet(project_));
+  VormPagina();
 }
 
 ProjectInvoer frmMurvane::LeesInvoer() const {

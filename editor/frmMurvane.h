@@ -63,8 +63,9 @@ class frmMurvane : public QWidget {
   /// the user has to look.
   [[nodiscard]] bool NeemOverEnBeoordeel();
   void KiesType(std::int16_t rekenType);
-  /// Shows the catalogues' rows again.
-  void VulCatalogi();
+  /// Shows the rows of a catalogue again, after its maintenance. No row is selected then.
+  void VulElementen();
+  void VulFans();
   /// The progress bar; a `totaal` of 0 hides it.
   void ZetVoortgang(int van, int totaal);
 
@@ -101,6 +102,7 @@ class frmMurvane : public QWidget {
   void BouwKalender();
   InvoerVeld* VoegVeld(QGridLayout* indeling, int rij, VeldId veld, const QString& tekst,
                        const QString& eenheid, const char* labels, int kolom = 0);
+  void ZetOpschriften(std::int16_t elementType);
   BandRij* VoegBanden(std::string_view naam, int eerste, const QString& tekst);
   QLabel* MaakLabel(const QString& tekst, const char* reeks, QWidget* buddy);
   QLabel* BandLabel(const QString& tekst, const char* reeks, const BandRij* rij);
@@ -190,6 +192,9 @@ class frmMurvane : public QWidget {
   QTabWidget* SSTab1 = nullptr;
   QStackedWidget* SSTab2 = nullptr;
   Tekening* tekening_ = nullptr;
+  Tekening* ruimteTekening_ = nullptr;
+  Tekening* leeg_ = nullptr;  ///< in the place of SSTab1 while no project is open
+  QLabel* lblElement = nullptr;
   Lijstvak *lstTotaal = nullptr, *lstProject = nullptr, *lstFan = nullptr;
   std::vector<QToolButton*> knoppen_;  ///< in the order of Toolbarknoppen
   QProgressBar* ProgressBar1 = nullptr;

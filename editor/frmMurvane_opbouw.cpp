@@ -29,7 +29,6 @@ namespace {
 
 constexpr int Marge = 12;
 constexpr int Ruimte = 8;
-constexpr int GetalBreedte = 90;
 
 struct KnopTekst {
   std::string_view Sleutel;
@@ -52,11 +51,39 @@ const KnopTekst& TekstVanKnop(std::string_view sleutel) {
   return KnopTeksten.front();
 }
 
+/// Room for the widest number or date that a field takes, in the letters that the user has.
+int GetalBreedte(const QWidget& vak) {
+  return vak.fontMetrics().horizontalAdvance("100000,00") + 30;
+}
+
 QVBoxLayout* Kolom(QWidget* ouder, int marge = Marge) {
   auto* const indeling = new QVBoxLayout(ouder);
   indeling->setContentsMargins(marge, marge, marge, marge);
   indeling->setSpacing(Ruimte);
   return indeling;
+}
+
+/// Room for a caption that is not there yet, so that the fields behind it stay where they are.
+void HoudVrij(QGridLayout* indeling, const QWidget& letters, const char* opschrift) {
+  indeling->setColumnMinimumWidth(0, letters.fontMetrics().horizontalAdvance(opschrift) + Ruimte);
+}
+
+/// The column of a sheet that has less to show than a large screen has room for: it keeps its width for
+/// reading and stands in the middle.
+QVBoxLayout* Blok(QWidget* blad) {
+  auto* const blok = new QWidget(blad);
+  blok->setMaximumSize(175 * blad->fontMetrics().averageCharWidth(), 45 * blad->fontMetrics().lineSpacing());
+  auto* const midden = new QGridLayout(blad);
+  midden->setContentsMargins(Marge, Marge, Marge, Marge);
+  midden->addWidget(blok, 1, 1);
+  for (const int rand : {0, 2}) {
+    midden->setRowStretch(rand, 1);
+    midden->setColumnStretch(rand, 1);
+  }
+  midden->setRowStretch(1, 1000);
+  midden->setColumnStretch(1, 1000);
+  midden->setSpacing(0);
+  return Kolom(blok, 0);
 }
 
 QGridLayout* Rooster(QWidget* ouder, int marge = 0) {
@@ -72,6 +99,7 @@ Knop* MaakKnop(const char* naam, const QString& tekst, QWidget* ouder) {
   auto* const knop = new Knop(tekst, ouder);
   knop->setObjectName(naam);
   knop->setAccessibleName(tekst);
+  if constexpr (std::is_same_v<Knop, QPushButton>) knop->setAutoDefault(true);  // Enter presses it
   return knop;
 }
 
@@ -97,7 +125,10 @@ void frmMurvane::MeldAan(InvoerVeld* veld) {
   connect(veld, &InvoerVeld::Verlaten, this, [this, veld] { Verlaat(*veld); });
   connect(veld, &InvoerVeld::Enter, this, [this, veld] { NaarVolgende(*veld); });
   connect(veld, &InvoerVeld::Escape, this, [this, veld] { Herstel(*veld); });
-  connect(veld, &InvoerVeld::Gekregen, this, [this, veld] { tekening_->Belicht(veld->objectName()); });
+  connect(veld, &InvoerVeld::Gekregen, this, [this, veld] {
+    tekening_->Belicht(veld->objectName());
+    ruimteTekening_->Belicht(veld->objectName());
+  });
 }
 
 InvoerVeld* frmMurvane::VoegVeld(QGridLayout* indeling, int rij, VeldId veld, const QString& tekst,
@@ -110,13 +141,23 @@ InvoerVeld* frmMurvane::VoegVeld(QGridLayout* indeling, int rij, VeldId veld, co
   std::vector<QWidget*>& mee = mee_[{veld.Naam, veld.Index}];
   mee.push_back(label);
   if (vak->alignment() & Qt::AlignRight) {
-    vak->setFixedWidth(GetalBreedte);
+    vak->setFixedWidth(GetalBreedte(*vak));
     QLabel* const achter = MaakLabel(eenheid, labels, vak);
     indeling->addWidget(achter, rij, kolom + 2);
     mee.push_back(achter);
   }
   MeldAan(vak);
   return vak;
+}
+
+/// Says height or diameter, as the shape of the element has it. The unit stays as it was.
+void frmMurvane::ZetOpschriften(std::int16_t elementType) {
+  for (const auto& [sleutel, vak] : velden_) {
+    const QString tekst = VanCp(MaatOpschrift(elementType, sleutel.first));
+    if (tekst.isEmpty()) continue;
+    qobject_cast<QLabel*>(mee_[sleutel].front())->setText(tekst);
+    vak->setAccessibleName(tekst + " in mm");
+  }
 }
 
 BandRij* frmMurvane::VoegBanden(std::string_view naam, int eerste, const QString& tekst) {
@@ -135,7 +176,9 @@ void frmMurvane::BouwOp() {
   SSTab1->setAccessibleName("Invoer van het project");
   SSTab1->tabBar()->installEventFilter(this);
   indeling->addWidget(SSTab1, 1);
-  indeling->addStretch(0);
+  leeg_ = new Tekening(this);
+  leeg_->setObjectName("TekeningLeeg");
+  indeling->addWidget(leeg_, 1);
   ProgressBar1 = new QProgressBar(this);
   ProgressBar1->setObjectName("ProgressBar1");
   ProgressBar1->setAccessibleName("Voortgang van de berekening");
@@ -159,9 +202,9 @@ void frmMurvane::BouwTabs() {
 
 QWidget* frmMurvane::BouwVentilator() {
   auto* const blad = new QWidget(this);
-  auto* const indeling = Kolom(blad);
-  optInvoer = MaakKnop<QRadioButton>("optInvoer", "Ventilator uit de lijst", blad);
-  optPrognose = MaakKnop<QRadioButton>("optPrognose", "Prognose uit de ventilatorgegevens", blad);
+  auto* const indeling = Blok(blad);
+  optInvoer = MaakKnop<Optieknop>("optInvoer", "Ventilator uit de lijst", blad);
+  optPrognose = MaakKnop<Optieknop>("optPrognose", "Prognose uit de ventilatorgegevens", blad);
   auto* const bron = new QHBoxLayout;
   bron->setSpacing(3 * Ruimte);
   bron->addWidget(optInvoer);
@@ -203,9 +246,9 @@ QWidget* frmMurvane::BouwFanPrognose() {
   VoegVeld(indeling, 2, {"txtfan", 2}, "Toerental", "omw/min", "lblfan");
   VoegVeld(indeling, 3, {"txtfan", 3}, "Aantal schoepen", "stuks", "lblfan");
   VoegVeld(indeling, 4, {"txtfan", 4}, "Asvermogen", "W", "lblfan");
-  optAxiaal = MaakKnop<QRadioButton>("optAxiaal", "Axiaal", frameFan);
-  optCentriVoor = MaakKnop<QRadioButton>("optCentriVoor", "Centrifugaal, voorwaarts gebogen", frameFan);
-  optCentriAchter = MaakKnop<QRadioButton>("optCentriAchter", "Centrifugaal, achterwaarts gebogen", frameFan);
+  optAxiaal = MaakKnop<Optieknop>("optAxiaal", "Axiaal", frameFan);
+  optCentriVoor = MaakKnop<Optieknop>("optCentriVoor", "Centrifugaal, voorwaarts gebogen", frameFan);
+  optCentriAchter = MaakKnop<Optieknop>("optCentriAchter", "Centrifugaal, achterwaarts gebogen", frameFan);
   auto* const typen = new QButtonGroup(frameFan);
   int rij = 0;
   for (QRadioButton* const type : {optAxiaal, optCentriVoor, optCentriAchter}) {
@@ -234,7 +277,8 @@ QWidget* frmMurvane::BouwElementen() {
   lstProject = new Lijstvak("lstProject", "Kanaalelementen project", blad);
   lijsten->addWidget(BouwLijst(lstProject, "Kanaalelementen project", "Toolbar2"));
   indeling->addLayout(lijsten, 1);
-  indeling->addWidget(BouwPaginas());
+  indeling->addSpacing(Ruimte);
+  indeling->addWidget(BouwPaginas(), 1);
   return blad;
 }
 
@@ -254,7 +298,7 @@ QWidget* frmMurvane::BouwKnoppen(const QString& toolbar) {
   indeling->setContentsMargins(0, 0, 0, 0);
   for (const Toolbarknop& regel : Toolbarknoppen) {
     if (VanCp(regel.Toolbar) != toolbar) continue;
-    auto* const knop = new QToolButton(balk);
+    auto* const knop = new Balkknop(balk);
     knop->setObjectName(toolbar + "_" + VanCp(regel.Sleutel));
     knop->setText(TekstVanKnop(regel.Sleutel).Tekst);
     knop->setToolTip(VanCp(regel.ToolTip));
@@ -276,13 +320,21 @@ QWidget* frmMurvane::BouwPaginas() {
   for (QWidget* const pagina : {BouwKanaalPagina(), BouwAftakPagina(), BouwDoorsneePagina(),
                                 BouwWeerstandPagina(), BouwSpectrumPagina()})
     SSTab2->addWidget(pagina);
+  lblElement = MaakLabel({}, "lblElement", lstProject);
+  lblElement->setObjectName("lblElement");
+  QFont vet = lblElement->font();
+  vet.setBold(true);
+  lblElement->setFont(vet);
   auto* const vak = new QWidget(this);
-  auto* const indeling = new QHBoxLayout(vak);
-  indeling->setContentsMargins(0, 0, 0, 0);
-  indeling->setSpacing(Marge);
-  indeling->addWidget(SSTab2, 0);
-  indeling->addWidget(tekening_, 1);
-  vak->setFixedHeight(vak->sizeHint().height());
+  auto* const indeling = Rooster(vak);
+  indeling->setHorizontalSpacing(2 * Marge);
+  indeling->addWidget(lblElement, 0, 0, 1, 2);
+  indeling->addWidget(SSTab2, 1, 0);
+  indeling->addWidget(tekening_, 1, 1);
+  indeling->setColumnStretch(1, 1);
+  indeling->setRowStretch(1, 1);
+  // The page keeps its place when the element's is hidden, so that the lists do not jump.
+  vak->setMinimumHeight(vak->sizeHint().height());
   return vak;
 }
 
@@ -290,10 +342,11 @@ QWidget* frmMurvane::BouwKanaalPagina() {
   auto* const pagina = new QWidget(this);
   auto* const indeling = Kolom(pagina, 0);
   auto* const maten = Rooster(nullptr);
-  VoegVeld(maten, 0, {"txtHoogte"}, "Hoogte of diameter", "mm", "lblPlan");
+  VoegVeld(maten, 0, {"txtHoogte"}, "Diameter", "mm", "lblPlan");
   VoegVeld(maten, 1, {"txtBreedte"}, "Breedte", "mm", "lblPlan");
   VoegVeld(maten, 2, {"txtLengte"}, "Lengte", "m", "lblPlan");
   VoegVeld(maten, 3, {"txtDebiet"}, "Luchtdebiet", "m³/s", "lblPlan");
+  HoudVrij(maten, *this, "Luchtdebiet");
   maten->setColumnStretch(3, 1);
   indeling->addLayout(maten);
   BandRij* const rij = VoegBanden("txtdemp", 0, "Geluidsinstraling, LAeq in dB(A)");
@@ -319,14 +372,14 @@ QWidget* frmMurvane::BouwAftakPagina() {
   auto* const pagina = new QWidget(this);
   auto* const kolom = Kolom(pagina, 0);
   auto* const maten = Rooster(nullptr);
-  VoegVeld(maten, 0, {"txtHAftak"}, "Hoogte of diameter aftakking", "mm", "lblPlan");
+  VoegVeld(maten, 0, {"txtHAftak"}, "Diameter aftakking", "mm", "lblPlan");
   VoegVeld(maten, 1, {"txtBAftak"}, "Breedte aftakking", "mm", "lblPlan");
   VoegVeld(maten, 2, {"txtRAftak"}, "Afronding r/d aftakking", "", "lblPlan");
   VoegVeld(maten, 3, {"txtQAftak"}, "Luchtdebiet aftakking", "m³/s", "lblPlan");
   VoegVeld(maten, 4, {"txtHHoofd"}, "Hoogte of diameter hoofdkanaal", "mm", "lblPlan");
-  VoegVeld(maten, 5, {"txtBHoofd"}, "Breedte hoofdkanaal", "mm", "lblPlan");
+  VoegVeld(maten, 5, {"txtBHoofd"}, "Breedte hoofdkanaal", "mm, 0 is rond", "lblPlan");
   VoegVeld(maten, 6, {"txtHDoor"}, "Hoogte of diameter doorgaand kanaal", "mm", "lblPlan");
-  VoegVeld(maten, 7, {"txtBDoor"}, "Breedte doorgaand kanaal", "mm", "lblPlan");
+  VoegVeld(maten, 7, {"txtBDoor"}, "Breedte doorgaand kanaal", "mm, 0 is rond", "lblPlan");
   maten->setColumnStretch(3, 1);
   kolom->addLayout(maten);
   kolom->addStretch();
@@ -337,11 +390,12 @@ QWidget* frmMurvane::BouwDoorsneePagina() {
   auto* const pagina = new QWidget(this);
   auto* const kolom = Kolom(pagina, 0);
   auto* const maten = Rooster(nullptr);
-  VoegVeld(maten, 0, {"txtH1Doorsnee"}, "Hoogte of diameter intrede", "mm", "lblPlan");
+  VoegVeld(maten, 0, {"txtH1Doorsnee"}, "Diameter intrede", "mm", "lblPlan");
   VoegVeld(maten, 1, {"txtB1Doorsnee"}, "Breedte intrede", "mm", "lblPlan");
-  VoegVeld(maten, 2, {"txtH2Doorsnee"}, "Hoogte of diameter uittrede", "mm", "lblPlan");
+  VoegVeld(maten, 2, {"txtH2Doorsnee"}, "Diameter uittrede", "mm", "lblPlan");
   VoegVeld(maten, 3, {"txtB2Doorsnee"}, "Breedte uittrede", "mm", "lblPlan");
   VoegVeld(maten, 4, {"txtLDoorsnee"}, "Lengte", "m", "lblPlan");
+  HoudVrij(maten, *this, "Diameter uittrede");
   maten->setColumnStretch(3, 1);
   kolom->addLayout(maten);
   kolom->addStretch();
@@ -375,7 +429,7 @@ QWidget* frmMurvane::BouwSpectrumPagina() {
 
 QWidget* frmMurvane::BouwRuimte() {
   auto* const blad = new QWidget(this);
-  auto* const indeling = Kolom(blad);
+  auto* const indeling = Blok(blad);
   VrijVeld = MaakKnop<QCheckBox>("VrijVeld", "vrij-veldsituatie", blad);
   indeling->addWidget(VrijVeld);
   auto* const maten = Rooster(nullptr);
@@ -386,6 +440,11 @@ QWidget* frmMurvane::BouwRuimte() {
   VoegVeld(maten, 4, {"txtRNR"}, "Toelaatbaar geluidsniveau", "dB(A)", "lblruimte");
   VoegVeld(maten, 5, {"txtRDI"}, "Richtingsfactor", "1, 2, 4 of 8", "lblruimte");
   VoegVeld(maten, 6, {"txtRAantal"}, "Aantal roosters", "stuks", "lblruimte");
+  ruimteTekening_ = new Tekening(blad);
+  ruimteTekening_->setObjectName("TekeningRuimte");
+  ruimteTekening_->ZetRuimte();
+  maten->addWidget(ruimteTekening_, 0, 3, 7, 1);
+  mee_[{"txtRLengte", -1}].push_back(ruimteTekening_);
   const auto voeg = [&](int rij, Keuzevak* vak, const char* naam, const char* tekst) {
     BandRij* const banden = VoegBanden(naam, 0, QString(tekst) + ", isolatie in dB");
     QLabel* const keuze = MaakLabel(tekst, "lblruimte", vak);
@@ -408,10 +467,10 @@ QWidget* frmMurvane::BouwRuimte() {
 
 QWidget* frmMurvane::BouwProject() {
   auto* const blad = new QWidget(this);
-  auto* const kolom = Kolom(blad);
+  auto* const kolom = Blok(blad);
   auto* const indeling = Rooster(nullptr);
   InvoerVeld* const nummer = VoegVeld(indeling, 0, {"txtProNum"}, "Projectnummer", "", "lblproject");
-  nummer->setMaximumWidth(160);
+  nummer->setMaximumWidth(2 * GetalBreedte(*nummer));
   indeling->addWidget(MaakLabel("Datum", "lblproject", nullptr), 1, 0);
   indeling->addWidget(BouwDatum(), 1, 1);
   qobject_cast<QLabel*>(indeling->itemAtPosition(1, 0)->widget())->setBuddy(Vak({"txtMyDate"}));
@@ -427,12 +486,9 @@ QWidget* frmMurvane::BouwProject() {
 
 /// Built when it is first asked for: it takes as long as a whole tab.
 void frmMurvane::BouwKalender() {
-  MonthView = new QCalendarWidget(SSTab1->widget(static_cast<int>(Tab::Projectgegevens)));
+  MonthView = new Kalender(SSTab1->widget(static_cast<int>(Tab::Projectgegevens)));
   MonthView->setObjectName("MonthView");
   MonthView->setAccessibleName("Kalender");
-  MonthView->setLocale(QLocale(QLocale::Dutch, QLocale::Netherlands));
-  MonthView->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
-  MonthView->setAutoFillBackground(true);
   MonthView->installEventFilter(this);
   MonthView->hide();
   connect(MonthView, &QCalendarWidget::clicked, this, &frmMurvane::MonthView_DateClick);
@@ -444,9 +500,9 @@ QWidget* frmMurvane::BouwDatum() {
   auto* const indeling = new QHBoxLayout(vak);
   indeling->setContentsMargins(0, 0, 0, 0);
   auto* const datum = new InvoerVeld({"txtMyDate"}, "Datum", vak);
-  datum->setMaximumWidth(160);
+  datum->setMaximumWidth(2 * GetalBreedte(*datum));
   MeldAan(datum);
-  Image1 = new QToolButton(vak);
+  Image1 = new Balkknop(vak);
   Image1->setObjectName("Image1");
   Image1->setAccessibleName("Kalender tonen of verbergen");
   Image1->setToolTip("Kalender");

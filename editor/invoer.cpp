@@ -82,34 +82,6 @@ constexpr auto Velden = std::to_array<VeldRegel>({
 });
 // clang-format on
 
-constexpr int Code(char c) {
-  return static_cast<unsigned char>(c);
-}
-
-/// The distance of the small letter behind a capital of the code page; 0 for any other character.
-constexpr int AfstandTotKlein(int c) {
-  if ((c >= 'A' && c <= 'Z') || (c >= 0xC0 && c <= 0xDE && c != 0xD7)) return 0x20;
-  if (c == 0x8A || c == 0x8C || c == 0x8E) return 0x10;  // Š Œ Ž
-  return c == 0x9F ? 0x60 : 0;                           // Ÿ
-}
-
-constexpr char NaarKlein(char c) {
-  return static_cast<char>(Code(c) + AfstandTotKlein(Code(c)));
-}
-
-constexpr char NaarGroot(char c) {
-  for (const int afstand : {0x20, 0x10, 0x60}) {
-    if (AfstandTotKlein(Code(c) - afstand) == afstand) return static_cast<char>(Code(c) - afstand);
-  }
-  return c;
-}
-
-std::string Omgezet(std::string_view tekst, char (*zet)(char)) {
-  std::string uit(tekst);
-  std::transform(uit.begin(), uit.end(), uit.begin(), zet);
-  return uit;
-}
-
 /// The digits of a text as a number; -1 when a character is not a digit.
 constexpr int Cijfers(std::string_view tekst) {
   int uit = 0;
@@ -240,9 +212,9 @@ Validatie ValiDate(std::string_view tekst, const VeldRegel& regel, std::string_v
     case Datum:
       return ValiDateDatum(tekst, vandaag);
     case Hoofdletters:
-      return Geldig(Omgezet(Trim(tekst), NaarGroot));
+      return Geldig(InHoofdletters(Trim(tekst)));
     case KleineLetters:
-      return Geldig(Omgezet(Trim(tekst), NaarKlein));
+      return Geldig(InKleineLetters(Trim(tekst)));
     case VeldSoort::Tekst:
       break;
   }

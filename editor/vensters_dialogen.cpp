@@ -177,14 +177,16 @@ std::filesystem::path SchermDialogen::OpslaanDialoog(const BestandVraag& vraag) 
 
 AfdrukKeuze SchermDialogen::AfdrukDialoog(const AfdrukVraag& vraag) {
   const auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
-  printer->setDocName("Berekeningsformulier");
+  printer->setDocName(VanCp(vraag.Document));
+  printer->setPageOrientation(vraag.Liggend ? QPageLayout::Landscape : QPageLayout::Portrait);
   Afdrukvenster dialoog(printer.get(), Ouder());
   dialoog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintCollateCopies);
   if (vraag.NaarBestandMogelijk) dialoog.VoegNaarBestandToe();
   if (dialoog.exec() != QDialog::Accepted) throw Fout(FoutNummer::DialoogGeannuleerd);
   const int exemplaren = printer->copyCount();
   printer->setCopyCount(1);  // each copy is a document of its own
-  return {exemplaren, dialoog.NaarBestand(), [printer] { return std::make_unique<Schildervlak>(printer); }};
+  return {exemplaren, dialoog.NaarBestand(),
+          [printer, liggend = vraag.Liggend] { return std::make_unique<Schildervlak>(printer, liggend); }};
 }
 
 void SchermDialogen::Wachten(bool aan) {

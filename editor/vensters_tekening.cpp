@@ -20,6 +20,9 @@ namespace murvane {
 
 namespace {
 
+/// Somewhat over the size at which the drawings were made.
+constexpr QSize Grootst(640, 400);
+
 struct Beeld {
   std::int16_t Type;
   const char* Naam;
@@ -128,14 +131,23 @@ Tekening::Tekening(QWidget* ouder) : QWidget(ouder) {
   setMinimumSize(200, 125);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   svg_.setAspectRatioMode(Qt::KeepAspectRatio);
+  ZetType(0);
 }
 
 void Tekening::ZetType(std::int16_t elementType) {
   const auto* const beeld = std::find_if(Beelden.begin(), Beelden.end(),
                                          [elementType](const Beeld& een) { return een.Type == elementType; });
-  const bool bekend = beeld != Beelden.end();
-  bron_ = bekend ? LeesBron(QString(":/editor/beelden/") + beeld->Naam + ".svg") : QString();
-  setAccessibleName(bekend ? QString("Tekening: ") + beeld->Omschrijving : QString("Tekening"));
+  if (beeld == Beelden.end()) return ZetBeeld(":/editor/beelden/keten.svg", "Keten van kanaalelementen");
+  ZetBeeld(QString(":/editor/beelden/") + beeld->Naam + ".svg", beeld->Omschrijving);
+}
+
+void Tekening::ZetRuimte() {
+  ZetBeeld(":/editor/beelden/ruimte.svg", "Vertrek");
+}
+
+void Tekening::ZetBeeld(const QString& pad, const QString& omschrijving) {
+  bron_ = LeesBron(pad);
+  setAccessibleName("Tekening: " + omschrijving);
   Laad();
 }
 
@@ -147,7 +159,6 @@ void Tekening::Belicht(const QString& veldNaam) {
 void Tekening::Laad() {
   QString svg = bron_;
   BelichtGroep(svg, belicht_);
-  if (svg.isEmpty()) svg = "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 1 1\"/>";
   svg_.load(InKleur(svg, palette()));
   svg_.setAspectRatioMode(Qt::KeepAspectRatio);
   update();
@@ -155,7 +166,9 @@ void Tekening::Laad() {
 
 void Tekening::paintEvent(QPaintEvent* /*event*/) {
   QPainter schilder(this);
-  svg_.render(&schilder, QRectF(rect()));
+  const QSizeF meest = QSizeF(Grootst).boundedTo(size());  // lines stay lines, however large the window
+  svg_.render(&schilder,
+              QRectF(QPointF((width() - meest.width()) / 2, (height() - meest.height()) / 2), meest));
 }
 
 void Tekening::changeEvent(QEvent* event) {

@@ -13,14 +13,18 @@ namespace murvane {
 [[nodiscard]] QIcon Icoon(const QString& naam, const QPalette& palet);
 [[nodiscard]] QIcon Icoon(const QString& naam);
 
-/// The line drawing of an element type, in which the dimension of one field is lit.
+/// The line drawing of an element type, the room or an estimate, in which the dimension of one field is lit.
 class Tekening : public QWidget {
   Q_OBJECT
 
  public:
   explicit Tekening(QWidget* ouder);
 
+  /// The drawing of an element type; for a number that is none that of a chain of elements.
   void ZetType(std::int16_t elementType);
+  void ZetRuimte();
+  /// Another drawing of the same family, out of the program's resources.
+  void ZetBeeld(const QString& pad, const QString& omschrijving);
   /// Lights the dimension of a field; one that the drawing does not show lights nothing.
   void Belicht(const QString& veldNaam);
   [[nodiscard]] const QString& Belicht() const { return belicht_; }

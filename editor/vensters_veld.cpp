@@ -1,15 +1,19 @@
 #include "editor/vensters_veld.h"
 
 #include <QApplication>
+#include <QButtonGroup>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPainter>
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
+#include <QTextCharFormat>
 #include <QVBoxLayout>
 #include <QWheelEvent>
 
 #include "basis/vensters_hulp.h"
+#include "basis/vensters_stijl.h"
 
 namespace murvane {
 
@@ -54,6 +58,15 @@ int VakBreedte(const QWidget& vak) {
   return vak.fontMetrics().horizontalAdvance("0000,00") + 14;
 }
 
+/// The chosen one of the options that exclude each other, and this one among them; none when none is.
+QAbstractButton* Gekozene(const QRadioButton& optie) {
+  if (optie.group() != nullptr) return optie.group()->checkedButton();
+  for (auto* const ander : optie.parentWidget()->findChildren<QRadioButton*>(Qt::FindDirectChildrenOnly)) {
+    if (ander->group() == nullptr && ander->isChecked()) return ander;
+  }
+  return nullptr;
+}
+
 QHBoxLayout* Regelindeling(QWidget* ouder) {
   auto* const indeling = new QHBoxLayout(ouder);
   indeling->setContentsMargins(0, 0, 0, 0);
@@ -76,7 +89,10 @@ QString ObjectNaam(VeldId veld) {
 }
 
 InvoerVeld::InvoerVeld(VeldId veld, const QString& naam, QWidget* ouder)
-    : QLineEdit(ouder), veld_(veld), regel_(Regel(veld)) {
+    : InvoerVeld(veld, Regel(veld), naam, ouder) {}
+
+InvoerVeld::InvoerVeld(VeldId veld, const VeldRegel& regel, const QString& naam, QWidget* ouder)
+    : QLineEdit(ouder), veld_(veld), regel_(regel) {
   setObjectName(ObjectNaam(veld));
   setAccessibleName(naam);
   if (const int meest = MaxTekens(regel_); meest > 0) setMaxLength(meest);
@@ -125,16 +141,22 @@ void InvoerVeld::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 BandRij::BandRij(std::string_view naam, int eerste, const QString& omschrijving, QWidget* ouder)
+    : BandRij(naam, eerste, Regel(VeldId{naam, eerste}), omschrijving, ouder) {}
+
+BandRij::BandRij(std::string_view naam, int eerste, const VeldRegel& regel, const QString& omschrijving,
+                 QWidget* ouder)
     : QWidget(ouder) {
   auto* const indeling = Regelindeling(this);
   for (int band = 0; band < Banden; ++band) {
     const QString bandNaam = BandNamen[static_cast<std::size_t>(band)];
-    auto* const vak = new InvoerVeld({naam, eerste + band}, omschrijving + ", " + bandNaam + " Hz", this);
+    auto* const vak =
+        new InvoerVeld({naam, eerste + band}, regel, omschrijving + ", " + bandNaam + " Hz", this);
     vak->setFixedWidth(VakBreedte(*vak));
     vakken_[static_cast<std::size_t>(band)] = vak;
     auto* const kolom = new QVBoxLayout;
     kolom->setSpacing(2);
     QLabel* const kop = Bandnaam(band, this);
+    kop->setObjectName("lblBand_" + vak->objectName());
     kop->setBuddy(vak);
     kolom->addWidget(kop);
     kolom->addWidget(vak);
@@ -143,11 +165,25 @@ BandRij::BandRij(std::string_view naam, int eerste, const QString& omschrijving,
   indeling->addStretch();
 }
 
+void Optieknop::focusInEvent(QFocusEvent* event) {
+  QRadioButton::focusInEvent(event);
+  const bool gewezen = event->reason() == Qt::MouseFocusReason || BlijftInVeld(event->reason());
+  QAbstractButton* const gekozen = Gekozene(*this);
+  if (!gewezen && gekozen != nullptr && gekozen != this && gekozen->isVisible())
+    gekozen->setFocus(event->reason());
+}
+
+void Balkknop::keyPressEvent(QKeyEvent* event) {
+  if (IsEnter(event->key())) return click();
+  QToolButton::keyPressEvent(event);
+}
+
 Lijstvak::Lijstvak(const QString& objectNaam, const QString& naam, QWidget* ouder) : QListWidget(ouder) {
   setObjectName(objectNaam);
   setAccessibleName(naam);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setTextElideMode(Qt::ElideRight);
+  setViewportMargins(Ringruimte, Ringruimte, Ringruimte, Ringruimte);
   connect(this, &QListWidget::currentRowChanged, this, [this](int rij) {
     if (!stil_) emit Geklikt(rij);
   });
@@ -181,15 +217,14 @@ void Lijstvak::mousePressEvent(QMouseEvent* event) {
   emit Geklikt(currentRow());
 }
 
-void Lijstvak::mouseDoubleClickEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton) QListWidget::mouseDoubleClickEvent(event);
+/// A row that is pressed stays selected: Ctrl would clear it, at the press or at the release.
+QItemSelectionModel::SelectionFlags Lijstvak::selectionCommand(const QModelIndex& index,
+                                                               const QEvent* /*event*/) const {
+  return index.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
 }
 
-/// One row is selected, also with Ctrl down.
-QItemSelectionModel::SelectionFlags Lijstvak::selectionCommand(const QModelIndex& rij,
-                                                               const QEvent* event) const {
-  if (rij.isValid()) return QItemSelectionModel::ClearAndSelect;
-  return QListWidget::selectionCommand(rij, event);
+void Lijstvak::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) QListWidget::mouseDoubleClickEvent(event);
 }
 
 void Lijstvak::keyPressEvent(QKeyEvent* event) {
@@ -207,6 +242,23 @@ void Lijstvak::focusInEvent(QFocusEvent* event) {
     QListWidget::focusInEvent(event);
   }
   if (rij < 0) ZetRij(rij);
+}
+
+Kalender::Kalender(QWidget* ouder) : QCalendarWidget(ouder) {
+  setLocale(QLocale(QLocale::Dutch, QLocale::Netherlands));
+  setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+  setAutoFillBackground(true);
+  setContentsMargins(2, 2, 2, 2);
+  for (const Qt::DayOfWeek dag : {Qt::Saturday, Qt::Sunday}) setWeekdayTextFormat(dag, {});  // red on dark
+  connect(qApp, &QApplication::focusChanged, this, qOverload<>(&QWidget::update));
+}
+
+void Kalender::paintEvent(QPaintEvent* event) {
+  QCalendarWidget::paintEvent(event);
+  const bool heeftFocus = isAncestorOf(QApplication::focusWidget());
+  QPainter schilder(this);
+  schilder.setPen(QPen(palette().color(heeftFocus ? QPalette::Highlight : QPalette::PlaceholderText), 2));
+  schilder.drawRect(QRectF(rect()).adjusted(1, 1, -1, -1));
 }
 
 Keuzevak::Keuzevak(const QString& objectNaam, const QString& naam, QWidget* ouder) : QComboBox(ouder) {

@@ -2,9 +2,13 @@
 // The controls of the project window: an input field with its rule, a row of seven band fields, a list and a
 // combo box. They tell what the user does; what it means is decided elsewhere.
 
+#include <QCalendarWidget>
 #include <QComboBox>
+#include <QItemSelectionModel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QRadioButton>
+#include <QToolButton>
 #include <array>
 #include <cstdint>
 
@@ -23,8 +27,11 @@ class InvoerVeld : public QLineEdit {
 
  public:
   InvoerVeld(VeldId veld, const QString& naam, QWidget* ouder);
+  /// A field of another window, by the rule of its own table, which outlives it.
+  InvoerVeld(VeldId veld, const VeldRegel& regel, const QString& naam, QWidget* ouder);
 
   [[nodiscard]] VeldId Veld() const { return veld_; }
+  [[nodiscard]] const VeldRegel& DeRegel() const { return regel_; }
   void ZetKleur(std::uint32_t bgr);
 
  signals:
@@ -53,11 +60,36 @@ class BandRij : public QWidget {
 
  public:
   BandRij(std::string_view naam, int eerste, const QString& omschrijving, QWidget* ouder);
+  /// A row of another window, by the rule of its own table, which outlives it.
+  BandRij(std::string_view naam, int eerste, const VeldRegel& regel, const QString& omschrijving,
+          QWidget* ouder);
 
   [[nodiscard]] const std::array<InvoerVeld*, Banden>& Vakken() const { return vakken_; }
 
  private:
   std::array<InvoerVeld*, Banden> vakken_{};
+};
+
+/// An option. The focus comes to the one that is chosen, unless the mouse points at another.
+class Optieknop : public QRadioButton {
+  Q_OBJECT
+
+ public:
+  using QRadioButton::QRadioButton;
+
+ protected:
+  void focusInEvent(QFocusEvent* event) override;
+};
+
+/// A button of a toolbar, which Enter presses as the space bar does.
+class Balkknop : public QToolButton {
+  Q_OBJECT
+
+ public:
+  using QToolButton::QToolButton;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
 };
 
 /// A list whose rows are clicked: by the mouse, also the row that is selected already, or by the arrow keys.
@@ -81,11 +113,22 @@ class Lijstvak : public QListWidget {
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
-  [[nodiscard]] QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& rij,
+  [[nodiscard]] QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                                      const QEvent* event) const override;
 
  private:
   bool stil_ = false;
+};
+
+/// A calendar that lies over other controls: it has a rim, which lights up while it has the focus.
+class Kalender : public QCalendarWidget {
+  Q_OBJECT
+
+ public:
+  explicit Kalender(QWidget* ouder);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
 };
 
 /// A combo box with a text of its own that the wheel does not change.

@@ -57,13 +57,15 @@ std::string BitmapBytes(const QImage& beeld) {
   return buffer.data().toStdString();
 }
 
-Schildervlak::Schildervlak(std::shared_ptr<QPagedPaintDevice> apparaat) : apparaat_(std::move(apparaat)) {
+Schildervlak::Schildervlak(std::shared_ptr<QPagedPaintDevice> apparaat, bool liggend)
+    : apparaat_(std::move(apparaat)) {
   if (auto* printer = dynamic_cast<QPrinter*>(apparaat_.get())) printer->setFullPage(true);
-  const QPageLayout blad(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF(), QPageLayout::Point);
+  const QPageLayout blad(QPageSize(QPageSize::A4), liggend ? QPageLayout::Landscape : QPageLayout::Portrait,
+                         QMarginsF(), QPageLayout::Point);
   apparaat_->setPageLayout(blad);
   const QSizeF punten = QPageSize::size(QPageSize::A4, QPageSize::Millimeter) / 25.4 * TwipsPerInch;
-  breedte_ = punten.width();
-  hoogte_ = punten.height();
+  breedte_ = liggend ? punten.height() : punten.width();
+  hoogte_ = liggend ? punten.width() : punten.height();
   lijndikte_ = DunsteLijn;
   Begin(*apparaat_, apparaat_->logicalDpiX() / TwipsPerInch);
 }

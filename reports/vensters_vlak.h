@@ -30,9 +30,9 @@ inline constexpr double VoorbeeldDpi = 192;
 
 class Schildervlak final : public Vlak {
  public:
-  /// A document on the whole A4 sheet, upright, its origin in the sheet's corner. Fout 75 when the device
-  /// cannot begin.
-  explicit Schildervlak(std::shared_ptr<QPagedPaintDevice> apparaat);
+  /// A document on the whole A4 sheet, upright or on its long side, its origin in the sheet's corner. Fout 75
+  /// when the device cannot begin.
+  explicit Schildervlak(std::shared_ptr<QPagedPaintDevice> apparaat, bool liggend = false);
   /// A white picture of this size in twips.
   Schildervlak(double breedte, double hoogte, double pixelsPerInch);
   ~Schildervlak() override;
@@ -42,7 +42,7 @@ class Schildervlak final : public Vlak {
 
   [[nodiscard]] double ScaleWidth() const override { return breedte_; }
   [[nodiscard]] double ScaleHeight() const override { return hoogte_; }
-  void ZetStaand() override {}  // the sheet was laid upright before the painting began
+  void ZetStaand() override {}  // the sheet was laid before the painting began
   void ZetFontNaam(std::string_view naam) override;
   void ZetFontSize(double punten) override;
   void ZetFontBold(bool vet) override;

@@ -3,20 +3,25 @@
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDesktopServices>
 #include <QLabel>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QProcess>
+#include <QScopeGuard>
 #include <QStandardPaths>
 #include <QStatusBar>
+#include <QUrl>
 #include <map>
 #include <optional>
 #include <string>
 
+#include "basis/bestand.h"
 #include "basis/vensters_hulp.h"
 #include "calc/reken.h"
+#include "catalogue/frmOnderhoud.h"
 #include "editor/frmMurvane.h"
 #include "editor/vensters_tekening.h"
 #include "reports/frmGrafiek.h"
@@ -27,11 +32,16 @@
 #include "reports/vensters_pdf.h"
 #include "shell/afdrukken.h"
 #include "shell/bestandopdrachten.h"
+#include "shell/frmAbout.h"
 #include "shell/hoofdvenster.h"
+#include "shell/info.h"
+#include "shell/vensters_menu.h"
 
 namespace murvane {
 
 namespace {
+
+constexpr int StatusMarge = 4;
 
 QString Naam(std::string_view tekst) {
   return QString::fromUtf8(tekst.data(), static_cast<qsizetype>(tekst.size()));
@@ -71,11 +81,16 @@ MDIMurvane::MDIMurvane(Programma& programma, Dialogen& dialogen)
 }
 
 void MDIMurvane::MaakMenu() {
-  std::map<std::string_view, QMenu*> menus;
+  std::map<std::string_view, ZijbalkMenu*> menus;
   for (const MenuItem& item : MenuBalk) {
     if (item.Soort == MenuSoort::Menu || item.Soort == MenuSoort::SubMenu) {
-      QMenu* menu = item.In.empty() ? menuBar()->addMenu(VanCp(item.Opschrift))
-                                    : menus.at(item.In)->addMenu(VanCp(item.Opschrift));
+      QWidget* const ouder = item.In.empty() ? static_cast<QWidget*>(this) : menus.at(item.In);
+      auto* const menu = new ZijbalkMenu(VanCp(item.Opschrift), ouder);
+      if (item.In.empty()) {
+        menuBar()->addMenu(menu);
+      } else {
+        menus.at(item.In)->addMenu(menu);
+      }
       menu->setObjectName(Naam(item.Naam));
       menu->menuAction()->setObjectName(Naam(item.Naam));
       menus[item.Naam] = menu;
@@ -88,7 +103,7 @@ void MDIMurvane::MaakMenu() {
     acties_[item.Naam] = actie;
     if (item.Soort != MenuSoort::Kop) continue;
     actie->setEnabled(false);
-    menus.at(item.In)->addSeparator();
+    menus.at(item.In)->ZetKop(actie);
   }
   Verbind("mnuNieuw", &MDIMurvane::mnuNieuw);
   Verbind("mnuOpen", &MDIMurvane::mnuOpen);
@@ -97,15 +112,52 @@ void MDIMurvane::MaakMenu() {
   Verbind("mnuSluiten", &MDIMurvane::mnuSluiten);
   Verbind("mnuOpslaan", &MDIMurvane::mnuOpslaan);
   Verbind("mnuExit", &MDIMurvane::mnuExit);
+  Verbind("mnuElementen", &MDIMurvane::mnuElementen);
+  Verbind("mnuFan", &MDIMurvane::mnuFan);
+  Verbind("mnuDuct", &MDIMurvane::mnuDuct);
+  Verbind("mnuPlafonds", &MDIMurvane::mnuPlafonds);
   Verbind("mnuGebruiker", &MDIMurvane::mnuGebruiker);
   Verbind("mnuVent", &MDIMurvane::mnuVent);
   Verbind("mnuUitstraling", &MDIMurvane::mnuUitstraling);
   Verbind("mnuOverspraak", &MDIMurvane::mnuOverspraak);
   Verbind("mnuCalc", &MDIMurvane::mnuCalc);
+  Verbind("mnuHelpFile", &MDIMurvane::mnuHelpFile);
+  Verbind("mnuInfo", &MDIMurvane::mnuInfo);
+  ZetMenuBeelden();
   Verbind("mnuAfdrukken", &MDIMurvane::mnuAfdrukken);
   Verbind("mnuLetterType", &MDIMurvane::mnuLetterType);
   QMenu* const vensters = menus.at("mnuVenster");
   connect(vensters, &QMenu::aboutToShow, this, [this, vensters] { VulVensterMenu(*vensters); });
+}
+
+void MDIMurvane::ZetMenuBeelden() {
+  for (const MenuBeeld& beeld : MenuBeelden)
+    acties_.at(beeld.Naam)->setIcon(Icoon(Naam(beeld.Tekening), palette()));
+}
+
+/// The icon in the notification area, made when the window stands: it asks the desktop for a place.
+void MDIMurvane::MaakTaakbalk() {
+  taakbalk_ = new Taakbalk(this);
+  connect(taakbalk_->Info(), &QAction::triggered, this,
+          [this] { Voer("mnuTaakInfo", &MDIMurvane::mnuInfo); });
+  connect(taakbalk_->Exit(), &QAction::triggered, this,
+          [this] { Voer("mnuTaakExit", &MDIMurvane::mnuExit); });
+}
+
+void MDIMurvane::showEvent(QShowEvent* gebeurtenis) {
+  QMainWindow::showEvent(gebeurtenis);
+  if (taakbalk_ == nullptr)
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+          if (taakbalk_ == nullptr) MaakTaakbalk();
+        },
+        Qt::QueuedConnection);
+}
+
+void MDIMurvane::changeEvent(QEvent* gebeurtenis) {
+  QMainWindow::changeEvent(gebeurtenis);
+  if (gebeurtenis->type() == QEvent::PaletteChange && !acties_.empty()) ZetMenuBeelden();
 }
 
 void MDIMurvane::Verbind(std::string_view naam, void (MDIMurvane::*opdracht)()) {
@@ -153,10 +205,10 @@ void MDIMurvane::MaakStatusbalk() {
   paneel3_ = new QLabel(this);
   beeld_->setObjectName("StatusBar1_1_beeld");
   beeld_->setAccessibleName("Berekend");
-  beeld_->setPixmap(Icoon("berekend", palette()).pixmap(16, 16));
   paneel1_->setObjectName("StatusBar1_1");
   paneel2_->setObjectName("StatusBar1_2");
   paneel3_->setObjectName("StatusBar1_3");
+  for (QLabel* paneel : {paneel1_, paneel2_, paneel3_}) paneel->setMargin(StatusMarge);
   statusBar()->addWidget(beeld_);
   statusBar()->addWidget(paneel1_, 2);
   statusBar()->addWidget(paneel2_, 1);
@@ -175,6 +227,7 @@ void MDIMurvane::ToonToestand() {
   for (const TypeRegel& regel : TypeRegels)
     acties_.at(regel.Menu)->setChecked(regel.RekenType == programma_.Project.Kop.RekenType);
   const StatusBalk balk = StatusVan(sessie, programma_.Project);
+  beeld_->setPixmap(Icoon("berekend", palette()).pixmap(16, 16));
   beeld_->setVisible(balk.Paneel1Beeld != 0);
   paneel1_->setText(VanCp(balk.Paneel1));
   paneel2_->setText(VanCp(balk.Paneel2));
@@ -349,6 +402,47 @@ void MDIMurvane::mnuExit() {
   close();
 }
 
+/// Shows the maintenance window of a catalogue; the project window waits meanwhile. Only a window that wrote
+/// its file fills a list of the project window again.
+void MDIMurvane::Onderhoud(CatalogusSoort soort) {
+  if (!project_->BewaarVeld()) return;
+  const QPointer<QWidget> focus = project_->focusWidget();
+  project_->setEnabled(false);
+  const auto weerAan = qScopeGuard([this] { project_->setEnabled(true); });
+  frmOnderhoud venster(soort,
+                       {.Catalogi = programma_.Catalogi,
+                        .SchatInvoer = programma_.SchatInvoer,
+                        .Dialogen = dialogen_,
+                        .Map = programma_.DataDir,
+                        .Vandaag = std::string(programma_.Vandaag.Heel()),
+                        .Decimaal = programma_.Decimaal},
+                       this);
+  (void)venster.exec();
+  project_->setEnabled(true);  // before it is given the focus
+  if (venster.IsBewaard()) {
+    const Ververs vult = OnderhoudVan(soort).Vult;
+    if (vult == Ververs::lstTotaal) project_->VulElementen();
+    if (vult == Ververs::lstFan) project_->VulFans();
+  }
+  if (focus != nullptr) focus->setFocus();
+}
+
+void MDIMurvane::mnuElementen() {
+  Onderhoud(CatalogusSoort::Kanaalelementen);
+}
+
+void MDIMurvane::mnuFan() {
+  Onderhoud(CatalogusSoort::Ventilatoren);
+}
+
+void MDIMurvane::mnuDuct() {
+  Onderhoud(CatalogusSoort::Luchtkanalen);
+}
+
+void MDIMurvane::mnuPlafonds() {
+  Onderhoud(CatalogusSoort::Plafonds);
+}
+
 void MDIMurvane::mnuGebruiker() {
   mnuGebruiker_Click(programma_, dialogen_);
 }
@@ -363,6 +457,22 @@ void MDIMurvane::mnuUitstraling() {
 
 void MDIMurvane::mnuOverspraak() {
   project_->KiesType(rekentype::Overspraak);
+}
+
+/// The manual, in the desktop's own viewer; that it does not open is not told.
+void MDIMurvane::mnuHelpFile() {
+  for (const bool helpProgramma : {true, false}) {
+    const std::filesystem::path pad = HandleidingIn(programma_.ProgrammaBestanden, helpProgramma);
+    if (!pad.empty() && QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(PadTekst(pad)))))
+      return;
+  }
+}
+
+/// While the window is open it cannot be opened again from the icon.
+void MDIMurvane::mnuInfo() {
+  if (taakbalk_ != nullptr) taakbalk_->Info()->setEnabled(false);
+  frmAbout(programma_.Instellingen, programma_.ProgrammaBestanden / LeveringBestand, dialogen_, this).exec();
+  if (taakbalk_ != nullptr) taakbalk_->Info()->setEnabled(true);
 }
 
 void MDIMurvane::closeEvent(QCloseEvent* gebeurtenis) {

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "catalogue/catfiles.h"
 #include "editor/dialogen.h"
 #include "editor/sessie.h"
 #include "shell/programma.h"
@@ -19,6 +20,7 @@ class QMenu;
 
 namespace murvane {
 
+class Taakbalk;
 class frmMurvane;
 class frmPreView;
 class frmResultaat;
@@ -34,10 +36,14 @@ class MDIMurvane : public QMainWindow {
   void OpenVanOpdrachtregel();
 
  protected:
+  void showEvent(QShowEvent* gebeurtenis) override;
+  void changeEvent(QEvent* gebeurtenis) override;
   void closeEvent(QCloseEvent* gebeurtenis) override;
 
  private:
   void MaakMenu();
+  void ZetMenuBeelden();
+  void MaakTaakbalk();
   void MaakStatusbalk();
   void Verbind(std::string_view naam, void (MDIMurvane::*opdracht)());
   void Voer(const std::string& naam, void (MDIMurvane::*opdracht)());
@@ -50,11 +56,17 @@ class MDIMurvane : public QMainWindow {
   void mnuSluiten();
   void mnuOpslaan();
   void mnuExit();
+  void mnuElementen();
+  void mnuFan();
+  void mnuDuct();
+  void mnuPlafonds();
   void mnuGebruiker();
   void mnuVent();
   void mnuUitstraling();
   void mnuOverspraak();
   void mnuCalc();
+  void mnuHelpFile();
+  void mnuInfo();
   void mnuAfdrukken();
   void mnuLetterType();
 
@@ -69,6 +81,7 @@ class MDIMurvane : public QMainWindow {
 
   void Reken();
   QMdiSubWindow* LaadResultaat();
+  void Onderhoud(CatalogusSoort soort);
   void Voer(const Gevolg& gevolg);
   void SluitVensters();
   void ToonToestand();
@@ -78,6 +91,7 @@ class MDIMurvane : public QMainWindow {
   Dialogen& dialogen_;
   QMdiArea* gebied_;
   frmMurvane* project_;
+  Taakbalk* taakbalk_ = nullptr;
   QPointer<frmResultaat> resultaat_;
   QPointer<frmPreView> preview_;
   std::map<std::string_view, QAction*> acties_;  ///< by name; the names of MenuBalk

@@ -72,7 +72,7 @@ inline constexpr auto MenuBeelden = std::to_array<MenuBeeld>({
     {"mnuPreview", 6, "berekend"},
     {"mnuExit", 10, "exit"},
     {"mnuOpslaan", 11, "opslaan"},
-    {"mnuAfdrukken", 3, "afdrukken"},
+    {"mnuAfdrukken", 3, "printen"},
     {"mnuTypReken", 18, "type"},
     {"mnuLetterType", 5, "letter"},
     {"mnuGebruiker", 7, "gebruiker"},

@@ -32,10 +32,10 @@ std::string MetNullen(int getal, std::size_t breedte) {
 
 }  // namespace
 
-std::vector<Kleur> Verloop(Kleur van, Kleur naar, int hoogte) {
+std::vector<Verloopkleur> Verloop(Verloopkleur van, Verloopkleur naar, int hoogte) {
   if (hoogte == 0) throw Fout(FoutNummer::DelingDoorNul);
   if (hoogte < 0) throw Fout(FoutNummer::OngeldigArgument);
-  std::vector<Kleur> lijnen;
+  std::vector<Verloopkleur> lijnen;
   lijnen.reserve(static_cast<std::size_t>(hoogte) + 1);
   for (int y = 0; y <= hoogte; ++y) {
     lijnen.push_back({Stap(van.Rood, naar.Rood, hoogte, y), Stap(van.Groen, naar.Groen, hoogte, y),

@@ -12,22 +12,22 @@
 namespace murvane {
 
 /// A colour; each component 0 to 255.
-struct Kleur {
+struct Verloopkleur {
   std::int16_t Rood = 0;
   std::int16_t Groen = 0;
   std::int16_t Blauw = 0;
 
-  friend bool operator==(const Kleur&, const Kleur&) = default;
+  friend bool operator==(const Verloopkleur&, const Verloopkleur&) = default;
 };
 
-inline constexpr Kleur SplashBegin{100, 0, 0};
-inline constexpr Kleur InfoBegin{120, 0, 0};
-inline constexpr Kleur VerloopEinde{0, 0, 0};
+inline constexpr Verloopkleur SplashBegin{100, 0, 0};
+inline constexpr Verloopkleur InfoBegin{120, 0, 0};
+inline constexpr Verloopkleur VerloopEinde{0, 0, 0};
 inline constexpr int SplashMs = 2000;  ///< how long the splash stands, unless a key or click ends it
 
 /// The gradient's lines from y = 0 to y = hoogte, each a colour rounded to whole components, a half to the
 /// even one. Fout 11 for a height of 0, Fout 5 for a negative one.
-[[nodiscard]] std::vector<Kleur> Verloop(Kleur van, Kleur naar, int hoogte);
+[[nodiscard]] std::vector<Verloopkleur> Verloop(Verloopkleur van, Verloopkleur naar, int hoogte);
 
 /// The texts of the splash window, Windows-1252.
 struct SplashTeksten {

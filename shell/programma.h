@@ -9,6 +9,7 @@
 #include "basis/tekst.h"
 #include "calc/resultaten.h"
 #include "catalogue/catfiles.h"
+#include "estimators/schatting.h"
 #include "project/records.h"
 #include "reports/grafiek.h"
 #include "reports/paginas.h"
@@ -26,15 +27,17 @@ struct Programma {
   murvane::Catalogi Catalogi;
   murvane::Resultaten Resultaten;      ///< of the last run
   murvane::Rapport Rapport;            ///< of the last run
+  murvane::SchatInvoer SchatInvoer;    ///< that each estimator had last
   murvane::Grafiek Grafiek;            ///< as the last Grafiek2 filled it
   std::int16_t KiesGrafiek = 0;        ///< kiesgrafiek: what the user chose to see in it
   VoorbeeldStand Voorbeeld;            ///< of the preview
   murvane::Instellingen Instellingen;  ///< written by mnuExit_Click only
 
-  std::filesystem::path DataDir;      ///< of murvane.set and the catalogues; fixed once the start is over
-  std::filesystem::path OpenBestand;  ///< the project that the command line named, until it was opened
-  DatumVeld Vandaag;                  ///< the day of the start
-  char Decimaal = ',';                ///< the region's decimal sign
+  std::filesystem::path DataDir;  ///< of murvane.set and the catalogues; fixed once the start is over
+  std::filesystem::path ProgrammaBestanden;  ///< of the manual and the notes on the delivered version
+  std::filesystem::path OpenBestand;         ///< the project that the command line named, until it was opened
+  DatumVeld Vandaag;                         ///< the day of the start
+  char Decimaal = ',';                       ///< the region's decimal sign
 
   /// The file name that stands in the file dialog: the one chosen last, or the project that was opened. The
   /// next dialog proposes it. Closing a project and making a new one empty it.

@@ -28,22 +28,19 @@ namespace murvane {
 
 namespace fs = std::filesystem;
 
-namespace {
-
 bool HeeftInstellingen(const fs::path& map) {
   std::error_code geen;
   return fs::is_regular_file(map / InstellingenNaam, geen);
 }
 
-}  // namespace
+fs::path MeegeleverdeMap(const fs::path& programmaMap) {
+  fs::path gedeeld = (programmaMap / ".." / "share" / "murvane").lexically_normal();
+  if (HeeftInstellingen(programmaMap / "data") || !HeeftInstellingen(gedeeld / "data")) return programmaMap;
+  return gedeeld;
+}
 
 fs::path DataMapVan(const fs::path& huidigeMap, const fs::path& programmaMap) {
-  fs::path eigen = programmaMap / "data";
-  const fs::path gedeeld = (programmaMap / ".." / "share" / "murvane" / "data").lexically_normal();
-  for (const fs::path& map : {huidigeMap, eigen, gedeeld}) {
-    if (HeeftInstellingen(map)) return map;
-  }
-  return eigen;
+  return HeeftInstellingen(huidigeMap) ? huidigeMap : MeegeleverdeMap(programmaMap) / "data";
 }
 
 fs::path StandaardDataMap() {

@@ -18,6 +18,13 @@ inline constexpr const char* InstellingenNaam = "murvane.set";
 [[nodiscard]] std::filesystem::path DataMapVan(const std::filesystem::path& huidigeMap,
                                                const std::filesystem::path& programmaMap);
 
+/// Where the files stand that came with the program and are no programs (data/, help/, levering.txt): the
+/// program's directory or, of an installed program, "../share/murvane" beside it.
+[[nodiscard]] std::filesystem::path MeegeleverdeMap(const std::filesystem::path& programmaMap);
+
+/// Whether a directory holds a settings file.
+[[nodiscard]] bool HeeftInstellingen(const std::filesystem::path& map);
+
 /// The project file that a command line names, taken whole as one path, in double quotes or not (UTF-8 in and
 /// out). Empty unless its last three characters are "mrv" in any case.
 [[nodiscard]] std::string OpenBestandUit(std::string_view opdrachtregel);

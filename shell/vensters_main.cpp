@@ -7,10 +7,15 @@
 #include <chrono>
 #include <filesystem>
 #include <iostream>
+#include <optional>
 #include <system_error>
 
+#include "basis/bestand.h"
+#include "basis/vensters_stijl.h"
 #include "editor/vensters_dialogen.h"
 #include "shell/MDIMurvane.h"
+#include "shell/bureaublad.h"
+#include "shell/frmSplashII.h"
 #include "shell/opstart.h"
 #include "shell/rookproef.h"
 #include "shell/startup.h"
@@ -25,6 +30,26 @@ std::chrono::year_month_day Vandaag() {
           std::chrono::day(static_cast<unsigned>(datum.day()))};
 }
 
+std::filesystem::path Omgeving(const char* naam) {
+  return murvane::PadVan(qEnvironmentVariable(naam).toStdString());
+}
+
+murvane::Startplaats Plaats() {
+  std::error_code geen;
+  murvane::Startplaats plaats;
+  plaats.HuidigeMap = std::filesystem::current_path(geen);
+  plaats.ProgrammaMap = murvane::ProgrammaMap();
+#ifdef Q_OS_WIN
+  plaats.GebruikersMap = murvane::GebruikersDataMap({Omgeving("APPDATA"), {}, {}});
+  plaats.ZonderVariabele = true;
+#else
+  plaats.GebruikersMap = murvane::GebruikersDataMap({{}, Omgeving("XDG_DATA_HOME"), Omgeving("HOME")});
+#endif
+  plaats.Bureaublad = murvane::IsBureaublad(qEnvironmentVariable(murvane::BureaubladVariabele).toStdString());
+  qunsetenv(murvane::BureaubladVariabele);  // it says nothing of the programs that this one starts
+  return plaats;
+}
+
 /// Ends the program as soon as a window has been painted, with all that is in it.
 class NaEersteBeeld : public QObject {
  protected:
@@ -37,16 +62,27 @@ class NaEersteBeeld : public QObject {
   }
 };
 
-/// From the start to the end of the program; the exit status.
+/// From the start to the end of the program; the exit status. The program loads behind the splash, which
+/// then gives way to the main window: after its time, or at once at a click or key.
 int Draai(murvane::Dialogen& dialogen, const murvane::StartGegevens& start, bool rookproef) {
+  std::optional<murvane::frmSplashII> splash;
+  if (!rookproef) splash.emplace().Toon();
   murvane::Programma programma;
+  programma.ProgrammaBestanden = murvane::MeegeleverdeMap(murvane::ProgrammaMap());
   if (murvane::MDIForm_Load(programma, dialogen, start) == murvane::Vervolg::Einde) return 0;
   murvane::MDIMurvane hoofdvenster(programma, dialogen);
   NaEersteBeeld naEersteBeeld;
   if (rookproef) hoofdvenster.installEventFilter(&naEersteBeeld);
   hoofdvenster.resize(1024, 740);
-  hoofdvenster.show();
-  hoofdvenster.OpenVanOpdrachtregel();
+  const auto toon = [&] {
+    hoofdvenster.show();
+    hoofdvenster.OpenVanOpdrachtregel();
+  };
+  if (!splash || splash->IsVoorbij()) {
+    toon();
+  } else {
+    QObject::connect(&*splash, &murvane::frmSplashII::Voorbij, &hoofdvenster, toon);
+  }
   return QApplication::exec();
 }
 
@@ -56,6 +92,8 @@ int main(int argc, char** argv) {
   const char decimaal = murvane::RegionaalDecimaalteken();
   murvane::Toepassing toepassing(argc, argv);
   QApplication::setApplicationName("MurVane");
+  QApplication::setDesktopFileName("murvane");
+  murvane::ZetStijl(toepassing);
   QLocale::setDefault(QLocale(QLocale::Dutch, QLocale::Netherlands));
   QTranslator vertaling;
   if (murvane::LaadVertaling(vertaling)) QCoreApplication::installTranslator(&vertaling);
@@ -66,9 +104,9 @@ int main(int argc, char** argv) {
   murvane::Dialogen& dialogen = rookproef ? static_cast<murvane::Dialogen&>(stil) : scherm;
   toepassing.ZetDialogen(&dialogen);
   const std::string opdrachtregel = QApplication::arguments().mid(1).join(' ').toStdString();
-  std::error_code geen;
-  const murvane::StartGegevens start{std::filesystem::current_path(geen), murvane::DatumTekst(Vandaag()),
-                                     opdrachtregel, decimaal};
+  const murvane::Werkplek werkplek = murvane::KiesWerkplek(dialogen, Plaats(), opdrachtregel);
+  const murvane::StartGegevens start{werkplek.Map, murvane::DatumTekst(Vandaag()), werkplek.Opdrachtregel,
+                                     decimaal};
   const int status = Draai(dialogen, start, rookproef);
   return stil.IetsGevraagd() ? 1 : status;
 }

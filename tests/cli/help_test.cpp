@@ -108,6 +108,7 @@ TEST(Help, RequiredOptionsStandInTheUsageLine) {
               HasSubstr("Gebruik: murvane-cli maak PROJECT.json -o BESTAND [OPTIES]\n"));
   EXPECT_THAT(HelpTekst(Opdracht::Reken), HasSubstr("Gebruik: murvane-cli reken PROJECT.mrv... [OPTIES]\n"));
   EXPECT_THAT(HelpTekst(Opdracht::Programma), HasSubstr("Gebruik: murvane-cli OPDRACHT [OPTIES]\n"));
+  EXPECT_THAT(HelpTekst(Opdracht::SchatPlenum), HasSubstr("Gebruik: murvane-cli schat plenum [OPTIES]\n"));
 }
 
 TEST(Help, OfTheProgramThatPrintsNamesItAndItsOptions) {

@@ -28,8 +28,8 @@ const Verkeerd Gevallen[] = {
     {{"Reken", "x.mrv"}, "Onbekende opdracht: Reken", ""},
     {{"bereken", "--prn", "x"}, "Onbekende opdracht: bereken", ""},
     {{"--taal"}, "Onbekende optie: --taal", ""},
-    {{"catalogus"}, "Achter catalogus hoort toon of maak.", ""},
-    {{"catalogus", "wis", "Fan.dat"}, "Achter catalogus hoort toon of maak.", ""},
+    {{"catalogus"}, "Achter catalogus hoort toon, maak of sorteer.", ""},
+    {{"catalogus", "wis", "Fan.dat"}, "Achter catalogus hoort toon, maak of sorteer.", ""},
     {{"reken"}, "PROJECT.mrv ontbreekt.", "reken "},
     {{"reken", "--"}, "PROJECT.mrv ontbreekt.", "reken "},
     {{"reken", ""}, "Een bestandsnaam is leeg.", "reken "},
@@ -99,6 +99,17 @@ const Verkeerd Gevallen[] = {
      "catalogus toon "},
     {{"catalogus", "maak", "x.json"}, "Optie -o BESTAND ontbreekt.", "catalogus maak "},
     {{"catalogus", "maak", "-o", "x.dat"}, "BESTAND.json ontbreekt.", "catalogus maak "},
+    {{"schat"}, "Achter schat hoort bekleed, kwartlambda, plenum, kanaalwand of ventilator.", ""},
+    {{"schat", "raam"}, "Achter schat hoort bekleed, kwartlambda, plenum, kanaalwand of ventilator.", ""},
+    {{"schat", "bekleed", "500"}, "Onverwacht argument: 500", "schat bekleed "},
+    {{"schat", "bekleed", "--S2", "1"}, "Onbekende optie: --S2", "schat bekleed "},
+    {{"schat", "kwartlambda", "--Dikte", "1"}, "Onbekende optie: --Dikte", "schat kwartlambda "},
+    {{"schat", "plenum", "--l", "1"}, "Onbekende optie: --l", "schat plenum "},
+    {{"schat", "plenum", "--h"}, "Achter --h ontbreekt MM.", "schat plenum "},
+    {{"schat", "kanaalwand", "--h", "1"}, "Onbekende optie: --h", "schat kanaalwand "},
+    {{"schat", "ventilator", "--FanDruk", "1", "--FanDruk", "2"},
+     "Optie --FanDruk staat er meer dan één keer.",
+     "schat ventilator "},
 };
 
 TEST_P(VerkeerdGebruik, IsToldInDutchWithAHintAndStatus64) {
@@ -138,8 +149,9 @@ TEST(Ontleed, TakesEveryOptionWithAValueInBothForms) {
     for (const OpdrachtRegel& regel : Opdrachten) {
       if (!Kent(optie, regel.Code) || regel.Code == Opdracht::Programma) continue;
       const std::string naam(EersteNaam(optie));
-      Woorden kaal{"x"};
-      if (!optie.Verplicht && (regel.Code == Opdracht::Maak || regel.Code == Opdracht::CatalogusMaak))
+      Woorden kaal;
+      if (!regel.Argument.empty()) kaal.emplace_back("x");
+      if (!optie.Verplicht && Kent(RegelVan(Optie::UitvoerMaak), regel.Code))
         kaal.insert(kaal.end(), {"-o", "y"});
       if (!optie.Verplicht && regel.Code == Opdracht::Druk) kaal.insert(kaal.end(), {"--pdf", "y"});
       Woorden los = kaal;

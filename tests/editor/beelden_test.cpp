@@ -25,10 +25,11 @@ using testing::Key;
 const std::filesystem::path Bron = MURVANE_BRON;
 const std::set<std::string> Kleuren = {"#111111", "#888888", "#3a6ea5"};
 
-/// A drawing, and of each field of its page that has a place in it the letters that stand there.
+/// A drawing, and of each field of its page or window that has a place in it the letters that stand there.
 struct Tekening {
   const char* naam;
   std::map<std::string, std::string> letters;
+  const char* map = "editor";  ///< whose drawing it is
 };
 
 const std::vector<Tekening>& Tekeningen() {
@@ -63,15 +64,25 @@ const std::vector<Tekening>& Tekeningen() {
       {"doorsnede-rond", {{"txtH1Doorsnee", "D1"}, {"txtH2Doorsnee", "D2"}, {"txtLDoorsnee", "l"}}},
       {"kanaal-recht", {{"txtHoogte", "h"}, {"txtBreedte", "b"}, {"txtLengte", "l"}, {"txtDebiet", "q"}}},
       {"kanaal-rond", {{"txtHoogte", "D"}, {"txtLengte", "l"}, {"txtDebiet", "q"}}},
+      {"keten", {}},
       {"regelklep", {{"txtWeerstand", "Δp"}}},
       {"rooster", {{"txtSnetto", "S"}, {"txtWeerstand", "Δp"}}},
+      {"ruimte", {{"txtRLengte", "l"}, {"txtRBreedte", "b"}, {"txtRHoogte", "h"}}},
+      {"bekleed-kanaal", {{"Text1", "h"}, {"Text2", "b"}, {"Text3", "d"}, {"Text4", "l"}}, "estimators"},
+      {"kanaalwand", {{"txtDikte", "d"}, {"txtMassa", "m"}}, "estimators"},
+      {"kwartlambda-demper", {{"Text1", "h"}, {"Text2", "b"}, {"Text3", "l"}, {"Text4", "S2"}}, "estimators"},
+      {"plenumdemper",
+       {{"Text1", "hp"}, {"Text2", "bp"}, {"Text3", "l"}, {"Text4", "h"}, {"Text5", "b"}, {"Text6", "d"}},
+       "estimators"},
   };
   return tabel;
 }
 
 const std::vector<std::string> Pictogrammen = {
-    "begin",   "berekend", "eind",    "grafiek", "invoegen",  "kalender", "omhoog",    "omlaag",
-    "opslaan", "pdf",      "printen", "terug",   "toevoegen", "volgende", "voorbeeld", "wissen"};
+    "begin",  "berekend",  "calculator", "eind",          "exit",     "gebruiker",   "grafiek", "help",
+    "info",   "invoegen",  "kalender",   "kanaalelement", "letter",   "luchtkanaal", "nieuw",   "omhoog",
+    "omlaag", "openen",    "opslaan",    "pdf",           "plafond",  "printen",     "reken",   "sluiten",
+    "terug",  "toevoegen", "type",       "ventilator",    "volgende", "voorbeeld",   "wissen"};
 
 using Kenmerken = std::map<std::string, std::string>;
 
@@ -158,8 +169,8 @@ Ontleed OntleedSvg(std::string_view bytes) {
   return uit;
 }
 
-std::filesystem::path TekeningPad(const std::string& naam) {
-  return Bron / "editor/beelden" / (naam + ".svg");
+std::filesystem::path TekeningPad(const Tekening& tekening) {
+  return Bron / tekening.map / "beelden" / (std::string(tekening.naam) + ".svg");
 }
 std::filesystem::path PictogramPad(const std::string& naam) {
   return Bron / "shell/beelden" / (naam + ".svg");
@@ -202,7 +213,7 @@ std::vector<std::string> NamenIn(const std::filesystem::path& map) {
 /// Every picture that follows the theme.
 std::vector<std::filesystem::path> Themabeelden() {
   std::vector<std::filesystem::path> paden;
-  for (const Tekening& tekening : Tekeningen()) paden.push_back(TekeningPad(tekening.naam));
+  for (const Tekening& tekening : Tekeningen()) paden.push_back(TekeningPad(tekening));
   for (const std::string& naam : Pictogrammen) paden.push_back(PictogramPad(naam));
   return paden;
 }
@@ -223,10 +234,13 @@ TEST(Beelden, TheReaderFindsWhatIsNotWellFormed) {
   EXPECT_NE(OntleedSvg("<svg/>").fout, "");
 }
 
-TEST(Beelden, EveryElementTypeHasItsDrawingAndNothingElseLiesThere) {
-  std::vector<std::string> namen;
-  for (const Tekening& tekening : Tekeningen()) namen.push_back(std::string(tekening.naam) + ".svg");
-  EXPECT_THAT(NamenIn(Bron / "editor/beelden"), ElementsAreArray(namen));
+TEST(Beelden, EveryElementTypeEstimatorChainAndRoomHasItsDrawingAndNothingElseLiesThere) {
+  for (const std::string map : {"editor", "estimators"}) {
+    std::vector<std::string> namen;
+    for (const Tekening& tekening : Tekeningen())
+      if (tekening.map == map) namen.push_back(std::string(tekening.naam) + ".svg");
+    EXPECT_THAT(NamenIn(Bron / map / "beelden"), ElementsAreArray(namen));
+  }
 }
 
 TEST(Beelden, EveryCommandHasItsIconAndNothingElseLiesThere) {
@@ -256,7 +270,7 @@ void VerwachtMaat(const std::filesystem::path& pad, const std::string& breed, co
 }
 
 TEST(Beelden, HaveTheSizeOfTheirFamily) {
-  for (const Tekening& tekening : Tekeningen()) VerwachtMaat(TekeningPad(tekening.naam), "480", "300");
+  for (const Tekening& tekening : Tekeningen()) VerwachtMaat(TekeningPad(tekening), "480", "300");
   for (const std::string& naam : Pictogrammen) VerwachtMaat(PictogramPad(naam), "24", "24");
   VerwachtMaat(PictogramPad("murvane"), "256", "256");
 }
@@ -326,7 +340,7 @@ TEST(Beelden, EveryShapeTakesItsColoursFromAGroup) {
 TEST(Beelden, ADrawingHasAGroupForEachVisibleFieldAndForNoOther) {
   for (const Tekening& tekening : Tekeningen()) {
     std::vector<std::string> groepen;
-    for (const Knoop& knoop : OntleedSvg(proef::Lees(TekeningPad(tekening.naam))).knopen) {
+    for (const Knoop& knoop : OntleedSvg(proef::Lees(TekeningPad(tekening))).knopen) {
       if (Kenmerk(knoop, "id").empty()) continue;
       EXPECT_EQ(knoop.naam, "g") << tekening.naam;
       groepen.push_back(Kenmerk(knoop, "id"));
@@ -339,7 +353,7 @@ TEST(Beelden, ADrawingHasAGroupForEachVisibleFieldAndForNoOther) {
 
 TEST(Beelden, TheLettersOfADimensionStandInItsGroupAndNowhereElse) {
   for (const Tekening& tekening : Tekeningen()) {
-    const Ontleed svg = OntleedSvg(proef::Lees(TekeningPad(tekening.naam)));
+    const Ontleed svg = OntleedSvg(proef::Lees(TekeningPad(tekening)));
     for (std::size_t i = 0; i < svg.knopen.size(); ++i) {
       if (svg.knopen[i].naam != "g") continue;
       std::string letters;
@@ -353,7 +367,7 @@ TEST(Beelden, TheLettersOfADimensionStandInItsGroupAndNowhereElse) {
 // The window lights a dimension up by the colour of its group alone.
 TEST(Beelden, AGroupOfAFieldHasOneColourForAllThatIsInIt) {
   for (const Tekening& tekening : Tekeningen()) {
-    const Ontleed svg = OntleedSvg(proef::Lees(TekeningPad(tekening.naam)));
+    const Ontleed svg = OntleedSvg(proef::Lees(TekeningPad(tekening)));
     for (std::size_t i = 0; i < svg.knopen.size(); ++i) {
       const std::string veld = Kenmerk(svg.knopen[i], "id");
       if (veld.empty()) continue;
@@ -372,7 +386,7 @@ TEST(Beelden, AGroupOfAFieldHasOneColourForAllThatIsInIt) {
 
 TEST(Beelden, ADimensionHasALineAnArrowHeadAndALetter) {
   for (const Tekening& tekening : Tekeningen()) {
-    const Ontleed svg = OntleedSvg(proef::Lees(TekeningPad(tekening.naam)));
+    const Ontleed svg = OntleedSvg(proef::Lees(TekeningPad(tekening)));
     for (std::size_t i = 0; i < svg.knopen.size(); ++i) {
       if (Kenmerk(svg.knopen[i], "id").empty()) continue;
       std::map<std::string, int> aantal;
@@ -388,7 +402,7 @@ TEST(Beelden, ADimensionHasALineAnArrowHeadAndALetter) {
 
 TEST(Beelden, LettersHaveOneFontAndTwoSizes) {
   for (const Tekening& tekening : Tekeningen()) {
-    const Ontleed svg = OntleedSvg(proef::Lees(TekeningPad(tekening.naam)));
+    const Ontleed svg = OntleedSvg(proef::Lees(TekeningPad(tekening)));
     for (std::size_t i = 0; i < svg.knopen.size(); ++i) {
       if (Kenmerk(svg.knopen[i], "id").empty()) continue;
       EXPECT_EQ(Kenmerk(svg.knopen[i], "font-family"), "sans-serif") << tekening.naam;
@@ -403,7 +417,7 @@ TEST(Beelden, LettersHaveOneFontAndTwoSizes) {
 
 TEST(Beelden, EveryDrawingShowsTheAirInTheAccentColour) {
   for (const Tekening& tekening : Tekeningen()) {
-    const std::string bytes = proef::Lees(TekeningPad(tekening.naam));
+    const std::string bytes = proef::Lees(TekeningPad(tekening));
     EXPECT_NE(bytes.find("#3a6ea5"), std::string::npos) << tekening.naam;
   }
 }
@@ -411,7 +425,7 @@ TEST(Beelden, EveryDrawingShowsTheAirInTheAccentColour) {
 // All commands are absolute. Drawings use M, L, C and Z alone, so that their numbers are x and y in turn.
 TEST(Beelden, NoLineLeavesTheDrawing) {
   for (const Tekening& tekening : Tekeningen()) {
-    for (const Knoop& knoop : OntleedSvg(proef::Lees(TekeningPad(tekening.naam))).knopen) {
+    for (const Knoop& knoop : OntleedSvg(proef::Lees(TekeningPad(tekening))).knopen) {
       const std::string pad = Kenmerk(knoop, "d");
       EXPECT_EQ(pad.find_first_of("HV"), std::string::npos) << tekening.naam;
       const std::vector<double> getallen = Getallen(pad);
@@ -425,7 +439,7 @@ TEST(Beelden, NoLineLeavesTheDrawing) {
 // A letter is at most 19 high and some 30 wide with its index.
 TEST(Beelden, NoLetterLeavesTheDrawing) {
   for (const Tekening& tekening : Tekeningen()) {
-    for (const Knoop& knoop : OntleedSvg(proef::Lees(TekeningPad(tekening.naam))).knopen) {
+    for (const Knoop& knoop : OntleedSvg(proef::Lees(TekeningPad(tekening))).knopen) {
       if (knoop.naam != "text") continue;
       const double x = Getallen(Kenmerk(knoop, "x")).at(0);
       const double y = Getallen(Kenmerk(knoop, "y")).at(0);

@@ -465,5 +465,24 @@ TEST(KanaalKeuze, PutsThePlaceholderBack) {
   EXPECT_EQ(project.Elementen[0].Kanaal.Getrimd(), "");
 }
 
+TEST(MaatOpschrift, SaysDiameterOfWhatIsRound) {
+  struct Rij {
+    std::string_view Veld;
+    std::int16_t Recht, Rond;
+    std::string_view Hoogte, Diameter;
+  };
+  for (const Rij& rij : {Rij{"txtHoogte", 8, 9, "Hoogte", "Diameter"},
+                         {"txtHoogte", 3, 5, "Hoogte", "Diameter"},
+                         {"txtHoogte", 4, 5, "Hoogte", "Diameter"},
+                         {"txtHAftak", 1, 2, "Hoogte aftakking", "Diameter aftakking"},
+                         {"txtH1Doorsnee", 6, 7, "Hoogte intrede", "Diameter intrede"},
+                         {"txtH2Doorsnee", 6, 7, "Hoogte uittrede", "Diameter uittrede"}}) {
+    EXPECT_EQ(MaatOpschrift(rij.Recht, rij.Veld), rij.Hoogte);
+    EXPECT_EQ(MaatOpschrift(rij.Rond, rij.Veld), rij.Diameter);
+  }
+  for (const char* const ander : {"txtHHoofd", "txtHDoor", "txtBreedte", "txtLengte"})
+    EXPECT_EQ(MaatOpschrift(2, ander), "") << ander;
+}
+
 }  // namespace
 }  // namespace murvane

@@ -25,7 +25,8 @@ std::string Woorden(const BestandVraag& v) {
          (v.Extensie.empty() ? "" : " extension {" + v.Extensie + "}");
 }
 std::string Woorden(const AfdrukVraag& v) {
-  return std::string("print dialog") + (v.NaarBestandMogelijk ? " to-file" : "");
+  return std::string("print dialog") + (v.NaarBestandMogelijk ? " to-file" : "") +
+         (v.Liggend ? " landscape" : "") + " {" + std::string(v.Document) + "}";
 }
 
 }  // namespace
@@ -38,8 +39,8 @@ Script& Script::Voeg(Stap stap) {
 Script& Script::Box(const Melding& melding, Antwoord antwoord, Intussen intussen) {
   return Voeg({Woorden(melding), antwoord, {}, {}, std::move(intussen), {}});
 }
-Script& Script::InvoerBox(const InvoerVraag& vraag, const std::string& antwoord) {
-  return Voeg({Woorden(vraag), {}, antwoord, {}, {}, {}});
+Script& Script::InvoerBox(const InvoerVraag& vraag, const std::string& antwoord, Intussen intussen) {
+  return Voeg({Woorden(vraag), {}, antwoord, {}, std::move(intussen), {}});
 }
 Script& Script::Open(const BestandVraag& vraag, std::optional<fs::path> antwoord, Intussen intussen) {
   return Voeg({"open" + Woorden(vraag), {}, {}, std::move(antwoord), std::move(intussen), {}});

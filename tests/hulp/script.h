@@ -25,7 +25,7 @@ class Script final : public Dialogen {
   ~Script() override { IsKlaar(); }
 
   Script& Box(const Melding& melding, Antwoord antwoord = Antwoord::OK, Intussen intussen = {});
-  Script& InvoerBox(const InvoerVraag& vraag, const std::string& antwoord);
+  Script& InvoerBox(const InvoerVraag& vraag, const std::string& antwoord, Intussen intussen = {});
   /// Without an answer the dialog is cancelled.
   Script& Open(const BestandVraag& vraag, std::optional<std::filesystem::path> antwoord,
                Intussen intussen = {});

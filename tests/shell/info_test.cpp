@@ -13,13 +13,13 @@ namespace {
 TEST(Verloop, RunsFromTheFirstColourToTheLast) {
   // 100 over 4 lines: 100, 75, 50, 25, 0
   EXPECT_EQ(Verloop({100, 0, 0}, {0, 0, 0}, 4),
-            (std::vector<Kleur>{{100, 0, 0}, {75, 0, 0}, {50, 0, 0}, {25, 0, 0}, {0, 0, 0}}));
+            (std::vector<Verloopkleur>{{100, 0, 0}, {75, 0, 0}, {50, 0, 0}, {25, 0, 0}, {0, 0, 0}}));
 }
 
 TEST(Verloop, RoundsAHalfToTheEvenComponent) {
   // red falls by 2.5, green rises by 1.5, blue stays: 10, 7.5, 5, 2.5, 0 and 0, 1.5, 3, 4.5, 6
   EXPECT_EQ(Verloop({10, 0, 7}, {0, 6, 7}, 4),
-            (std::vector<Kleur>{{10, 0, 7}, {8, 2, 7}, {5, 3, 7}, {2, 4, 7}, {0, 6, 7}}));
+            (std::vector<Verloopkleur>{{10, 0, 7}, {8, 2, 7}, {5, 3, 7}, {2, 4, 7}, {0, 6, 7}}));
 }
 
 TEST(Verloop, NeedsAHeight) {
@@ -28,9 +28,9 @@ TEST(Verloop, NeedsAHeight) {
 }
 
 TEST(Verloop, TheTwoWindowsDifferInTheirRed) {
-  EXPECT_EQ(SplashBegin, (Kleur{100, 0, 0}));
-  EXPECT_EQ(InfoBegin, (Kleur{120, 0, 0}));
-  EXPECT_EQ(VerloopEinde, (Kleur{0, 0, 0}));
+  EXPECT_EQ(SplashBegin, (Verloopkleur{100, 0, 0}));
+  EXPECT_EQ(InfoBegin, (Verloopkleur{120, 0, 0}));
+  EXPECT_EQ(VerloopEinde, (Verloopkleur{0, 0, 0}));
   EXPECT_EQ(SplashMs, 2000);
 }
 

@@ -28,8 +28,8 @@ TEST(Rookproef, CancelsEveryQuestionAndWritesItDown) {
             Antwoord::Cancel);
   EXPECT_TRUE(stil.IetsGevraagd());
   EXPECT_EQ(stil.Invoer({"Naam", "Uw naam", "A"}), "");
-  EXPECT_EQ(proef::NummerVan([&] { return stil.OpenDialoog({"Openen", "Project|*.mrv"}); }), 32755);
-  EXPECT_EQ(proef::NummerVan([&] { return stil.OpslaanDialoog({"Opslaan als", "P|*.mrv"}); }), 32755);
+  EXPECT_EQ(proef::NummerVan([&] { return stil.OpenDialoog({"Openen", "Project|*.mrv", {}, {}}); }), 32755);
+  EXPECT_EQ(proef::NummerVan([&] { return stil.OpslaanDialoog({"Opslaan als", "P|*.mrv", {}, {}}); }), 32755);
   EXPECT_EQ(proef::NummerVan([&] { return stil.AfdrukDialoog({}).Exemplaren; }), 32755);
   EXPECT_EQ(uit.str(),
             "Titel: Geluid h×b?\nNaam: Uw naam\nOpenen: Project|*.mrv\nOpslaan als: P|*.mrv\nAfdrukken: \n");

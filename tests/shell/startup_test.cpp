@@ -42,6 +42,14 @@ TEST_F(Startmap, DataIsFirstSoughtHereThenByTheProgramThenInItsShare) {
   EXPECT_EQ(DataMap(), map_ / "werk");
 }
 
+TEST_F(Startmap, WhatCameWithTheProgramStandsByItOrInItsShare) {
+  EXPECT_EQ(MeegeleverdeMap(map_ / "usr/bin"), map_ / "usr/bin");  // nowhere: where it should have been
+  ZetInstellingen("usr/share/murvane/data");
+  EXPECT_EQ(MeegeleverdeMap(map_ / "usr/bin"), map_ / "usr/share/murvane");
+  ZetInstellingen("usr/bin/data");
+  EXPECT_EQ(MeegeleverdeMap(map_ / "usr/bin"), map_ / "usr/bin");
+}
+
 TEST_F(Startmap, ADirectoryOfThatNameIsNoSettingsFile) {
   fs::create_directory(map_ / "werk/murvane.set");
   ZetInstellingen("usr/share/murvane/data");

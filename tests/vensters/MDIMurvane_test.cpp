@@ -26,69 +26,10 @@
 #include "shell/vensters_toepassing.h"
 #include "tests/hulp/bestanden.h"
 #include "tests/hulp/script.h"
+#include "tests/vensters/opstelling.h"
 
 namespace murvane {
 namespace {
-
-const std::filesystem::path Data = std::filesystem::path(MURVANE_BRON) / "data";
-
-const Melding VraagSluiten{
-    MeldingSoort::Vraag, "Bestand sluiten",
-    "Wilt u het bestand sluiten zonder data-opslag van eventueel ingevoerde/gewijzigde "
-    "bestandsgegevens?",
-    Knoppen::OkCancel};
-const Melding VraagOpslaan{MeldingSoort::Vraag, "Programma afsluiten", "Geopend bestand eerst opslaan?",
-                           Knoppen::YesNo};
-
-/// The main window with the program's own catalogues; DataDir is a directory of the test.
-class Hoofdvenster : public testing::Test {
- protected:
-  Hoofdvenster() : script([](const std::string& fout) { ADD_FAILURE() << fout; }) {
-    programma.Catalogi = LeesCatalogi(Data);
-    programma.DataDir = map.Pad();
-    programma.Vandaag = std::string_view("20-11-2026");
-    programma.Instellingen.Gebruikersnaam = std::string_view("Proefbureau");
-    venster = std::make_unique<MDIMurvane>(programma, script);
-    venster->resize(1024, 740);
-    venster->show();
-    QApplication::setActiveWindow(venster.get());
-  }
-
-  QAction* Actie(const char* naam) {
-    auto* actie = venster->findChild<QAction*>(naam);
-    if (actie == nullptr) throw std::runtime_error(std::string("geen ") + naam);
-    return actie;
-  }
-  void Kies(const char* naam) { Actie(naam)->trigger(); }
-  QString Paneel(int nummer) {
-    return venster->findChild<QLabel*>("StatusBar1_" + QString::number(nummer))->text();
-  }
-  void Open(const char* naam) {
-    programma.OpenBestand = Data / naam;
-    venster->OpenVanOpdrachtregel();
-  }
-  frmMurvane* ProjectVenster() { return venster->findChild<frmMurvane*>("frmMurvane"); }
-  frmResultaat* Resultaat() { return venster->findChild<frmResultaat*>("frmResultaat"); }
-
-  std::vector<std::string> Aan() {
-    std::vector<std::string> uit;
-    for (const char* naam :
-         {"mnuNieuw", "mnuOpen", "mnuReken", "mnuPreview", "mnuSluiten", "mnuOpslaan", "mnuExit"}) {
-      if (Actie(naam)->isEnabled()) uit.emplace_back(naam);
-    }
-    return uit;
-  }
-
-  proef::TijdelijkeMap map;
-  proef::Script script;
-  Programma programma;
-  std::unique_ptr<MDIMurvane> venster;
-};
-
-using Namen = std::vector<std::string>;
-const Namen GeenProject = {"mnuNieuw", "mnuOpen", "mnuExit"};
-const Namen NietBerekend = {"mnuReken", "mnuSluiten", "mnuOpslaan", "mnuExit"};
-const Namen WelBerekend = {"mnuPreview", "mnuSluiten", "mnuOpslaan", "mnuExit"};
 
 QStringList Opschriften(const QMenu* menu) {
   QStringList uit;

@@ -26,95 +26,10 @@
 #include "editor/vensters_veld.h"
 #include "project/projectfile.h"
 #include "tests/hulp/script.h"
+#include "tests/vensters/opstelling.h"
 
 namespace murvane {
 namespace {
-
-const std::filesystem::path Data = std::filesystem::path(MURVANE_BRON) / "data";
-constexpr std::array<const char*, 3> Voorbeelden = {"kantoor.mrv", "plafond.mrv", "overspraak.mrv"};
-
-/// The project window with the program's own catalogues, at the size that a 1024x768 screen leaves it.
-class ProjectVenster : public testing::Test {
- protected:
-  ProjectVenster() : script([](const std::string& fout) { ADD_FAILURE() << fout; }) {
-    catalogi = LeesCatalogi(Data);
-    venster = std::make_unique<frmMurvane>(project, catalogi, script, "20-11-2026", ',');
-    venster->resize(1000, 640);
-    venster->show();
-    QApplication::setActiveWindow(venster.get());
-  }
-
-  void OpenVoorbeeld(const char* naam) {
-    project = LeesProject(Data / naam);
-    ZetGeopend(venster->DeSessie(), venster->DeLijst(), naam);
-    venster->ToonProject(true);
-  }
-
-  void Nieuw() {
-    Reset(venster->DeSessie(), venster->DeLijst(), project);
-    ZetNieuw(venster->DeSessie(), venster->DeLijst());
-    venster->ToonProject(true);
-  }
-
-  template <typename Soort>
-  Soort* Zoek(const QString& naam) {
-    auto* const gevonden = venster->findChild<Soort*>(naam);
-    if (gevonden == nullptr) throw std::runtime_error("no control " + naam.toStdString());
-    return gevonden;
-  }
-  QLineEdit* Veld(const QString& naam) { return Zoek<QLineEdit>(naam); }
-  QString Focus() { return venster->focusWidget() == nullptr ? "" : venster->focusWidget()->objectName(); }
-  void KiesTab(Tab tab) { Zoek<QTabWidget>("SSTab1")->setCurrentIndex(static_cast<int>(tab)); }
-  void NaarVeld(const QString& naam) { Veld(naam)->setFocus(Qt::TabFocusReason); }
-  void Typ(const QString& tekst) { QTest::keyClicks(QApplication::focusWidget(), tekst); }
-  void Druk(Qt::Key toets) { QTest::keyClick(QApplication::focusWidget(), toets); }
-  void KiesElement(int n) {
-    KiesTab(Tab::Kanaalelementen);
-    auto* const lijst = Zoek<QListWidget>("lstProject");
-    lijst->scrollToItem(lijst->item(n - 1));
-    QTest::mouseClick(lijst->viewport(), Qt::LeftButton, {},
-                      lijst->visualItemRect(lijst->item(n - 1)).center());
-  }
-  /// Selects a catalogue record by the keyboard; the focus stays in the list.
-  void KiesRecord(int record) {
-    KiesTab(Tab::Kanaalelementen);
-    auto* const lijst = Zoek<QListWidget>("lstTotaal");
-    lijst->setFocus(Qt::TabFocusReason);
-    Druk(Qt::Key_Home);
-    for (int n = 1; n < record; ++n) Druk(Qt::Key_Down);
-  }
-  /// Saves a picture in the directory that the environment names, if it does.
-  void Bewaar(const QString& naam) {
-    const QString map = qEnvironmentVariable("MURVANE_BEELDEN");
-    const QPixmap beeld = venster->grab();
-    EXPECT_FALSE(beeld.isNull());
-    for (const QWidget* const vak : venster->findChildren<QWidget*>()) {
-      const bool tekst =
-          qobject_cast<const QLabel*>(vak) != nullptr || qobject_cast<const QAbstractButton*>(vak) != nullptr;
-      if (!tekst || !vak->isVisible()) continue;
-      EXPECT_GE(vak->width(), vak->sizeHint().width()) << vak->objectName().toStdString();
-      EXPECT_GE(vak->height(), vak->sizeHint().height()) << vak->objectName().toStdString();
-    }
-    if (!map.isEmpty()) {
-      EXPECT_TRUE(beeld.save(map + "/" + naam + ".png"));
-    }
-  }
-  void MaakBerekend() {
-    (void)Berekend(venster->DeSessie(), vlag::Berekend, "");
-    ASSERT_EQ(venster->DeSessie().Toestand, Toestand::Berekend);
-  }
-  bool IsRood(const QString& naam) {
-    return Veld(naam)->palette().color(QPalette::Base) == KleurVan(FoutKleur);
-  }
-  static Melding Waarschuwing(const std::string& tekst) {
-    return {MeldingSoort::Uitroep, "Waarschuwing", tekst};
-  }
-
-  proef::Script script;
-  Project project;
-  Catalogi catalogi;
-  std::unique_ptr<frmMurvane> venster;
-};
 
 TEST_F(ProjectVenster, StartsWithoutAProject) {
   EXPECT_EQ(venster->windowTitle(), "versie 6.7 - MurVane");
@@ -134,7 +49,7 @@ TEST_F(ProjectVenster, HasFourTabsAndFivePages) {
 }
 
 TEST_F(ProjectVenster, ShowsWhatTabSettingsSays) {
-  for (const char* const naam : Voorbeelden) {
+  for (const char* const naam : VoorbeeldNamen) {
     OpenVoorbeeld(naam);
     const VensterBeeld beeld = TabSettings(project, catalogi, ',');
     EXPECT_EQ(Zoek<QTabWidget>("SSTab1")->currentIndex(), 3);
@@ -165,7 +80,7 @@ TEST_F(ProjectVenster, FillingRaisesNoChange) {
 }
 
 TEST_F(ProjectVenster, ShowsEveryElementsPage) {
-  for (const char* const naam : Voorbeelden) {
+  for (const char* const naam : VoorbeeldNamen) {
     OpenVoorbeeld(naam);
     for (int n = 1; n <= project.ElementCount; ++n) {
       KiesElement(n);
@@ -473,7 +388,7 @@ TEST_F(ProjectVenster, TheFreeFieldLeavesTheDirectivity) {
 }
 
 TEST_F(ProjectVenster, JudgesTheSamplesAsReadyToRun) {
-  for (const char* const naam : Voorbeelden) {
+  for (const char* const naam : VoorbeeldNamen) {
     OpenVoorbeeld(naam);
     EXPECT_TRUE(venster->NeemOverEnBeoordeel()) << naam;
   }
@@ -810,7 +725,13 @@ TEST_F(ProjectVenster, RefilledCataloguesKeepTheProject) {
   KiesRecord(5);
   const QString was = Zoek<QComboBox>("cmbRplafond")->currentText();
   MaakBerekend();
-  venster->VulCatalogi();
+  catalogi.CatElementen.Records[12].CatNaam = "anders";
+  --catalogi.CatFans.Aantal;
+  venster->VulElementen();
+  EXPECT_EQ(Zoek<QListWidget>("lstTotaal")->item(11)->text(), "anders");
+  EXPECT_EQ(Zoek<QListWidget>("lstFan")->count(), catalogi.CatFans.Aantal + 1);
+  venster->VulFans();
+  EXPECT_EQ(Zoek<QListWidget>("lstFan")->count(), catalogi.CatFans.Aantal);
   EXPECT_EQ(venster->DeLijst().CatalogusPositie, 0);
   EXPECT_EQ(Zoek<QListWidget>("lstTotaal")->currentRow(), -1);
   EXPECT_EQ(Zoek<QComboBox>("cmbRplafond")->currentText(), was);
@@ -838,7 +759,7 @@ TEST_F(ProjectVenster, StaysReadableInADarkTheme) {
 /// Pictures to look at, where a directory for them is named.
 TEST_F(ProjectVenster, CanBePictured) {
   const auto maak = [this](const QString& naam) { Bewaar(naam); };
-  for (const char* const naam : Voorbeelden) {
+  for (const char* const naam : VoorbeeldNamen) {
     OpenVoorbeeld(naam);
     maak(QString(naam) + "-project");
     KiesTab(Tab::Ruimtegegevens);

@@ -3,6 +3,7 @@
 #include <QStyleFactory>
 #include <iostream>
 
+#include "basis/vensters_stijl.h"
 #include "shell/vensters_toepassing.h"
 
 namespace {
@@ -17,8 +18,8 @@ void MeldBericht(QtMsgType, const QMessageLogContext&, const QString& bericht) {
 int main(int aantal, char** argumenten) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   qInstallMessageHandler(MeldBericht);
-  QApplication::setStyle(QStyleFactory::create("Fusion"));
-  const murvane::Toepassing toepassing(aantal, argumenten);
+  murvane::Toepassing toepassing(aantal, argumenten);
+  murvane::ZetStijl(toepassing, QStyleFactory::create("Fusion"));
   testing::InitGoogleTest(&aantal, argumenten);
   return RUN_ALL_TESTS();
 }

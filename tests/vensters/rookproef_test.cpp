@@ -18,8 +18,8 @@ struct Afloop {
   QString Geklaagd;
 };
 
-Afloop Start(const std::filesystem::path& map, const QStringList& argumenten = {}) {
-  QProcessEnvironment omgeving = QProcessEnvironment::systemEnvironment();
+Afloop Start(const std::filesystem::path& map, const QStringList& argumenten = {},
+             QProcessEnvironment omgeving = QProcessEnvironment::systemEnvironment()) {
   omgeving.insert("MURVANE_ROOKPROEF", "1");
   omgeving.insert("QT_QPA_PLATFORM", "offscreen");
   omgeving.insert("LSAN_OPTIONS",
@@ -61,6 +61,18 @@ TEST(Rookproef, FailsOnAProjectThatIsNotThere) {
   const Afloop afloop = Start(map.Pad(), {"elders.mrv"});
   EXPECT_EQ(afloop.Status, 1);
   EXPECT_TRUE(afloop.Geklaagd.contains("Bestand niet gevonden")) << afloop.Geklaagd.toStdString();
+}
+
+TEST(Rookproef, FromTheDesktopItWorksInTheUsersOwnDirectory) {
+  const proef::TijdelijkeMap map;
+  std::filesystem::create_directory(map / "projecten");
+  std::filesystem::copy_file(Data / "kantoor.mrv", map / "projecten" / "kantoor noord.mrv");
+  QProcessEnvironment omgeving = QProcessEnvironment::systemEnvironment();
+  omgeving.insert("MURVANE_BUREAUBLAD", "1");
+  omgeving.insert("XDG_DATA_HOME", QString::fromStdString((map / "gegevens").string()));
+  const Afloop afloop = Start(map / "projecten", {"kantoor noord.mrv"}, omgeving);
+  EXPECT_EQ(afloop.Status, 0) << afloop.Geklaagd.toStdString();
+  EXPECT_EQ(proef::Lees(map / "gegevens" / "murvane" / "murvane.set"), proef::Lees(Data / "murvane.set"));
 }
 
 TEST(Rookproef, FailsWithoutItsFiles) {

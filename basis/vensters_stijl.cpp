@@ -1,0 +1,157 @@
+#include "basis/vensters_stijl.h"
+
+#include <QAbstractItemView>
+#include <QAbstractScrollArea>
+#include <QApplication>
+#include <QEvent>
+#include <QPainter>
+#include <QStyleOption>
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <utility>
+
+namespace murvane {
+
+namespace {
+
+constexpr double LeesbaarVanaf = 4.0;  ///< somewhat under what WCAG 2.1 asks of text that is not disabled
+
+double Lineair(double deel) {
+  return deel <= 0.04045 ? deel / 12.92 : std::pow((deel + 0.055) / 1.055, 2.4);
+}
+
+double Helderheid(const QColor& kleur) {
+  return 0.2126 * Lineair(kleur.redF()) + 0.7152 * Lineair(kleur.greenF()) + 0.0722 * Lineair(kleur.blueF());
+}
+
+QColor Meng(const QColor& voor, const QColor& achter, double deel) {
+  const auto meng = [deel](int a, int b) { return static_cast<int>(std::lround(a * deel + b * (1 - deel))); };
+  return {meng(voor.red(), achter.red()), meng(voor.green(), achter.green()),
+          meng(voor.blue(), achter.blue())};
+}
+
+/// The palest blend of two colours that can be read on the second.
+QColor Flets(const QColor& tekst, const QColor& grond) {
+  for (const double deel : {0.5, 0.6, 0.7, 0.8, 0.9}) {
+    const QColor kleur = Meng(tekst, grond, deel);
+    if (Contrast(kleur, grond) >= LeesbaarVanaf) return kleur;
+  }
+  return tekst;
+}
+
+/// The program's, not the control's own: a list that is not active shows its row in grey.
+QColor Ringkleur() {
+  return QApplication::palette().color(QPalette::Highlight);
+}
+
+void Ring(QPainter& schilder, const QRect& plek, const QColor& kleur, int dikte) {
+  schilder.save();
+  schilder.setPen(QPen(kleur, dikte, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+  schilder.setBrush(Qt::NoBrush);
+  const double half = dikte / 2.0;
+  schilder.drawRect(QRectF(plek).adjusted(half, half, -half, -half));
+  schilder.restore();
+}
+
+/// A box to tick is as dark as its ground in a dark theme: its outline makes it seen.
+void Omtrek(QPainter& schilder, QStyle::PrimitiveElement deel, const QStyleOption& optie) {
+  if (deel != QStyle::PE_IndicatorCheckBox && deel != QStyle::PE_IndicatorRadioButton) return;
+  const QPalette& palet = optie.palette;
+  schilder.save();
+  schilder.setRenderHint(QPainter::Antialiasing);
+  schilder.setPen(Flets(palet.color(QPalette::WindowText), palet.color(QPalette::Window)));
+  schilder.setBrush(Qt::NoBrush);
+  const QRectF plek = QRectF(optie.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+  if (deel == QStyle::PE_IndicatorCheckBox) schilder.drawRect(plek);
+  if (deel == QStyle::PE_IndicatorRadioButton) schilder.drawEllipse(plek);
+  schilder.restore();
+}
+
+bool IsSchuifvak(const QWidget* vak) {
+  return qobject_cast<const QAbstractScrollArea*>(vak) != nullptr;
+}
+
+/// Applies Leesbaar whenever the system turns to another theme.
+class Themavolger : public QObject {
+ public:
+  using QObject::QObject;
+
+  static void PasToe() {
+    const QPalette nu = QApplication::palette();
+    const QPalette leesbaar = Leesbaar(nu);
+    if (leesbaar != nu) QApplication::setPalette(leesbaar);
+  }
+
+ protected:
+  bool eventFilter(QObject* object, QEvent* event) override {
+    if (object == qApp && event->type() == QEvent::ApplicationPaletteChange)
+      QMetaObject::invokeMethod(qApp, &Themavolger::PasToe, Qt::QueuedConnection);
+    return false;
+  }
+};
+
+}  // namespace
+
+double Contrast(const QColor& een, const QColor& ander) {
+  const double a = Helderheid(een);
+  const double b = Helderheid(ander);
+  return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+}
+
+QPalette Leesbaar(QPalette palet) {
+  constexpr std::array<std::pair<QPalette::ColorRole, QPalette::ColorRole>, 3> Paren = {
+      {{QPalette::WindowText, QPalette::Window},
+       {QPalette::ButtonText, QPalette::Button},
+       {QPalette::Text, QPalette::Window}}};
+  for (const auto& [tekst, grond] : Paren) {
+    const QColor kleur = Flets(palet.color(QPalette::Active, tekst), palet.color(QPalette::Active, grond));
+    palet.setColor(QPalette::Disabled, tekst, kleur);
+  }
+  return palet;
+}
+
+void Stijl::polish(QWidget* vak) {
+  QProxyStyle::polish(vak);
+  if (IsSchuifvak(vak)) vak->installEventFilter(this);
+}
+
+void Stijl::unpolish(QWidget* vak) {
+  if (IsSchuifvak(vak)) vak->removeEventFilter(this);
+  QProxyStyle::unpolish(vak);
+}
+
+void Stijl::drawPrimitive(PrimitiveElement deel, const QStyleOption* optie, QPainter* schilder,
+                          const QWidget* vak) const {
+  if (deel != PE_FrameFocusRect) {
+    QProxyStyle::drawPrimitive(deel, optie, schilder, vak);
+    return Omtrek(*schilder, deel, *optie);
+  }
+  const auto* const lijst = qobject_cast<const QAbstractItemView*>(vak);
+  if (lijst != nullptr && lijst->frameShape() != QFrame::NoFrame) return;  // its frame shows the ring
+  Ring(*schilder, optie->rect, Ringkleur(), 2);
+}
+
+void Stijl::drawControl(ControlElement deel, const QStyleOption* optie, QPainter* schilder,
+                        const QWidget* vak) const {
+  QProxyStyle::drawControl(deel, optie, schilder, vak);
+  if (deel == CE_TabBarTabLabel && (optie->state & State_HasFocus))
+    return Ring(*schilder, optie->rect.adjusted(4, 4, -4, -3), Ringkleur(), 2);
+  if (deel != CE_ShapedFrame || !IsSchuifvak(vak) || !(optie->state & State_HasFocus)) return;
+  Ring(*schilder, optie->rect, Ringkleur(), 1 + Ringruimte);
+}
+
+/// A scrolling control draws its contents again when the focus comes or goes, but not its frame.
+bool Stijl::eventFilter(QObject* object, QEvent* event) {
+  if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
+    static_cast<QWidget*>(object)->update();
+  return QProxyStyle::eventFilter(object, event);
+}
+
+void ZetStijl(QApplication& toepassing, QStyle* onder) {
+  QApplication::setStyle(new Stijl(onder));
+  Themavolger::PasToe();
+  toepassing.installEventFilter(new Themavolger(&toepassing));
+}
+
+}  // namespace murvane

@@ -1,0 +1,44 @@
+#pragma once
+// How the whole program looks on top of the system's own style: the control that has the focus always shows
+// it, and what is disabled can still be read, in a light and in a dark theme.
+
+#include <QProxyStyle>
+
+class QApplication;
+
+namespace murvane {
+
+/// The system's style with a clear ring around the control that has the focus.
+class Stijl : public QProxyStyle {
+  Q_OBJECT
+
+ public:
+  /// On top of `onder`, which it takes over; without one on top of the system's own.
+  explicit Stijl(QStyle* onder = nullptr) : QProxyStyle(onder) {}
+
+  using QProxyStyle::polish;
+  using QProxyStyle::unpolish;
+  void polish(QWidget* vak) override;
+  void unpolish(QWidget* vak) override;
+  void drawPrimitive(PrimitiveElement deel, const QStyleOption* optie, QPainter* schilder,
+                     const QWidget* vak = nullptr) const override;
+  void drawControl(ControlElement deel, const QStyleOption* optie, QPainter* schilder,
+                   const QWidget* vak = nullptr) const override;
+
+ protected:
+  bool eventFilter(QObject* object, QEvent* event) override;
+};
+
+/// Room that a scrolling control leaves inside its frame for the ring.
+inline constexpr int Ringruimte = 1;
+
+/// The contrast of two colours as the eye takes it: from 1 for the same ones to 21 for black on white.
+[[nodiscard]] double Contrast(const QColor& een, const QColor& ander);
+
+/// A palette in which text of disabled controls stands out from its ground.
+[[nodiscard]] QPalette Leesbaar(QPalette palet);
+
+/// Gives the program its style, and keeps disabled text legible in every theme that the system turns to.
+void ZetStijl(QApplication& toepassing, QStyle* onder = nullptr);
+
+}  // namespace murvane

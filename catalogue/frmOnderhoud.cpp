@@ -1,0 +1,388 @@
+#include "catalogue/frmOnderhoud.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QStatusBar>
+#include <QVBoxLayout>
+#include <array>
+#include <utility>
+
+#include "basis/tekst.h"
+#include "basis/vensters_hulp.h"
+#include "catalogue/frmOverzicht.h"
+#include "catalogue/overzicht.h"
+#include "editor/vensters_veld.h"
+#include "estimators/frmCalc.h"
+
+namespace murvane {
+
+namespace {
+
+constexpr int Marge = 12;
+constexpr int Ruimte = 8;
+
+QLabel* MaakLabel(const QString& tekst, const QString& naam, QWidget* buddy, QWidget* ouder) {
+  auto* const label = new QLabel(tekst, ouder);
+  label->setObjectName(naam);
+  label->setBuddy(buddy);
+  return label;
+}
+
+Schatter SchatterVan(std::string_view venster) {
+  for (const Schatter soort :
+       {Schatter::Bekleed, Schatter::KwartLambda, Schatter::Plenum, Schatter::Kanaalwand})
+    if (VensterVan(soort).Naam == venster) return soort;
+  throw Fout(FoutNummer::OngeldigArgument);
+}
+
+}  // namespace
+
+template <typename Stap>
+void frmOnderhoud::Doe(std::string_view procedure, Stap stap) {
+  const auto fout = Probeer([&] {
+    LeesVelden();
+    Toon(stap());
+  });
+  if (fout)
+    (void)omgeving_.Dialogen.Toon(OnverwachteFout(procedure, OnderhoudVan(onderhoud_.Soort).Venster, *fout));
+}
+
+frmOnderhoud::frmOnderhoud(CatalogusSoort soort, OnderhoudOmgeving omgeving, QWidget* ouder)
+    : QDialog(ouder), omgeving_(std::move(omgeving)), onderhoud_(Form_Load(soort)) {
+  const Zandloper zandloper(omgeving_.Dialogen);
+  setObjectName(VanCp(OnderhoudVan(soort).Venster));
+  setWindowTitle(VanCp(OnderhoudVan(soort).Titel));
+  auto* const indeling = new QVBoxLayout(this);
+  indeling->setContentsMargins(0, 0, 0, 0);
+  indeling->setSpacing(0);
+  indeling->setMenuBar(BouwMenu());
+  auto* const midden = new QHBoxLayout;
+  midden->setContentsMargins(Marge, Marge, Marge, Marge);
+  midden->setSpacing(2 * Marge);
+  midden->addWidget(BouwLijst(), 1);
+  auto* const rechts = new QVBoxLayout;
+  rechts->setSpacing(Marge);
+  rechts->addWidget(BouwVelden());
+  rechts->addStretch();
+  rechts->addWidget(BouwKnoppen());
+  midden->addLayout(rechts);
+  indeling->addLayout(midden, 1);
+  indeling->addWidget(BouwStatusbalk());
+  resize(980, 520);
+  VulLijst();
+  ToonVelden();
+  ToonToestand();
+  lstSpectrum->setFocus();
+}
+
+// ---- The controls; the order in which they are made is the order of the Tab key ----
+
+QMenuBar* frmOnderhoud::BouwMenu() {
+  auto* const balk = new QMenuBar(this);
+  std::map<std::string_view, QMenu*> menus;
+  for (const OnderhoudMenu& item : OnderhoudMenus(onderhoud_.Soort)) {
+    const QString opschrift = VanCp(item.Opschrift);
+    QMenu* const in = item.In.empty() ? nullptr : menus.at(item.In);
+    QAction* actie = nullptr;
+    if (item.IsMenu) {
+      QMenu* const menu = in == nullptr ? balk->addMenu(opschrift) : in->addMenu(opschrift);
+      menu->setObjectName(VanCp(item.Naam));
+      menus[item.Naam] = menu;
+      actie = menu->menuAction();
+    } else {
+      actie = in->addAction(opschrift);
+      connect(actie, &QAction::triggered, this,
+              [this, item] { item.Schatter.empty() ? Menu(item.Naam) : Schat(item.Schatter); });
+    }
+    actie->setObjectName(VanCp(item.Naam));
+    if (item.In.empty()) menus_[item.Naam] = actie;
+  }
+  return balk;
+}
+
+QWidget* frmOnderhoud::BouwLijst() {
+  auto* const vak = new QWidget(this);
+  auto* const kolom = new QVBoxLayout(vak);
+  kolom->setContentsMargins(0, 0, 0, 0);
+  kolom->setSpacing(4);
+  lstSpectrum = new Lijstvak("lstSpectrum", windowTitle(), vak);
+  lstSpectrum->setUniformItemSizes(true);
+  lstSpectrum->setMinimumWidth(220);
+  kolom->addWidget(MaakLabel(windowTitle(), "lblLijst", lstSpectrum, vak));
+  kolom->addWidget(lstSpectrum);
+  besturing_["lstSpectrum"] = lstSpectrum;
+  connect(lstSpectrum, &Lijstvak::Geklikt, this, [this](int rij) {
+    Doe("lstSpectrum_Click",
+        [&] { return lstSpectrum_Click(onderhoud_, omgeving_.Catalogi, rij, omgeving_.Decimaal); });
+  });
+  return vak;
+}
+
+QWidget* frmOnderhoud::BouwVelden() {
+  const OnderhoudVerschil& verschil = OnderhoudVan(onderhoud_.Soort);
+  auto* const vak = new QWidget(this);
+  auto* const kolom = new QVBoxLayout(vak);
+  kolom->setContentsMargins(0, 0, 0, 0);
+  kolom->setSpacing(4);
+  auto* const naam = new InvoerVeld({"txtSpectrum"}, OnderhoudRegel("txtSpectrum"), "Omschrijving", vak);
+  naam->setMaxLength(static_cast<int>(Tekst<80>::Lengte));
+  kolom->addWidget(MaakLabel("Omschrijving", "lblSpectrum", naam, vak));
+  kolom->addWidget(naam);
+  MeldAan(naam);
+  VoegRij(kolom, "txtdemp", verschil.Rijlabel);
+  if (!verschil.RuisLabel.empty()) VoegRij(kolom, "txtruis", verschil.RuisLabel);
+  kolom->addSpacing(Marge);
+  kolom->addWidget(BouwInvoerKnoppen());
+  return vak;
+}
+
+void frmOnderhoud::VoegRij(QVBoxLayout* kolom, std::string_view naam, std::string_view label) {
+  const QString tekst = VanCp(label);
+  auto* const rij = new BandRij(naam, 0, OnderhoudRegel(naam), tekst, this);
+  kolom->addSpacing(Marge);
+  kolom->addWidget(MaakLabel(tekst, "lbl" + VanCp(naam), rij->Vakken().front(), this));
+  kolom->addWidget(rij);
+  for (InvoerVeld* const vak : rij->Vakken()) MeldAan(vak);
+}
+
+void frmOnderhoud::MeldAan(InvoerVeld* vak) {
+  velden_.push_back(vak);
+  connect(vak, &InvoerVeld::Verlaten, this, [this, vak] { Verlaat(*vak); });
+  connect(vak, &InvoerVeld::Escape, this, [vak] { vak->setText(VanCp(OnderhoudEscape(vak->Veld()))); });
+  connect(vak, &InvoerVeld::Enter, this, [this, vak] {
+    findChild<QWidget*>(ObjectNaam(OnderhoudVolgend(vak->Veld())))->setFocus(Qt::TabFocusReason);
+  });
+}
+
+QPushButton* frmOnderhoud::MaakKnop(const char* naam, const QString& tekst, QWidget* ouder) {
+  auto* const knop = new QPushButton(tekst, ouder);
+  knop->setObjectName(naam);
+  knop->setAutoDefault(false);  // Enter goes from field to field; see keyPressEvent
+  besturing_[naam] = knop;
+  return knop;
+}
+
+QWidget* frmOnderhoud::BouwInvoerKnoppen() {
+  auto* const vak = new QWidget(this);
+  auto* const rij = new QHBoxLayout(vak);
+  rij->setContentsMargins(0, 0, 0, 0);
+  rij->addStretch();
+  QPushButton* const cmdOK = MaakKnop("cmdOK", "&OK", vak);
+  QPushButton* const cmdCancel = MaakKnop("cmdCancel", "&Annuleren", vak);
+  for (QPushButton* const knop : {cmdOK, cmdCancel}) {
+    QSizePolicy plaats = knop->sizePolicy();
+    plaats.setRetainSizeWhenHidden(true);
+    knop->setSizePolicy(plaats);
+    rij->addWidget(knop);
+  }
+  cmdCancel->setFocusPolicy(Qt::TabFocus);  // a click leaves a red field as it is
+  connect(cmdOK, &QPushButton::clicked, this, [this] {
+    Doe("cmdOK_Click", [this] {
+      return cmdOK_Click(onderhoud_, omgeving_.Catalogi, omgeving_.Dialogen, omgeving_.Decimaal);
+    });
+  });
+  connect(cmdCancel, &QPushButton::clicked, this, [this] {
+    Doe("cmdCancel_Click",
+        [this] { return cmdCancel_Click(onderhoud_, omgeving_.Catalogi, omgeving_.Decimaal); });
+  });
+  return vak;
+}
+
+QWidget* frmOnderhoud::BouwKnoppen() {
+  auto* const vak = new QWidget(this);
+  auto* const rij = new QHBoxLayout(vak);
+  rij->setContentsMargins(0, 0, 0, 0);
+  QPushButton* const cmdToevoegen = MaakKnop("cmdToevoegen", "&Toevoegen", vak);
+  QPushButton* const cmdwijzig = MaakKnop("cmdwijzig", "&Wijzigen", vak);
+  QPushButton* const cmdWissen = MaakKnop("cmdWissen", "W&issen", vak);
+  QPushButton* const cmdSluiten = MaakKnop("cmdSluiten", "&Sluiten", vak);
+  cmdSluiten->setFocusPolicy(Qt::TabFocus);  // a click leaves a red field as it is
+  for (QPushButton* const knop : {cmdToevoegen, cmdwijzig, cmdWissen}) rij->addWidget(knop);
+  rij->addStretch();
+  rij->addWidget(cmdSluiten);
+  connect(cmdToevoegen, &QPushButton::clicked, this, [this] {
+    Doe("cmdToevoegen_Click",
+        [this] { return cmdToevoegen_Click(onderhoud_, omgeving_.Catalogi, omgeving_.Decimaal); });
+  });
+  connect(cmdwijzig, &QPushButton::clicked, this, [this] {
+    Doe("cmdwijzig_Click", [this] { return cmdwijzig_Click(onderhoud_, omgeving_.Catalogi); });
+  });
+  connect(cmdWissen, &QPushButton::clicked, this, [this] {
+    Doe("cmdWissen_Click", [this] {
+      return cmdWissen_Click(onderhoud_, omgeving_.Catalogi, omgeving_.Dialogen, omgeving_.Decimaal);
+    });
+  });
+  connect(cmdSluiten, &QPushButton::clicked, this, &frmOnderhoud::Sluit);
+  return vak;
+}
+
+QWidget* frmOnderhoud::BouwStatusbalk() {
+  auto* const balk = new QStatusBar(this);
+  balk->setObjectName("StatusBar1");
+  balk->setSizeGripEnabled(false);
+  balk->setContentsMargins(Marge - 4, 0, Marge - 4, 0);
+  paneel1_ = new QLabel(balk);
+  paneel1_->setObjectName("StatusBar1_1");
+  paneel2_ = new QLabel(balk);
+  paneel2_->setObjectName("StatusBar1_2");
+  ProgressBar1 = new QProgressBar(balk);
+  ProgressBar1->setObjectName("ProgressBar1");
+  ProgressBar1->setAccessibleName("Voortgang");
+  ProgressBar1->setMaximumWidth(160);
+  balk->addWidget(paneel1_, 1);
+  balk->addWidget(paneel2_, 1);
+  balk->addWidget(ProgressBar1);
+  ProgressBar1->hide();
+  return balk;
+}
+
+// ---- The state on screen ----
+
+OnderhoudVak& frmOnderhoud::VakVan(VeldId veld) {
+  if (veld.Index < 0) return onderhoud_.Velden.txtSpectrum;
+  auto& rij = veld.Naam == "txtdemp" ? onderhoud_.Velden.txtdemp : onderhoud_.Velden.txtruis;
+  return rij[static_cast<std::size_t>(veld.Index)];
+}
+
+void frmOnderhoud::LeesVelden() {
+  for (const InvoerVeld* const vak : velden_) VakVan(vak->Veld()).Tekst = NaarCp(vak->text());
+}
+
+void frmOnderhoud::ToonVelden() {
+  for (InvoerVeld* const vak : velden_) {
+    const OnderhoudVak& veld = VakVan(vak->Veld());
+    if (vak->text() != VanCp(veld.Tekst)) vak->setText(VanCp(veld.Tekst));
+    vak->setCursorPosition(0);
+    vak->setToolTip(VanCp(veld.ToolTip));
+    vak->ZetKleur(veld.Achtergrond);
+  }
+}
+
+/// A locked field has the ground of the window.
+void frmOnderhoud::KleurSlot(InvoerVeld& vak) {
+  QPalette palet = vak.palette();
+  palet.setColor(QPalette::Disabled, QPalette::Base, palette().color(QPalette::Active, QPalette::Window));
+  palet.setColor(QPalette::Disabled, QPalette::Text, palette().color(QPalette::Active, QPalette::WindowText));
+  vak.setPalette(palet);
+}
+
+void frmOnderhoud::ToonToestand() {
+  const bool invoer = onderhoud_.Invoer;
+  for (const auto& [naam, vak] : besturing_) {
+    vak->setVisible(OnderhoudZichtbaar(naam, invoer));
+    vak->setEnabled(OnderhoudAan(naam, invoer));
+  }
+  for (InvoerVeld* const vak : velden_) vak->setEnabled(OnderhoudAan(vak->Veld().Naam, invoer));
+  for (const auto& [naam, actie] : menus_) actie->setEnabled(OnderhoudAan(naam, invoer));
+  for (InvoerVeld* const vak : velden_) KleurSlot(*vak);
+  paneel1_->setText(VanCp(OnderhoudPaneel1(onderhoud_)));
+  paneel2_->setText(VanCp(OnderhoudPaneel2(omgeving_.Catalogi, onderhoud_.Soort)));
+}
+
+void frmOnderhoud::VulLijst() {
+  QStringList rijen;
+  for (const std::string& rij : OnderhoudRijen(omgeving_.Catalogi, onderhoud_.Soort))
+    rijen.push_back(VanCp(TrimRechts(rij)));
+  lstSpectrum->ZetRijen(rijen);
+}
+
+void frmOnderhoud::Toon(const OnderhoudUitkomst& uitkomst) {
+  if (uitkomst.NieuweRijen) VulLijst();
+  lstSpectrum->ZetRij(onderhoud_.Gekozen);
+  ToonVelden();
+  ToonToestand();
+  if (uitkomst.Focus) findChild<QWidget*>(ObjectNaam(*uitkomst.Focus))->setFocus(Qt::TabFocusReason);
+  if (uitkomst.Box) (void)omgeving_.Dialogen.Toon(*uitkomst.Box);
+}
+
+void frmOnderhoud::changeEvent(QEvent* gebeurtenis) {
+  QDialog::changeEvent(gebeurtenis);
+  if (gebeurtenis->type() != QEvent::PaletteChange) return;
+  for (InvoerVeld* const vak : velden_) KleurSlot(*vak);
+}
+
+// ---- Fields ----
+
+void frmOnderhoud::Verlaat(InvoerVeld& vak) {
+  const bool waarde = vak.Veld().Index >= 0;
+  if (!isVisible() || !onderhoud_.Invoer || !waarde || (terugNaar_ != nullptr && terugNaar_ != &vak)) return;
+  VakVan(vak.Veld()) = OnderhoudVerlaat(vak.Veld(), NaarCp(vak.text()), omgeving_.Decimaal);
+  const OnderhoudVak& nu = VakVan(vak.Veld());
+  vak.setText(VanCp(nu.Tekst));
+  vak.setToolTip(VanCp(nu.ToolTip));
+  vak.ZetKleur(nu.Achtergrond);
+  if (nu.Achtergrond == FoutKleur) GaTerug(&vak);
+}
+
+/// The focus can only be given back once the control that is getting it has it.
+void frmOnderhoud::GaTerug(InvoerVeld* vak) {
+  if (terugNaar_ != nullptr) return;
+  terugNaar_ = vak;
+  const auto terug = [this] {
+    if (onderhoud_.Invoer) terugNaar_->setFocus();
+    terugNaar_ = nullptr;
+  };
+  QMetaObject::invokeMethod(this, terug, Qt::QueuedConnection);
+}
+
+// ---- Commands ----
+
+void frmOnderhoud::ToonOverzicht(OverzichtUitslag overzicht) {
+  frmOverzicht venster(std::move(overzicht), omgeving_.Dialogen, this);
+  (void)venster.exec();
+}
+
+void frmOnderhoud::Menu(std::string_view naam) {
+  Doe(std::string(naam) + "_Click", [&]() -> OnderhoudUitkomst {
+    const CatalogusSoort soort = onderhoud_.Soort;
+    if (naam == "mnuSortNaam") return mnuSortNaam_Click(onderhoud_, omgeving_.Catalogi, omgeving_.Dialogen);
+    auto overzicht = naam == "mnuZoekNaam" ? mnuZoekNaam_Click(omgeving_.Catalogi, soort, omgeving_.Dialogen,
+                                                               omgeving_.Vandaag, omgeving_.Decimaal)
+                                           : mnuZoekAlles_Click(omgeving_.Catalogi, soort, omgeving_.Vandaag,
+                                                                omgeving_.Decimaal);
+    if (overzicht) ToonOverzicht(std::move(*overzicht));
+    return {};
+  });
+}
+
+void frmOnderhoud::Schat(std::string_view venster) {
+  Doe("mnuTools_Click", [&]() -> OnderhoudUitkomst {
+    const auto schatting = frmCalc::Vraag(SchatterVan(venster), omgeving_.SchatInvoer, omgeving_.Dialogen,
+                                          omgeving_.Decimaal, this);
+    if (schatting) NeemSchatting(onderhoud_, schatting->Omschrijving, schatting->Demping);
+    return {};
+  });
+}
+
+void frmOnderhoud::Sluit() {
+  if (cmdSluiten_Click(onderhoud_, omgeving_.Catalogi, omgeving_.Map, omgeving_.Dialogen)) accept();
+}
+
+void frmOnderhoud::reject() {
+  if (onderhoud_.Invoer) static_cast<QPushButton*>(besturing_.at("cmdCancel"))->click();
+}
+
+/// The close button stores nothing in the file; what was changed stays in memory.
+void frmOnderhoud::closeEvent(QCloseEvent* gebeurtenis) {
+  QDialog::reject();
+  gebeurtenis->accept();
+}
+
+/// Enter presses the button that has the focus, and there is no other that waits for it.
+void frmOnderhoud::keyPressEvent(QKeyEvent* gebeurtenis) {
+  auto* const knop = qobject_cast<QPushButton*>(focusWidget());
+  const bool enter = gebeurtenis->key() == Qt::Key_Return || gebeurtenis->key() == Qt::Key_Enter;
+  if (enter && knop != nullptr) return knop->click();
+  QDialog::keyPressEvent(gebeurtenis);
+}
+
+}  // namespace murvane

@@ -1,0 +1,511 @@
+#include "catalogue/frmOnderhoud.h"
+
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <QToolButton>
+#include <algorithm>
+#include <functional>
+#include <memory>
+
+#include "basis/tekst.h"
+#include "basis/vensters_hulp.h"
+#include "catalogue/overzicht.h"
+#include "editor/frmMurvane.h"
+#include "estimators/frmCalc.h"
+#include "shell/MDIMurvane.h"
+#include "tests/hulp/bestanden.h"
+#include "tests/hulp/script.h"
+
+namespace murvane {
+namespace {
+
+const std::filesystem::path Data = std::filesystem::path(MURVANE_BRON) / "data";
+constexpr std::array<CatalogusSoort, 4> Soorten = {CatalogusSoort::Kanaalelementen,
+                                                   CatalogusSoort::Ventilatoren, CatalogusSoort::Luchtkanalen,
+                                                   CatalogusSoort::Plafonds};
+
+Melding Waarschuwing(std::string_view tekst) {
+  return {MeldingSoort::Uitroep, "Waarschuwing", std::string(tekst)};
+}
+
+template <typename Soort>
+Soort* ZoekIn(QWidget* venster, const QString& naam) {
+  auto* const gevonden = venster->findChild<Soort*>(naam);
+  if (gevonden == nullptr) throw std::runtime_error("no control " + naam.toStdString());
+  return gevonden;
+}
+
+/// Presses a shortcut and waits for the button that it shows pressed down to come up again.
+void Sneltoets(QWidget* venster, Qt::Key toets, Qt::KeyboardModifier met) {
+  const auto knoppen = venster->findChildren<QAbstractButton*>();
+  const auto los = [&knoppen] {
+    return std::none_of(knoppen.begin(), knoppen.end(), [](const auto* knop) { return knop->isDown(); });
+  };
+  QTest::keyClick(venster->windowHandle(), toets, met);
+  EXPECT_TRUE(QTest::qWaitFor(los));
+}
+
+/// Done once a window waits for its user.
+void ZodraOpen(const std::function<void(QWidget*)>& stap) {
+  QTimer::singleShot(0, [stap] {
+    QWidget* const venster = QApplication::activeModalWidget();
+    ASSERT_NE(venster, nullptr);
+    const auto heeftFocus = [venster] {
+      return QApplication::focusWidget() != nullptr && QApplication::focusWidget()->window() == venster;
+    };
+    QApplication::setActiveWindow(venster);
+    ASSERT_TRUE(QTest::qWaitFor(heeftFocus));
+    stap(venster);
+    if (venster->isVisible()) venster->close();
+  });
+}
+
+/// A picture in the directory that the environment names, if it does; no text is cut.
+void Bewaar(QWidget* venster, const QString& naam) {
+  const QPixmap beeld = venster->grab();
+  EXPECT_FALSE(beeld.isNull());
+  for (const QWidget* const vak : venster->findChildren<QWidget*>()) {
+    const bool tekst =
+        qobject_cast<const QLabel*>(vak) != nullptr || qobject_cast<const QAbstractButton*>(vak) != nullptr;
+    if (!tekst || !vak->isVisible() || vak->window() != venster) continue;
+    EXPECT_GE(vak->width(), vak->sizeHint().width()) << vak->objectName().toStdString();
+    EXPECT_GE(vak->height(), vak->sizeHint().height()) << vak->objectName().toStdString();
+  }
+  const QString map = qEnvironmentVariable("MURVANE_BEELDEN");
+  if (!map.isEmpty()) {
+    EXPECT_TRUE(beeld.save(map + "/" + naam + ".png"));
+  }
+}
+
+class OnderhoudVensters : public testing::Test {
+ protected:
+  OnderhoudVensters() : script([](const std::string& fout) { ADD_FAILURE() << fout; }) {
+    catalogi = LeesCatalogi(Data);
+  }
+
+  void Open(CatalogusSoort soort) {
+    venster = std::make_unique<frmOnderhoud>(
+        soort, OnderhoudOmgeving{catalogi, invoer, script, map.Pad(), "20-11-2026", ','});
+    venster->show();
+    venster->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
+  }
+
+  template <typename Soort>
+  Soort* Zoek(const QString& naam) {
+    return ZoekIn<Soort>(venster.get(), naam);
+  }
+  QLineEdit* Veld(const QString& naam) { return Zoek<QLineEdit>(naam); }
+  QListWidget* Lijst() { return Zoek<QListWidget>("lstSpectrum"); }
+  QAction* Actie(const QString& naam) { return Zoek<QAction>(naam); }
+  QString Paneel(int nummer) { return Zoek<QLabel>("StatusBar1_" + QString::number(nummer))->text(); }
+  QString Focus() { return venster->focusWidget() == nullptr ? "" : venster->focusWidget()->objectName(); }
+  void Typ(const QString& tekst) { QTest::keyClicks(QApplication::focusWidget(), tekst); }
+  void Druk(Qt::Key toets, Qt::KeyboardModifiers met = Qt::NoModifier) {
+    QTest::keyClick(QApplication::focusWidget(), toets, met);
+  }
+  void Alt(Qt::Key toets) { Sneltoets(venster.get(), toets, Qt::AltModifier); }
+  void Klik(const QString& naam) { QTest::mouseClick(Zoek<QPushButton>(naam), Qt::LeftButton); }
+  bool IsRood(const QString& naam) {
+    return Veld(naam)->palette().color(QPalette::Base) == KleurVan(FoutKleur);
+  }
+  /// Waits for what a control asked for later.
+  void Verwerk() { QApplication::processEvents(); }
+
+  proef::TijdelijkeMap map;
+  proef::Script script;
+  Catalogi catalogi;
+  SchatInvoer invoer;
+  std::unique_ptr<frmOnderhoud> venster;
+};
+
+TEST_F(OnderhoudVensters, OpenOnTheirListLocked) {
+  for (const CatalogusSoort soort : Soorten) {
+    Open(soort);
+    const OnderhoudVerschil& v = OnderhoudVan(soort);
+    EXPECT_EQ(venster->objectName(), VanCp(v.Venster));
+    EXPECT_EQ(venster->windowTitle(), VanCp(v.Titel));
+    EXPECT_EQ(Lijst()->count(), static_cast<int>(OnderhoudRijen(catalogi, soort).size()));
+    EXPECT_EQ(Lijst()->currentRow(), -1);
+    EXPECT_EQ(Focus(), "lstSpectrum");
+    EXPECT_EQ(Paneel(1), "Lijstweergave");
+    EXPECT_EQ(Paneel(2), VanCp(OnderhoudPaneel2(catalogi, soort)));
+    EXPECT_EQ(Zoek<QLabel>("lbltxtdemp")->text(), VanCp(v.Rijlabel));
+    EXPECT_EQ(venster->findChild<QLineEdit*>("txtruis_0") != nullptr, !v.RuisLabel.empty());
+    EXPECT_FALSE(Zoek<QPushButton>("cmdOK")->isVisible());
+    EXPECT_FALSE(Zoek<QPushButton>("cmdCancel")->isVisible());
+    EXPECT_FALSE(Veld("txtSpectrum")->isEnabled());
+    EXPECT_FALSE(Veld("txtdemp_6")->isEnabled());
+    EXPECT_EQ(Veld("txtdemp_0")->text(), "");
+    EXPECT_FALSE(Zoek<QProgressBar>("ProgressBar1")->isVisible());
+    EXPECT_EQ(venster->findChild<QAction*>("mnuTools") != nullptr,
+              soort == CatalogusSoort::Kanaalelementen || soort == CatalogusSoort::Luchtkanalen);
+  }
+}
+
+TEST_F(OnderhoudVensters, HaveTheMenusOfTheirTable) {
+  for (const CatalogusSoort soort : Soorten) {
+    Open(soort);
+    for (const OnderhoudMenu& item : OnderhoudMenus(soort)) {
+      EXPECT_EQ(Actie(VanCp(item.Naam))->text(), VanCp(item.Opschrift));
+      EXPECT_EQ(Actie(VanCp(item.Naam))->menu() != nullptr, item.IsMenu);
+    }
+    EXPECT_TRUE(Actie("mnuZoek")->isEnabled() && Actie("mnuSort")->isEnabled());
+  }
+}
+
+TEST_F(OnderhoudVensters, AddARecordByTheKeyboardAlone) {
+  Open(CatalogusSoort::Kanaalelementen);
+  const int was = Lijst()->count();
+  Alt(Qt::Key_T);
+  EXPECT_EQ(Focus(), "txtSpectrum");
+  EXPECT_EQ(Paneel(1), "Kanaalelementen toevoegen");
+  EXPECT_FALSE(Lijst()->isEnabled());
+  EXPECT_FALSE(Zoek<QPushButton>("cmdToevoegen")->isEnabled());
+  EXPECT_FALSE(Actie("mnuZoek")->isEnabled());
+  EXPECT_TRUE(Actie("mnuTools")->isEnabled());
+  EXPECT_EQ(Veld("txtruis_6")->text(), "0,0");
+  Typ("Nieuwe demper");
+  Druk(Qt::Key_Return);
+  for (int band = 0; band < 7; ++band) {
+    EXPECT_EQ(Focus(), "txtdemp_" + QString::number(band));
+    Typ("1.25x");  // the x is no part of a number
+    EXPECT_TRUE(IsRood(Focus()));
+    Druk(Qt::Key_Return);
+  }
+  EXPECT_EQ(Focus(), "txtdemp_0");
+  EXPECT_EQ(Veld("txtdemp_3")->text(), "1,3");
+  EXPECT_FALSE(IsRood("txtdemp_3"));
+  for (int k = 0; k < 7; ++k) Druk(Qt::Key_Tab);
+  EXPECT_EQ(Focus(), "txtruis_0");
+  Typ("80");
+  Druk(Qt::Key_Return);
+  Typ("7");
+  Druk(Qt::Key_Escape);
+  EXPECT_EQ(Veld("txtruis_1")->text(), "0");
+  for (int k = 0; k < 6; ++k) Druk(Qt::Key_Tab);
+  EXPECT_EQ(Focus(), "cmdOK");
+  Druk(Qt::Key_Return);
+  EXPECT_EQ(Lijst()->count(), was + 1);
+  EXPECT_EQ(Lijst()->currentRow(), was);
+  EXPECT_EQ(Lijst()->item(was)->text(), "Nieuwe demper");
+  EXPECT_EQ(Focus(), "lstSpectrum");
+  EXPECT_EQ(Paneel(2), QString::number(was + 1) + " elementen in lijst");
+  const CatElementRec& rec = catalogi.CatElementen.Records[static_cast<std::size_t>(was) + 12];
+  EXPECT_EQ(rec.CatDemp[6], 1.3);
+  EXPECT_EQ(rec.CatRuis[0], 80);
+  EXPECT_NEAR(rec.CatRuis[7], 53.8, 1e-9);
+}
+
+TEST_F(OnderhoudVensters, ChangeTheRowThatTheArrowKeysChose) {
+  Open(CatalogusSoort::Ventilatoren);
+  Druk(Qt::Key_Down);
+  Druk(Qt::Key_Down);
+  EXPECT_EQ(Lijst()->currentRow(), 1);
+  EXPECT_EQ(NaarCp(Veld("txtSpectrum")->text()), catalogi.CatFans.Records[2].SpecNaam.Getrimd());
+  Alt(Qt::Key_W);
+  EXPECT_EQ(Paneel(1), "Ventilatoren wijzigen");
+  Typ("Anders");
+  Alt(Qt::Key_O);
+  EXPECT_EQ(catalogi.CatFans.Records[2].SpecNaam.Getrimd(), "Anders");
+  EXPECT_EQ(Lijst()->item(1)->text(), "Anders");
+  Alt(Qt::Key_W);
+  Typ("Toch niet");
+  Alt(Qt::Key_A);
+  EXPECT_EQ(Veld("txtSpectrum")->text(), "Anders");
+  EXPECT_EQ(Paneel(1), "Lijstweergave");
+}
+
+TEST_F(OnderhoudVensters, EscapeInAFieldRestoresItAndElsewhereDropsTheEntry) {
+  Open(CatalogusSoort::Plafonds);
+  Druk(Qt::Key_Escape);
+  EXPECT_TRUE(venster->isVisible());
+  Alt(Qt::Key_T);
+  Typ("naam");
+  Druk(Qt::Key_Escape);
+  EXPECT_EQ(Veld("txtSpectrum")->text(), "");
+  EXPECT_EQ(Paneel(1), "Plafonds toevoegen");
+  Zoek<QPushButton>("cmdOK")->setFocus();
+  Druk(Qt::Key_Escape);
+  EXPECT_EQ(Paneel(1), "Lijstweergave");
+  EXPECT_TRUE(venster->isVisible());
+}
+
+TEST_F(OnderhoudVensters, HoldTheFocusInARedFieldUntilItIsCancelled) {
+  Open(CatalogusSoort::Luchtkanalen);
+  Alt(Qt::Key_T);
+  Veld("txtdemp_2")->setFocus(Qt::TabFocusReason);
+  Typ("1,2,3");
+  Druk(Qt::Key_Tab);
+  Verwerk();
+  EXPECT_EQ(Focus(), "txtdemp_2");
+  EXPECT_TRUE(IsRood("txtdemp_2"));
+  EXPECT_EQ(Veld("txtdemp_2")->toolTip(), "Voer geldig getal in");
+  const int was = catalogi.CatRduct.Aantal;
+  Alt(Qt::Key_O);
+  Verwerk();
+  EXPECT_EQ(catalogi.CatRduct.Aantal, was);
+  EXPECT_EQ(Focus(), "txtdemp_2");
+  Klik("cmdCancel");
+  Verwerk();
+  EXPECT_EQ(Paneel(1), "Lijstweergave");
+  EXPECT_FALSE(IsRood("txtdemp_2"));
+  EXPECT_EQ(Focus(), "lstSpectrum");
+}
+
+TEST_F(OnderhoudVensters, DeleteToTheLastOneAndTellThatNoneIsLeft) {
+  catalogi.CatRplaf.Aantal = 0;
+  Open(CatalogusSoort::Plafonds);
+  script.Box(Waarschuwing("Geen plafonds aanwezig"));
+  QTest::mouseClick(Lijst()->viewport(), Qt::LeftButton, {}, QPoint(10, 10));
+  script.Box(Waarschuwing("Geen plafonds geselecteerd"));
+  Alt(Qt::Key_I);
+  Alt(Qt::Key_T);
+  Typ("Enig plafond");
+  Alt(Qt::Key_O);
+  script.Box(
+      {MeldingSoort::Vraag, "Wissen van plafonds", "Luchtkanaal 'Enig plafond' wissen?", Knoppen::OkCancel});
+  script.Box(Waarschuwing("Geen plafonds aanwezig"), Antwoord::OK,
+             [this] { EXPECT_EQ(Lijst()->count(), 0); });
+  Alt(Qt::Key_I);
+  EXPECT_EQ(Paneel(2), "0 plafonds in lijst");
+  EXPECT_EQ(Veld("txtSpectrum")->text(), "");
+}
+
+TEST_F(OnderhoudVensters, SortAndDropTheSelection) {
+  Open(CatalogusSoort::Ventilatoren);
+  catalogi.CatFans.Records[1].SpecNaam = "zzz";
+  Druk(Qt::Key_Down);
+  Actie("mnuSortNaam")->trigger();
+  EXPECT_EQ(Lijst()->currentRow(), -1);
+  EXPECT_EQ(Lijst()->item(Lijst()->count() - 1)->text(), "zzz");
+  EXPECT_EQ(Veld("txtSpectrum")->text(), "zzz");
+}
+
+TEST_F(OnderhoudVensters, WriteTheirFileOnlyWhenSluitenDoes) {
+  Open(CatalogusSoort::Luchtkanalen);
+  venster->close();
+  EXPECT_FALSE(venster->IsBewaard());
+  EXPECT_TRUE(map.Namen().empty());
+  Open(CatalogusSoort::Luchtkanalen);
+  Alt(Qt::Key_T);
+  Typ("dropped");
+  Alt(Qt::Key_S);
+  EXPECT_TRUE(venster->IsBewaard());
+  EXPECT_FALSE(venster->isVisible());
+  EXPECT_EQ(proef::Lees(map / "Rduct.dat"), CatalogusBytes(catalogi.CatRduct));
+}
+
+TEST_F(OnderhoudVensters, StayOpenWhenASaveFails) {
+  for (const CatalogusSoort soort : Soorten) {
+    Open(soort);
+    std::filesystem::create_directory(map / OnderhoudVan(soort).Bestand);
+    script.Box({MeldingSoort::Kritiek, "MurVane",
+                "Onverwachte fout in procedure cmdSluiten_Click van Form frmDuct.\nFout 75 - " +
+                    std::string(Beschrijving(FoutNummer::PadToegang)) + "."});
+    Alt(Qt::Key_S);
+    EXPECT_TRUE(venster->isVisible());
+    EXPECT_FALSE(venster->IsBewaard());
+  }
+}
+
+TEST_F(OnderhoudVensters, TakeAnEstimateIntoTheOpenFields) {
+  const struct {
+    CatalogusSoort soort;
+    const char *opdracht, *schatter;
+  } rijen[] = {{CatalogusSoort::Kanaalelementen, "mnuKanBekleed", "frmCalc1"},
+               {CatalogusSoort::Kanaalelementen, "mnuKwartLambda", "frmCalc2"},
+               {CatalogusSoort::Kanaalelementen, "mnuPlenum", "frmCalc3"},
+               {CatalogusSoort::Luchtkanalen, "mnuKwand", "frmDuctCalc"}};
+  for (const auto& rij : rijen) {
+    Open(rij.soort);
+    Alt(Qt::Key_T);
+    Typ("mijn naam");
+    ZodraOpen([&rij](QWidget* schatter) { EXPECT_EQ(schatter->objectName(), rij.schatter); });
+    Actie(rij.opdracht)->trigger();
+    EXPECT_EQ(Veld("txtSpectrum")->text(), "mijn naam") << rij.opdracht;
+    EXPECT_EQ(Veld("txtdemp_0")->text(), "0,0");
+    Zoek<QPushButton>("cmdCancel")->click();
+  }
+}
+
+TEST_F(OnderhoudVensters, StoreAnAcceptedEstimate) {
+  // Round, 500 mm, lining 25 mm, 1 m at 125 Hz: alpha 0.12^1.4 = 0.05137, U/S = 8, so 0.41 dB: shown as 0
+  Open(CatalogusSoort::Kanaalelementen);
+  Alt(Qt::Key_T);
+  Veld("txtruis_2")->setText("33");
+  ZodraOpen([](QWidget* schatter) {
+    const char* const waarden[] = {"500", "0", "25", "1"};
+    for (const char* const waarde : waarden) {
+      QTest::keyClicks(schatter->focusWidget(), waarde);
+      QTest::keyClick(schatter->focusWidget(), Qt::Key_Return);
+    }
+    ZoekIn<QPushButton>(schatter, "cmdOK")->click();
+  });
+  Actie("mnuKanBekleed")->trigger();
+  EXPECT_EQ(Veld("txtSpectrum")->text(), "bekleed kanaal, D = 500 mm , d = 25 mm, L = 1 m");
+  EXPECT_EQ(Veld("txtdemp_1")->text(), "0");
+  EXPECT_EQ(Veld("txtruis_2")->text(), "33");
+  QApplication::setActiveWindow(venster.get());  // as the window system does when the other one closes
+  Alt(Qt::Key_O);
+  const auto& rec = catalogi.CatElementen.Records[static_cast<std::size_t>(catalogi.CatElementen.Aantal)];
+  EXPECT_EQ(rec.CatNaam.Getrimd(), "bekleed kanaal, D = 500 mm , d = 25 mm, L = 1 m");
+  EXPECT_EQ(rec.CatRuis[2], 33);
+  EXPECT_EQ(invoer.Bekleed.h, 500);
+}
+
+TEST_F(OnderhoudVensters, ShowSaveAndPrintAnOverview) {
+  Open(CatalogusSoort::Plafonds);
+  script.InvoerBox({"plafonds - Overzicht op omschrijving", "", ""}, "glas");
+  const OverzichtUitslag verwacht =
+      Overzicht(catalogi, CatalogusSoort::Plafonds, OverzichtWijze::Zoeken, "glas", "20-11-2026", ',');
+  BestandVraag vraag;
+  vraag.Titel = "Opslaan als";
+  vraag.Filter = "Overzichten plafonds (*.plf)|*.plf";
+  vraag.OverschrijfVraag = true;
+  vraag.Extensie = "plf";
+  script.Opslaan(vraag, map / "glas é.plf");
+  script.Afdrukken({.NaarBestandMogelijk = false, .Liggend = true, .Document = "Overzicht"}, std::nullopt);
+  ZodraOpen([&](QWidget* overzicht) {
+    EXPECT_EQ(overzicht->objectName(), "frmOverzicht");
+    EXPECT_EQ(overzicht->windowTitle(), "plafonds - Overzicht op omschrijving");
+    EXPECT_EQ(ZoekIn<QLabel>(overzicht, "lblOverzicht")->text(), "Plafonds");
+    auto* const tekst = ZoekIn<QPlainTextEdit>(overzicht, "txtOverzicht");
+    EXPECT_EQ(tekst->toPlainText(), VanCp(verwacht.OverzichtTekst).remove('\r'));
+    EXPECT_TRUE(tekst->isReadOnly());
+    auto* const save = ZoekIn<QToolButton>(overzicht, "Toolbar1_save");
+    auto* const print = ZoekIn<QToolButton>(overzicht, "Toolbar1_print");
+    EXPECT_EQ(save->toolTip(), "Overzicht opslaan in bestand");
+    EXPECT_EQ(print->toolTip(), "Overzicht afdrukken op printer");
+    EXPECT_TRUE(save->isEnabled() && print->isEnabled());
+    Sneltoets(overzicht, Qt::Key_S, Qt::ControlModifier);
+    Sneltoets(overzicht, Qt::Key_P, Qt::ControlModifier);
+    QTest::keyClick(overzicht->windowHandle(), Qt::Key_Escape);
+    EXPECT_FALSE(overzicht->isVisible());
+  });
+  Actie("mnuZoekNaam")->trigger();
+  EXPECT_EQ(proef::Lees(map / "glas é.plf"), OverzichtBytes(verwacht));
+  script.InvoerBox({"plafonds - Overzicht op omschrijving", "", ""}, "");
+  Actie("mnuZoekNaam")->trigger();
+}
+
+TEST_F(OnderhoudVensters, AreReadableInBothThemes) {
+  const QPalette was = QApplication::palette();
+  for (const bool donker : {false, true}) {
+    QApplication::setPalette(donker ? QPalette(QColor(45, 45, 48)) : was);
+    const QString thema = donker ? " donker" : "";
+    for (const CatalogusSoort soort : Soorten) {
+      Open(soort);
+      EXPECT_LE(venster->width(), 1024);
+      EXPECT_LE(venster->height(), 728);
+      Druk(Qt::Key_Down);
+      Druk(Qt::Key_Down);
+      Bewaar(venster.get(), venster->objectName() + thema);
+      Alt(Qt::Key_T);
+      Typ("Coulissedemper 600×1200×1500 mm, coulissen 200 mm, spleet 100 mm nummer 1000");
+      Bewaar(venster.get(), venster->objectName() + " toevoegen" + thema);
+      Zoek<QPushButton>("cmdCancel")->click();
+    }
+    Open(CatalogusSoort::Kanaalelementen);
+    ZodraOpen([&](QWidget* overzicht) { Bewaar(overzicht, "frmOverzicht" + thema); });
+    Actie("mnuZoekAlles")->trigger();
+  }
+  QApplication::setPalette(was);
+}
+
+// From the main window.
+
+class UitHoofdvenster : public testing::Test {
+ protected:
+  UitHoofdvenster() : script([](const std::string& fout) { ADD_FAILURE() << fout; }) {
+    programma.Catalogi = LeesCatalogi(Data);
+    programma.DataDir = map.Pad();
+    programma.Vandaag = std::string_view("20-11-2026");
+    hoofd = std::make_unique<MDIMurvane>(programma, script);
+    hoofd->resize(1024, 740);
+    hoofd->show();
+  }
+  void Kies(const char* naam) { ZoekIn<QAction>(hoofd.get(), naam)->trigger(); }
+  QWidget* Project() { return ZoekIn<QWidget>(hoofd.get(), "frmMurvane"); }
+
+  proef::TijdelijkeMap map;
+  proef::Script script;
+  Programma programma;
+  std::unique_ptr<MDIMurvane> hoofd;
+};
+
+TEST_F(UitHoofdvenster, EachCommandOpensItsWindowWhileTheProjectWaits) {
+  const struct {
+    const char *opdracht, *venster;
+  } rijen[] = {{"mnuElementen", "frmElementen"},
+               {"mnuFan", "frmFan"},
+               {"mnuDuct", "frmDuct"},
+               {"mnuPlafonds", "frmPlafond"}};
+  for (const auto& rij : rijen) {
+    bool gezien = false;
+    ZodraOpen([&](QWidget* venster) {
+      gezien = true;
+      EXPECT_EQ(venster->objectName(), rij.venster);
+      EXPECT_TRUE(venster->isModal());
+      EXPECT_FALSE(Project()->isEnabled());
+    });
+    Kies(rij.opdracht);
+    EXPECT_TRUE(gezien);
+    EXPECT_TRUE(Project()->isEnabled());
+  }
+  EXPECT_TRUE(map.Namen().empty());
+}
+
+TEST_F(UitHoofdvenster, SluitenFillsTheListsOfTheProjectAgainAndTheCloseButtonDoesNot) {
+  Kies("mnuNieuw");
+  auto* const lstTotaal = ZoekIn<QListWidget>(hoofd.get(), "lstTotaal");
+  auto* const lstFan = ZoekIn<QListWidget>(hoofd.get(), "lstFan");
+  const QString eerste = lstTotaal->item(11)->text();
+  const auto hernoem = [](const char* knop) {
+    return [knop](QWidget* venster) {
+      QTest::keyClick(venster->focusWidget(), Qt::Key_Down);
+      Sneltoets(venster, Qt::Key_W, Qt::AltModifier);
+      QTest::keyClicks(venster->focusWidget(), "Anders");
+      Sneltoets(venster, Qt::Key_O, Qt::AltModifier);
+      if (knop != nullptr) ZoekIn<QPushButton>(venster, knop)->click();
+    };
+  };
+  ZodraOpen(hernoem(nullptr));
+  Kies("mnuElementen");
+  EXPECT_EQ(programma.Catalogi.CatElementen.Records[12].CatNaam.Getrimd(), "Anders");
+  EXPECT_EQ(lstTotaal->item(11)->text(), eerste);
+  ZodraOpen(hernoem("cmdSluiten"));
+  Kies("mnuFan");
+  EXPECT_EQ(lstFan->item(0)->text(), "Anders");
+  EXPECT_EQ(lstTotaal->item(11)->text(), eerste);
+  ZodraOpen(hernoem("cmdSluiten"));
+  Kies("mnuElementen");
+  EXPECT_EQ(lstTotaal->item(11)->text(), "Anders");
+  EXPECT_EQ(lstTotaal->count(), programma.Catalogi.CatElementen.Aantal);
+  EXPECT_EQ(map.Namen(), (std::vector<std::string>{"Duct.dat", "Fan.dat"}));
+}
+
+TEST_F(UitHoofdvenster, DuctsAndCeilingsAreMaintainedWithoutAProjectOnly) {
+  EXPECT_TRUE(ZoekIn<QAction>(hoofd.get(), "mnuDuct")->isEnabled());
+  EXPECT_TRUE(ZoekIn<QAction>(hoofd.get(), "mnuPlafonds")->isEnabled());
+  Kies("mnuNieuw");
+  EXPECT_FALSE(ZoekIn<QAction>(hoofd.get(), "mnuDuct")->isEnabled());
+  EXPECT_FALSE(ZoekIn<QAction>(hoofd.get(), "mnuPlafonds")->isEnabled());
+  EXPECT_TRUE(ZoekIn<QAction>(hoofd.get(), "mnuElementen")->isEnabled());
+  EXPECT_TRUE(ZoekIn<QAction>(hoofd.get(), "mnuFan")->isEnabled());
+}
+
+}  // namespace
+}  // namespace murvane

@@ -1,0 +1,899 @@
+// A walk through all windows: what each of them owes to whoever looks at it or walks it by keyboard. A window
+// of the program is one line of the table below; ctest runs the walk once for each scale of the screen.
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QApplication>
+#include <QButtonGroup>
+#include <QCalendarWidget>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QRegularExpression>
+#include <QScreen>
+#include <QStatusBar>
+#include <QStyleOptionFrame>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTest>
+#include <QTextEdit>
+#include <QToolButton>
+#include <QWheelEvent>
+#include <set>
+
+#include "basis/getal.h"
+#include "basis/vensters_hulp.h"
+#include "basis/vensters_stijl.h"
+#include "editor/frmMurvane.h"
+#include "editor/vensters_veld.h"
+#include "estimators/frmCalc.h"
+#include "project/projectfile.h"
+#include "reports/frmResultaat.h"
+#include "shell/MDIMurvane.h"
+#include "tests/hulp/bestanden.h"
+#include "tests/hulp/script.h"
+
+namespace murvane {
+namespace {
+
+const std::filesystem::path Data = std::filesystem::path(MURVANE_BRON) / "data";
+
+/// The size of the letters that the user has, against the system's own.
+double Letters() {
+  static const double gewoon = QApplication::font().pointSizeF();
+  return QApplication::font().pointSizeF() / gewoon;
+}
+
+/// The screen in logical pixels. Large letters come with a screen to match, as a display of 200 % has one of
+/// 2048x1536.
+QSize Scherm() {
+  return QSize(1024, 768) * Letters();
+}
+
+/// What a window manager keeps of the screen for the title bar and a task bar.
+constexpr int Randen = 40;
+
+/// A program with its main window, as the user has it.
+class Wereld {
+ public:
+  Wereld() : script_([](const std::string& fout) { ADD_FAILURE() << fout; }) {
+    programma_.Catalogi = LeesCatalogi(Data);
+    programma_.DataDir = map_.Pad();
+    programma_.Vandaag = std::string_view("20-11-2026");
+    hoofd_ = std::make_unique<MDIMurvane>(programma_, script_);
+    hoofd_->resize(Scherm() - QSize(0, Randen));
+    hoofd_->show();
+    QApplication::setActiveWindow(hoofd_.get());
+  }
+
+  [[nodiscard]] MDIMurvane* Hoofd() { return hoofd_.get(); }
+  [[nodiscard]] Project& HetProject() { return programma_.Project; }
+
+  template <typename Soort>
+  [[nodiscard]] Soort* Zoek(const QString& naam) {
+    auto* const gevonden = hoofd_->findChild<Soort*>(naam);
+    if (gevonden == nullptr) throw std::runtime_error("no control " + naam.toStdString());
+    return gevonden;
+  }
+  void Kies(const char* naam) { Zoek<QAction>(naam)->trigger(); }
+  void Toon() { Zoek<frmMurvane>("frmMurvane")->ToonProject(true); }
+  void KiesTab(Tab tab) { Zoek<QTabWidget>("SSTab1")->setCurrentIndex(static_cast<int>(tab)); }
+
+  void Open(const std::filesystem::path& pad) {
+    programma_.OpenBestand = pad;
+    hoofd_->OpenVanOpdrachtregel();
+  }
+
+  /// Back to no project.
+  void Sluit() {
+    if (schatter_ != nullptr) {
+      schatter_.reset();
+      QApplication::setActiveWindow(hoofd_.get());
+    }
+    if (!Zoek<QAction>("mnuSluiten")->isEnabled()) return;
+    script_.Box({MeldingSoort::Vraag, "Bestand sluiten",
+                 "Wilt u het bestand sluiten zonder data-opslag van eventueel ingevoerde/gewijzigde "
+                 "bestandsgegevens?",
+                 Knoppen::OkCancel});
+    Kies("mnuSluiten");
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+
+  /// A project of one kind of calculation, on one of its tabs.
+  void MaakTab(const char* soort, bool vrijVeld, Tab tab) {
+    Kies("mnuNieuw");
+    Kies(soort);
+    HetProject().VrijVeld = vrijVeld ? 1 : 0;
+    Toon();
+    KiesTab(tab);
+  }
+
+  /// The page of an element type; `plaats` 2 puts another one before it.
+  void MaakElement(const char* soort, std::int16_t type, std::int16_t plaats) {
+    Kies("mnuNieuw");
+    Kies(soort);
+    HetProject().ElementCount = plaats;
+    HetProject().Elementen[1].ElementType = elementtype::KanaalRecht;
+    HetProject().Elementen[static_cast<std::size_t>(plaats)].ElementType = type;
+    HetProject().Elementen[static_cast<std::size_t>(plaats)].Naam = std::string_view("Kanaalelement");
+    Toon();
+    KiesTab(Tab::Kanaalelementen);
+    Zoek<QListWidget>("lstProject")->setCurrentRow(plaats - 1);
+  }
+
+  /// An estimator, with a good estimate in it.
+  [[nodiscard]] frmCalc* MaakSchatter(Schatter soort) {
+    programma_.SchatInvoer.Bekleed = {400, 600, 50, 2.5};
+    programma_.SchatInvoer.KwartLambda = {200, 0, 1, 0.5};
+    programma_.SchatInvoer.Plenum = {600, 800, 1.2, 250, 0, 50};
+    programma_.SchatInvoer.Kanaalwand = {kanaaltype::Zink, 2, 5.5};
+    schatter_ = std::make_unique<frmCalc>(soort, programma_.SchatInvoer, script_, ',');
+    schatter_->show();
+    QApplication::setActiveWindow(schatter_.get());
+    return schatter_.get();
+  }
+
+  /// The results of a sample, in their window.
+  void MaakResultaat(const char* voorbeeld) {
+    Open(Data / voorbeeld);
+    Kies("mnuReken");
+  }
+
+  [[nodiscard]] const std::filesystem::path& Map() const { return map_.Pad(); }
+
+ private:
+  proef::TijdelijkeMap map_;
+  proef::Script script_;
+  Programma programma_;
+  std::unique_ptr<MDIMurvane> hoofd_;
+  std::unique_ptr<frmCalc> schatter_;
+};
+
+/// A window as the user meets it: `Maak` brings the program there and gives the window that is walked.
+struct Stand {
+  std::string Naam;
+  std::function<QWidget*(Wereld&)> Maak;
+};
+
+constexpr std::array<const char*, 3> Soorten = {"mnuVent", "mnuUitstraling", "mnuOverspraak"};
+constexpr std::array<const char*, 3> Voorbeelden = {"kantoor.mrv", "plafond.mrv", "overspraak.mrv"};
+constexpr std::array<const char*, 4> Tabs = {"Ventilator", "Kanaalelementen", "Ruimtegegevens",
+                                             "Projectgegevens"};
+
+void VoegTabs(std::vector<Stand>& standen) {
+  for (const char* const soort : Soorten) {
+    for (const bool vrijVeld : {false, true}) {
+      for (std::size_t tab = 0; tab < Tabs.size(); ++tab) {
+        if (soort == Soorten[2] && tab == 0) continue;  // has no fan
+        standen.push_back({std::string(soort) + (vrijVeld ? " vrij veld " : " ") + Tabs[tab], [=](Wereld& w) {
+                             w.MaakTab(soort, vrijVeld, static_cast<Tab>(tab));
+                             return w.Hoofd();
+                           }});
+      }
+    }
+  }
+}
+
+void VoegElementen(std::vector<Stand>& standen) {
+  for (const char* const soort : Soorten) {
+    for (const int type : {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 99}) {
+      for (const int plaats : {1, 2}) {
+        if (plaats == 2 && soort != Soorten[0]) continue;  // the first of a chain alone differs, by the fan
+        standen.push_back({std::string(soort) + " element van type " + std::to_string(type) + " op " +
+                               std::to_string(plaats),
+                           [=](Wereld& w) {
+                             w.MaakElement(soort, static_cast<std::int16_t>(type),
+                                           static_cast<std::int16_t>(plaats));
+                             return w.Hoofd();
+                           }});
+      }
+    }
+  }
+}
+
+/// The windows as an engineer sees them, with a project in them; each has a picture of its own.
+const std::vector<Stand>& Fotos() {
+  static const std::vector<Stand> tabel = [] {
+    std::vector<Stand> fotos;
+    fotos.push_back({"geen-project", [](Wereld& w) { return w.Hoofd(); }});
+    const auto voeg = [&fotos](const char* naam, const char* voorbeeld, Tab tab, int element) {
+      fotos.push_back({naam, [=](Wereld& w) {
+                         w.Open(Data / voorbeeld);
+                         w.KiesTab(tab);
+                         if (element > 0) w.Zoek<QListWidget>("lstProject")->setCurrentRow(element - 1);
+                         return w.Hoofd();
+                       }});
+    };
+    voeg("projectgegevens", "kantoor.mrv", Tab::Projectgegevens, 0);
+    voeg("ventilator-prognose", "kantoor.mrv", Tab::Ventilator, 0);
+    voeg("ventilator-lijst", "plafond.mrv", Tab::Ventilator, 0);
+    voeg("ruimtegegevens", "kantoor.mrv", Tab::Ruimtegegevens, 0);
+    voeg("ruimtegegevens-plafond", "plafond.mrv", Tab::Ruimtegegevens, 0);
+    voeg("kanaalelementen", "kantoor.mrv", Tab::Kanaalelementen, 0);
+    voeg("kanaal-rechthoekig", "kantoor.mrv", Tab::Kanaalelementen, 3);
+    voeg("kanaal-rond", "kantoor.mrv", Tab::Kanaalelementen, 12);
+    voeg("bocht-rechthoekig", "kantoor.mrv", Tab::Kanaalelementen, 4);
+    voeg("bocht-rond", "kantoor.mrv", Tab::Kanaalelementen, 14);
+    voeg("aftakking-rechthoekig", "kantoor.mrv", Tab::Kanaalelementen, 6);
+    voeg("aftakking-rond", "kantoor.mrv", Tab::Kanaalelementen, 11);
+    voeg("doorsnedeverandering-rond", "kantoor.mrv", Tab::Kanaalelementen, 15);
+    voeg("regelklep", "kantoor.mrv", Tab::Kanaalelementen, 7);
+    voeg("rooster", "kantoor.mrv", Tab::Kanaalelementen, 16);
+    voeg("element-uit-de-lijst", "kantoor.mrv", Tab::Kanaalelementen, 2);
+    fotos.push_back({"kalender", [](Wereld& w) {
+                       w.Open(Data / "kantoor.mrv");
+                       w.Zoek<QToolButton>("Image1")->click();
+                       return w.Hoofd();
+                     }});
+    for (const Schatter soort :
+         {Schatter::Bekleed, Schatter::KwartLambda, Schatter::Plenum, Schatter::Kanaalwand})
+      fotos.push_back(
+          {std::string(VensterVan(soort).Naam), [soort](Wereld& w) { return w.MaakSchatter(soort); }});
+    fotos.push_back({"resultaten", [](Wereld& w) {
+                       w.MaakResultaat("kantoor.mrv");
+                       return w.Hoofd();
+                     }});
+    return fotos;
+  }();
+  return tabel;
+}
+
+/// Those in which one window shows; that of the results covers the project's.
+std::vector<Stand> EnkeleFotos() {
+  std::vector<Stand> fotos = Fotos();
+  std::erase_if(fotos, [](const Stand& foto) { return foto.Naam == "resultaten"; });
+  return fotos;
+}
+
+/// The windows of the program.
+const std::vector<Stand>& Standen() {
+  static const std::vector<Stand> tabel = [] {
+    std::vector<Stand> standen = EnkeleFotos();
+    VoegTabs(standen);
+    standen.push_back({"prognose van de ventilator", [](Wereld& w) {
+                         w.MaakTab("mnuVent", false, Tab::Ventilator);
+                         w.Zoek<QRadioButton>("optPrognose")->click();
+                         return w.Hoofd();
+                       }});
+    standen.push_back({"lijst kanaalelementen", [](Wereld& w) {
+                         w.MaakTab("mnuVent", false, Tab::Kanaalelementen);
+                         w.Zoek<QListWidget>("lstTotaal")->setCurrentRow(3);
+                         return w.Hoofd();
+                       }});
+    VoegElementen(standen);
+    for (const char* const voorbeeld : Voorbeelden) {
+      standen.push_back({std::string("frmResultaat ") + voorbeeld, [voorbeeld](Wereld& w) {
+                           w.MaakResultaat(voorbeeld);
+                           return w.Zoek<frmResultaat>("frmResultaat");
+                         }});
+    }
+    return standen;
+  }();
+  return tabel;
+}
+
+using Kijk = std::function<void(Wereld&, QWidget&)>;
+
+void Bezoek(const Kijk& kijk, const std::vector<Stand>& standen = Standen()) {
+  Wereld wereld;
+  for (const Stand& stand : standen) {
+    SCOPED_TRACE(stand.Naam);
+    wereld.Sluit();
+    QWidget* const venster = stand.Maak(wereld);
+    QCoreApplication::processEvents();
+    kijk(wereld, *venster);
+  }
+}
+
+// ---- Which controls there are ----
+
+/// What the toolkit makes inside its own controls is not ours to judge.
+bool IsInwendig(const QWidget& vak, const QWidget& venster) {
+  for (const QWidget* een = &vak; een != nullptr && een != &venster; een = een->parentWidget()) {
+    if (qobject_cast<const QCalendarWidget*>(een->parentWidget()) != nullptr) return true;
+    if (een->objectName().startsWith("qt_") && een->objectName() != "qt_tabwidget_tabbar" &&
+        een->objectName() != "qt_tabwidget_stackedwidget" && een->objectName() != "qt_scrollarea_viewport")
+      return true;
+    if (qobject_cast<const QComboBox*>(een->parentWidget()) != nullptr) return true;
+    if (qobject_cast<const QMdiSubWindow*>(een->parentWidget()) != nullptr && een->objectName().isEmpty())
+      return true;
+    if (qobject_cast<const QTabBar*>(een->parentWidget()) != nullptr) return true;
+    if (qobject_cast<const QMenuBar*>(een->parentWidget()) != nullptr) return true;
+    if (qobject_cast<const QStatusBar*>(een->parentWidget()) != nullptr && een->objectName().isEmpty())
+      return true;
+  }
+  return false;
+}
+
+std::vector<QWidget*> Zichtbaar(const QWidget& venster) {
+  std::vector<QWidget*> uit;
+  for (QWidget* const vak : venster.findChildren<QWidget*>()) {
+    const bool kader = qobject_cast<const QMdiSubWindow*>(vak) != nullptr;
+    if (vak->isVisible() && !vak->isWindow() && !kader && !IsInwendig(*vak, venster)) uit.push_back(vak);
+  }
+  return uit;
+}
+
+bool KrijgtTab(const QWidget& vak) {
+  return vak.isEnabled() && (vak.focusPolicy() & Qt::TabFocus) == Qt::TabFocus && vak.focusProxy() == nullptr;
+}
+
+/// Options that exclude each other: those of a group, or those without one in the same place.
+std::vector<QRadioButton*> Keuze(const QRadioButton& optie) {
+  std::vector<QRadioButton*> uit;
+  for (auto* const een : optie.parentWidget()->findChildren<QRadioButton*>(Qt::FindDirectChildrenOnly)) {
+    if (een->group() == optie.group()) uit.push_back(een);
+  }
+  return uit;
+}
+
+/// The controls that the Tab key has to reach. Of options that exclude each other the one that is chosen
+/// stands for all, or when none is the one that had the focus last: the arrow keys reach the others.
+std::set<QWidget*> Bereikbaar(const QWidget& venster) {
+  std::set<QWidget*> uit;
+  for (QWidget* const vak : Zichtbaar(venster)) {
+    const auto* const optie = qobject_cast<QRadioButton*>(vak);
+    if (optie == nullptr) {
+      if (KrijgtTab(*vak)) uit.insert(vak);
+      continue;
+    }
+    const std::vector<QRadioButton*> keuze = Keuze(*optie);
+    auto gekozen =
+        std::find_if(keuze.begin(), keuze.end(), [](const QRadioButton* een) { return een->isChecked(); });
+    if (gekozen == keuze.end())
+      gekozen =
+          std::find_if(keuze.begin(), keuze.end(), [](const QRadioButton* een) { return KrijgtTab(*een); });
+    uit.insert(gekozen == keuze.end() ? keuze.front() : *gekozen);
+  }
+  return uit;
+}
+
+std::string Naam(const QWidget& vak) {
+  return vak.objectName().isEmpty() ? vak.metaObject()->className() : vak.objectName().toStdString();
+}
+
+QRect Plaats(const QWidget& vak, const QWidget& venster) {
+  return QRect(vak.mapTo(&venster, QPoint(0, 0)), vak.size());
+}
+
+QWidget* Focus() {
+  return QApplication::focusWidget();
+}
+
+/// The controls in the order in which the Tab key (or Shift+Tab) reaches them, up to the first one again.
+std::vector<QWidget*> Loop(Qt::KeyboardModifiers met = {}) {
+  std::vector<QWidget*> uit;
+  for (int stap = 0; stap < 200 && Focus() != nullptr; ++stap) {
+    QTest::keyClick(Focus(), Qt::Key_Tab, met);
+    if (std::find(uit.begin(), uit.end(), Focus()) != uit.end()) break;
+    uit.push_back(Focus());
+  }
+  return uit;
+}
+
+// ---- The Tab key ----
+
+/// The two of which the order is read: the controls themselves, or what holds the one and not the other.
+std::pair<QWidget*, QWidget*> Zusters(QWidget* een, QWidget* ander) {
+  for (QWidget* boven = een; boven->parentWidget() != nullptr; boven = boven->parentWidget()) {
+    if (!boven->parentWidget()->isAncestorOf(ander)) continue;
+    QWidget* onder = ander;
+    while (onder->parentWidget() != boven->parentWidget()) onder = onder->parentWidget();
+    return {boven, onder};
+  }
+  return {een, ander};
+}
+
+/// Whether the eye reads `na` behind `voor`: not above it unless to its right, not left of it unless below.
+bool LeestNa(const QRect& voor, const QRect& na) {
+  const bool boven = na.bottom() < voor.top();
+  const bool links = na.right() < voor.left();
+  return !(boven && na.left() <= voor.right()) && !(links && na.top() <= voor.bottom());
+}
+
+void ControleerLeesrichting(const std::vector<QWidget*>& loop, const QWidget& venster) {
+  for (std::size_t i = 0; i < loop.size(); ++i) {
+    for (std::size_t j = i + 1; j < loop.size(); ++j) {
+      const auto [voor, na] = Zusters(loop[i], loop[j]);
+      EXPECT_TRUE(LeestNa(Plaats(*voor, venster), Plaats(*na, venster)))
+          << Naam(*loop[j]) << " comes after " << Naam(*loop[i]);
+    }
+  }
+}
+
+/// The walk from the control that stands first on screen.
+std::vector<QWidget*> VanBoven(std::vector<QWidget*> loop, const QWidget& venster) {
+  const auto plaats = [&venster](const QWidget* vak) {
+    const QRect r = Plaats(*vak, venster);
+    return std::pair(r.top(), r.left());
+  };
+  const auto eerste = std::min_element(
+      loop.begin(), loop.end(), [&](const QWidget* a, const QWidget* b) { return plaats(a) < plaats(b); });
+  std::rotate(loop.begin(), eerste, loop.end());
+  return loop;
+}
+
+TEST(Rondgang, TabGoesRoundInReadingOrder) {
+  Bezoek([](Wereld&, QWidget& venster) {
+    const std::set<QWidget*> alle = Bereikbaar(venster);
+    if (alle.empty()) return;
+    (*alle.begin())->setFocus(Qt::TabFocusReason);
+    const std::vector<QWidget*> loop = Loop();
+    for (QWidget* const vak : alle) {
+      EXPECT_NE(std::find(loop.begin(), loop.end(), vak), loop.end()) << Naam(*vak) << " is not reached";
+    }
+    for (QWidget* const vak : loop) {
+      EXPECT_TRUE(alle.contains(vak) || IsInwendig(*vak, venster)) << Naam(*vak) << " takes the focus";
+    }
+    ControleerLeesrichting(VanBoven(loop, venster), venster);
+    std::vector<QWidget*> terug = Loop(Qt::ShiftModifier);
+    EXPECT_EQ(terug.size(), loop.size()) << "back with Shift";
+  });
+}
+
+TEST(Rondgang, TheArrowKeysReachEveryOption) {
+  Bezoek([](Wereld&, QWidget& venster) {
+    for (QWidget* const vak : Zichtbaar(venster)) {
+      auto* const optie = qobject_cast<QRadioButton*>(vak);
+      if (optie == nullptr) continue;
+      const std::vector<QRadioButton*> keuze = Keuze(*optie);
+      keuze.front()->setFocus(Qt::OtherFocusReason);
+      for (const Qt::Key pijl : {Qt::Key_Left, Qt::Key_Up, Qt::Key_Right, Qt::Key_Down}) {
+        for (std::size_t i = 0; i < keuze.size() && Focus() != optie; ++i) QTest::keyClick(Focus(), pijl);
+      }
+      EXPECT_EQ(Focus(), optie) << Naam(*optie);
+    }
+  });
+}
+
+TEST(Rondgang, EnterPressesAButton) {
+  Bezoek([](Wereld&, QWidget& venster) {
+    for (QWidget* const vak : Bereikbaar(venster)) {
+      auto* const knop = qobject_cast<QAbstractButton*>(vak);
+      if (knop == nullptr || knop->isCheckable()) continue;
+      for (const Qt::Key toets : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+        QObject::disconnect(knop, &QAbstractButton::clicked, nullptr,
+                            nullptr);  // what it does is not the matter
+        int gedrukt = 0;
+        QObject tot;
+        QObject::connect(knop, &QAbstractButton::clicked, &tot, [&gedrukt] { ++gedrukt; });
+        knop->setFocus(Qt::TabFocusReason);
+        QTest::keyClick(knop, toets);
+        EXPECT_EQ(gedrukt, 1) << Naam(*knop);
+      }
+    }
+  });
+}
+
+// ---- Names ----
+
+QString Toegankelijk(QWidget* vak) {
+  QAccessibleInterface* const kijk = QAccessible::queryAccessibleInterface(vak);
+  return kijk == nullptr ? QString() : kijk->text(QAccessible::Name);
+}
+
+TEST(Rondgang, WhatTakesTheFocusSaysItsName) {
+  Bezoek([](Wereld&, QWidget& venster) {
+    std::set<QString> namen;
+    for (QWidget* const vak : Bereikbaar(venster)) {
+      const QString naam = Toegankelijk(vak);
+      EXPECT_FALSE(naam.trimmed().isEmpty()) << Naam(*vak);
+      for (const auto* groep : venster.findChildren<QGroupBox*>())
+        EXPECT_NE(naam, groep->title()) << Naam(*vak);
+      EXPECT_TRUE(namen.insert(naam).second) << naam.toStdString() << " names two controls";
+    }
+  });
+}
+
+bool IsInvoer(const QWidget* vak) {
+  return qobject_cast<const QLineEdit*>(vak) != nullptr || qobject_cast<const QComboBox*>(vak) != nullptr ||
+         qobject_cast<const QListWidget*>(vak) != nullptr;
+}
+
+TEST(Rondgang, EveryFieldHasItsLabel) {
+  Bezoek([](Wereld&, QWidget& venster) {
+    std::set<const QWidget*> metLabel;
+    for (const auto* label : venster.findChildren<QLabel*>()) {
+      if (label->isVisible() && !label->text().isEmpty()) metLabel.insert(label->buddy());
+    }
+    for (const QWidget* const vak : Zichtbaar(venster)) {
+      const QString naam = vak->objectName();
+      if (!IsInvoer(vak) || naam == "txtToelichting2" || naam == "txtToelichting3") continue;  // go on below
+      EXPECT_TRUE(metLabel.contains(vak)) << naam.toStdString();
+    }
+  });
+}
+
+/// A control is called by what it is and what it holds; one of an array adds its index.
+bool NaamVolgensRegel(const QWidget& vak) {
+  static const QRegularExpression Vast(
+      "^(frm|MDI)[A-Z]\\w+$|^SSTab[12]$|^Toolbar[12](_[A-Z][a-z]+)?$|^StatusBar1(_[123](_beeld)?)?$|"
+      "^(VrijVeld|Text[1-6]|Image1|MonthView|ProgressBar1|Tekening(Ruimte|Leeg)?|RichTextBox1)$");
+  const std::vector<std::pair<bool, QString>> soorten = {
+      {qobject_cast<const QLineEdit*>(&vak) != nullptr, "^txt[A-Z a-z]\\w*(_\\d+)?$"},
+      {qobject_cast<const QListWidget*>(&vak) != nullptr, "^lst[A-Z]\\w+$"},
+      {qobject_cast<const QComboBox*>(&vak) != nullptr, "^cmb[A-Z]\\w+$"},
+      {qobject_cast<const QRadioButton*>(&vak) != nullptr, "^opt[A-Z]\\w+$"},
+      {qobject_cast<const QPushButton*>(&vak) != nullptr, "^cmd[A-Z]\\w+$"},
+      {qobject_cast<const QGroupBox*>(&vak) != nullptr, "^frame[A-Z]\\w+$"},
+      {qobject_cast<const QLabel*>(&vak) != nullptr, "^lbl[A-Z a-z]\\w*(_\\d+)?$"},
+  };
+  for (const auto& [is, patroon] : soorten) {
+    if (is && QRegularExpression(patroon).match(vak.objectName()).hasMatch()) return true;
+  }
+  return Vast.match(vak.objectName()).hasMatch();
+}
+
+bool IsBesturing(const QWidget* vak) {
+  return IsInvoer(vak) || qobject_cast<const QAbstractButton*>(vak) != nullptr ||
+         qobject_cast<const QLabel*>(vak) != nullptr || qobject_cast<const QGroupBox*>(vak) != nullptr ||
+         qobject_cast<const QTextEdit*>(vak) != nullptr || qobject_cast<const QTabWidget*>(vak) != nullptr;
+}
+
+TEST(Rondgang, EveryControlIsCalledByItsName) {
+  Bezoek([](Wereld&, QWidget& venster) {
+    std::set<QString> namen;
+    for (const QWidget* const vak : Zichtbaar(venster)) {
+      if (!IsBesturing(vak)) continue;
+      EXPECT_TRUE(NaamVolgensRegel(*vak)) << Naam(*vak) << " in " << Naam(*vak->parentWidget());
+      EXPECT_TRUE(namen.insert(vak->objectName()).second) << Naam(*vak) << " twice";
+    }
+    for (const auto* menu : venster.findChildren<QMenu*>(QRegularExpression("^mnu"))) {
+      for (const QAction* const actie : menu->actions()) {
+        EXPECT_TRUE(actie->isSeparator() || actie->objectName().startsWith("mnu"))
+            << actie->text().toStdString();
+      }
+    }
+  });
+}
+
+// ---- Whole texts ----
+
+/// The room that a line edit has for its text.
+int TekstRuimte(const QLineEdit& veld) {
+  constexpr int Binnenmarge = 2;  // of the toolkit, on both sides
+  QStyleOptionFrame optie;
+  optie.initFrom(&veld);
+  optie.lineWidth = veld.style()->pixelMetric(QStyle::PM_DefaultFrameWidth, &optie, &veld);
+  const QRect rand = veld.style()->subElementRect(QStyle::SE_LineEditContents, &optie, &veld);
+  return rand.width() - 2 * Binnenmarge;
+}
+
+/// The widest text that a field can be left with. A text of words is taken at the width of its average.
+int BreedsteTekst(const InvoerVeld& veld) {
+  const VeldRegel& regel = veld.DeRegel();
+  const QFontMetrics letters = veld.fontMetrics();
+  if (regel.Soort == VeldSoort::Datum) return letters.horizontalAdvance("30-09-2026");
+  if (const int tekens = MaxTekens(regel); tekens > 0) return tekens * letters.averageCharWidth();
+  return letters.horizontalAdvance(VanCp(Opmaak(regel.Boven, regel.Weergave, ',')));
+}
+
+void ControleerVeld(const InvoerVeld& veld) {
+  EXPECT_GE(TekstRuimte(veld), BreedsteTekst(veld) + 1) << Naam(veld);
+  EXPECT_GE(veld.height(), veld.sizeHint().height()) << Naam(veld);
+}
+
+void ControleerTabs(const QTabBar& balk) {
+  for (int i = 0; i < balk.count(); ++i) {
+    EXPECT_GT(balk.tabRect(i).width(), balk.fontMetrics().horizontalAdvance(balk.tabText(i))) << i;
+    EXPECT_LE(balk.tabRect(i).right(), balk.width()) << i;
+  }
+}
+
+void ControleerKeuze(const QComboBox& keuze) {
+  for (int i = 0; i < keuze.count(); ++i) {
+    EXPECT_GE(TekstRuimte(*keuze.lineEdit()), keuze.fontMetrics().horizontalAdvance(keuze.itemText(i)))
+        << Naam(keuze) << ": " << keuze.itemText(i).toStdString();
+  }
+}
+
+/// A row that is longer than its list is wide shows whole in its tool tip.
+void ControleerLijst(const QListWidget& lijst) {
+  EXPECT_GE(lijst.viewport()->height(), 4 * lijst.fontMetrics().height()) << Naam(lijst);
+  for (int i = 0; i < lijst.count(); ++i) EXPECT_EQ(lijst.item(i)->toolTip(), lijst.item(i)->text());
+}
+
+void ControleerTekst(const QWidget& vak) {
+  if (qobject_cast<const QLabel*>(&vak) != nullptr || qobject_cast<const QAbstractButton*>(&vak) != nullptr ||
+      qobject_cast<const QGroupBox*>(&vak) != nullptr) {
+    EXPECT_GE(vak.width(), vak.sizeHint().width()) << Naam(vak);
+    EXPECT_GE(vak.height(), vak.sizeHint().height()) << Naam(vak);
+  }
+  if (const auto* const veld = qobject_cast<const InvoerVeld*>(&vak)) ControleerVeld(*veld);
+  if (const auto* const keuze = qobject_cast<const QComboBox*>(&vak)) ControleerKeuze(*keuze);
+  if (const auto* const lijst = qobject_cast<const QListWidget*>(&vak)) ControleerLijst(*lijst);
+  if (const auto* const balk = qobject_cast<const QTabBar*>(&vak)) ControleerTabs(*balk);
+}
+
+void ControleerTeksten(const QWidget& venster) {
+  for (const QWidget* const vak : Zichtbaar(venster)) ControleerTekst(*vak);
+  const auto* const balk = venster.findChild<QMenuBar*>();
+  if (balk == nullptr) return;  // a window of its own
+  for (QAction* const menu : balk->actions()) {
+    const QRect plek = balk->actionGeometry(menu);
+    EXPECT_GE(plek.width(), balk->fontMetrics().horizontalAdvance(menu->text()))
+        << menu->text().toStdString();
+    EXPECT_LE(plek.right(), balk->width()) << menu->text().toStdString();
+  }
+}
+
+TEST(Rondgang, NoTextIsCut) {
+  Bezoek([](Wereld&, QWidget& venster) { ControleerTeksten(venster); });
+}
+
+// ---- Places ----
+
+void ControleerMaten(const QWidget& venster) {
+  const QSize ruimte = Scherm() - QSize(0, Randen);
+  EXPECT_LE(venster.width(), ruimte.width());
+  EXPECT_LE(venster.height(), ruimte.height());
+  for (const QWidget* const vak : Zichtbaar(venster)) {
+    const QWidget* const ouder = vak->parentWidget();
+    if (ouder->inherits("QTabBar") || ouder->inherits("QAbstractScrollArea")) continue;
+    const QSize kleinste = vak->minimumSizeHint().expandedTo(vak->minimumSize());
+    EXPECT_GE(vak->width(), kleinste.width()) << Naam(*vak);
+    EXPECT_GE(vak->height(), kleinste.height()) << Naam(*vak);
+  }
+}
+
+TEST(Rondgang, EveryWindowFitsASmallScreen) {
+  Bezoek([](Wereld&, QWidget& venster) { ControleerMaten(venster); });
+}
+
+TEST(Rondgang, ALongFileNameWidensNothing) {
+  Wereld wereld;
+  const std::filesystem::path pad = wereld.Map() / (std::string(200, 'w') + ".mrv");
+  std::filesystem::copy_file(Data / "kantoor.mrv", pad);
+  wereld.Open(pad);
+  QCoreApplication::processEvents();
+  EXPECT_LE(wereld.Hoofd()->width(), Scherm().width());
+  EXPECT_LE(wereld.Hoofd()->minimumSizeHint().width(), Scherm().width());
+}
+
+bool MagOverlappen(const QWidget& vak) {
+  return vak.objectName() == "MonthView" || qobject_cast<const QMdiSubWindow*>(&vak) != nullptr;
+}
+
+TEST(Rondgang, NothingLiesOverAnother) {
+  Bezoek([](Wereld&, QWidget& venster) {
+    const std::vector<QWidget*> alle = Zichtbaar(venster);
+    for (const QWidget* const vak : alle) {
+      if (MagOverlappen(*vak) || vak->parentWidget()->inherits("QAbstractScrollArea")) continue;
+      EXPECT_TRUE(vak->parentWidget()->rect().contains(vak->geometry())) << Naam(*vak) << " sticks out";
+    }
+    for (std::size_t i = 0; i < alle.size(); ++i) {
+      for (std::size_t j = i + 1; j < alle.size(); ++j) {
+        if (alle[i]->parentWidget() != alle[j]->parentWidget()) continue;
+        if (MagOverlappen(*alle[i]) || MagOverlappen(*alle[j])) continue;
+        EXPECT_FALSE(alle[i]->geometry().intersects(alle[j]->geometry()))
+            << Naam(*alle[i]) << " and " << Naam(*alle[j]);
+      }
+    }
+  });
+}
+
+/// Letters of another size, which the user has chosen for the whole system.
+class AndereLetters {
+ public:
+  explicit AndereLetters(double maal) : was_(QApplication::font()) {
+    (void)Letters();  // those of the system, before they change
+    QFont groot = was_;
+    groot.setPointSizeF(maal * was_.pointSizeF());
+    QApplication::setFont(groot);
+  }
+  AndereLetters(const AndereLetters&) = delete;
+  AndereLetters& operator=(const AndereLetters&) = delete;
+  ~AndereLetters() { QApplication::setFont(was_); }
+
+ private:
+  QFont was_;
+};
+
+TEST(Rondgang, LargeLettersAreNotCutEither) {
+  for (const double maal : {1.25, 1.5, 2.0}) {
+    SCOPED_TRACE(maal);
+    const AndereLetters letters(maal);
+    Bezoek(
+        [](Wereld&, QWidget& venster) {
+          ControleerTeksten(venster);
+          ControleerMaten(venster);
+        },
+        EnkeleFotos());
+  }
+}
+
+// ---- The focus shows ----
+
+/// What the eye tells apart without searching, of 255 in one of the three colours.
+constexpr int Zichtbaarheid = 48;
+/// Of a wide control only a part may change, as long as that is not a speck.
+constexpr int Zijde = 120;
+
+/// How many pixels differ clearly between two pictures of the same size.
+int Verschil(const QImage& een, const QImage& ander) {
+  int aantal = 0;
+  for (int y = 0; y < een.height(); ++y) {
+    const auto* const rij = reinterpret_cast<const QRgb*>(een.constScanLine(y));
+    const auto* const rijAnder = reinterpret_cast<const QRgb*>(ander.constScanLine(y));
+    for (int x = 0; x < een.width(); ++x) {
+      const int rood = std::abs(qRed(rij[x]) - qRed(rijAnder[x]));
+      const int groen = std::abs(qGreen(rij[x]) - qGreen(rijAnder[x]));
+      const int blauw = std::abs(qBlue(rij[x]) - qBlue(rijAnder[x]));
+      if (std::max({rood, groen, blauw}) >= Zichtbaarheid) ++aantal;
+    }
+  }
+  return aantal;
+}
+
+/// A control and its rim, as they show when the focus is where it is now.
+QImage Beeld(QWidget& venster, const QWidget& vak) {
+  return venster.grab(Plaats(vak, venster).adjusted(-2, -2, 2, 2))
+      .toImage()
+      .convertToFormat(QImage::Format_RGB32);
+}
+
+/// Gives the focus as the Tab key does, without what a field selects on entry: an empty one has nothing to
+/// select.
+void GeefFocus(QWidget* vak) {
+  vak->setFocus(Qt::TabFocusReason);
+  if (auto* const veld = qobject_cast<QLineEdit*>(vak)) veld->deselect();
+  if (auto* const keuze = qobject_cast<QComboBox*>(vak)) keuze->lineEdit()->deselect();
+}
+
+void ControleerFocus(QWidget& venster) {
+  const std::set<QWidget*> alle = Bereikbaar(venster);
+  if (alle.size() < 2) return;
+  (*alle.begin())->setFocus(Qt::TabFocusReason);
+  const std::vector<QWidget*> loop = Loop();
+  for (std::size_t i = 0; i < loop.size(); ++i) {
+    GeefFocus(loop[(i + 1) % loop.size()]);
+    const QImage zonder = Beeld(venster, *loop[i]);
+    GeefFocus(loop[i]);
+    const QImage met = Beeld(venster, *loop[i]);
+    ASSERT_EQ(met.size(), zonder.size());
+    EXPECT_GE(Verschil(met, zonder), std::min(loop[i]->width(), Zijde)) << Naam(*loop[i]);
+  }
+}
+
+// What has no picture of its own has the same controls with other texts.
+TEST(Rondgang, TheFocusShows) {
+  Bezoek([](Wereld&, QWidget& venster) { ControleerFocus(venster); }, EnkeleFotos());
+}
+
+/// A theme of light letters on a dark ground.
+class Donker {
+ public:
+  Donker() : was_(QApplication::palette()) {
+    QPalette donker(QColor(45, 45, 48));
+    donker.setColor(QPalette::Base, QColor(30, 30, 30));
+    donker.setColor(QPalette::Highlight, QColor(70, 130, 200));
+    QApplication::setPalette(donker);
+    QCoreApplication::processEvents();
+  }
+  Donker(const Donker&) = delete;
+  Donker& operator=(const Donker&) = delete;
+  ~Donker() { QApplication::setPalette(was_); }
+
+ private:
+  QPalette was_;
+};
+
+TEST(Rondgang, TheFocusShowsInADarkTheme) {
+  const Donker donker;
+  Bezoek([](Wereld&, QWidget& venster) { ControleerFocus(venster); }, EnkeleFotos());
+}
+
+// ---- The wheel ----
+
+/// All that the window holds, as text.
+QStringList Inhoud(const QWidget& venster) {
+  QStringList uit;
+  for (const auto* veld : venster.findChildren<QLineEdit*>()) uit << veld->text();
+  for (const auto* knop : venster.findChildren<QAbstractButton*>()) uit << (knop->isChecked() ? "1" : "0");
+  for (const auto* keuze : venster.findChildren<QComboBox*>()) uit << keuze->currentText();
+  for (const auto* tabs : venster.findChildren<QTabWidget*>()) uit << QString::number(tabs->currentIndex());
+  for (const auto* lijst : venster.findChildren<QListWidget*>()) uit << QString::number(lijst->currentRow());
+  return uit;
+}
+
+TEST(Rondgang, TheWheelChangesNothing) {
+  Bezoek([](Wereld&, QWidget& venster) {
+    const QStringList was = Inhoud(venster);
+    for (QWidget* const vak : Zichtbaar(venster)) {
+      for (const int draai : {-120, 120}) {
+        QWheelEvent wiel({3, 3}, vak->mapToGlobal(QPointF(3, 3)), {}, {0, draai}, Qt::NoButton, {},
+                         Qt::NoScrollPhase, false);
+        QApplication::sendEvent(vak, &wiel);
+      }
+    }
+    EXPECT_EQ(Inhoud(venster), was);
+  });
+}
+
+// ---- Pictures ----
+
+/// How many colours a picture has, as far as the eye tells them apart; an empty window has one or two.
+std::size_t Kleuren(const QImage& beeld) {
+  std::set<QRgb> kleuren;
+  for (int y = 0; y < beeld.height(); y += 2) {
+    for (int x = 0; x < beeld.width(); x += 2) kleuren.insert(beeld.pixel(x, y) & 0xE0E0E0U);
+  }
+  return kleuren.size();
+}
+
+/// Pictures of the windows; they are kept where MURVANE_BEELDEN names a directory, one of 200 % as name-200.
+void MaakFotos(const QString& soort) {
+  const QString map = qEnvironmentVariable("MURVANE_BEELDEN");
+  for (const Stand& stand : Fotos()) {
+    SCOPED_TRACE(stand.Naam);
+    Wereld wereld;
+    QWidget* const venster = stand.Maak(wereld);
+    QCoreApplication::processEvents();
+    const QPixmap beeld = venster->grab();
+    EXPECT_GT(Kleuren(beeld.toImage()), 4U);
+    const int schaal = static_cast<int>(100 * beeld.devicePixelRatio());
+    const QString maat = schaal == 100 ? QString() : "-" + QString::number(schaal);
+    if (map.isEmpty()) continue;
+    EXPECT_TRUE(beeld.save(map + "/" + QString::fromStdString(stand.Naam) + soort + maat + ".png"));
+  }
+}
+
+TEST(Rondgang, CanBePictured) {
+  MaakFotos("");
+}
+
+TEST(Rondgang, CanBePicturedInADarkTheme) {
+  const Donker donker;
+  MaakFotos("-donker");
+}
+
+TEST(Rondgang, WhatIsDisabledCanBeRead) {
+  const auto leesbaar = [] {
+    Wereld wereld;
+    wereld.MaakTab("mnuVent", false, Tab::Kanaalelementen);
+    QCoreApplication::processEvents();
+    for (const char* const naam : {"Toolbar1_Add", "Toolbar2_Delete"}) {
+      const QPalette palet = wereld.Zoek<QToolButton>(naam)->palette();
+      EXPECT_GE(Contrast(palet.color(QPalette::Disabled, QPalette::ButtonText),
+                         palet.color(QPalette::Disabled, QPalette::Button)),
+                3.5)
+          << naam;
+      EXPECT_NE(palet.color(QPalette::Disabled, QPalette::ButtonText),
+                palet.color(QPalette::Active, QPalette::ButtonText));
+    }
+  };
+  leesbaar();
+  const Donker donker;
+  leesbaar();
+}
+
+TEST(Rondgang, ALargeWindowIsUsed) {
+  Wereld wereld;
+  wereld.MaakElement("mnuVent", elementtype::KanaalRecht, 1);
+  QCoreApplication::processEvents();
+  const QSize klein = wereld.Zoek<QWidget>("Tekening")->size();
+  const int rijen = wereld.Zoek<QWidget>("lstProject")->height();
+  wereld.Hoofd()->resize(1900, 1040);
+  QCoreApplication::processEvents();
+  EXPECT_GT(wereld.Zoek<QWidget>("Tekening")->width(), klein.width() + 300);
+  EXPECT_GT(wereld.Zoek<QWidget>("Tekening")->height(), klein.height() + 60);
+  EXPECT_GT(wereld.Zoek<QWidget>("lstProject")->height(), rijen + 60);
+  wereld.KiesTab(Tab::Projectgegevens);
+  QCoreApplication::processEvents();
+  const QRect veld = Plaats(*wereld.Zoek<QWidget>("txtProNaam"), *wereld.Hoofd());
+  EXPECT_GT(veld.left(), 200);  // the sheet stands in the middle
+  EXPECT_LT(veld.right(), 1700);
+}
+
+}  // namespace
+}  // namespace murvane
