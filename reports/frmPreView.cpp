@@ -118,6 +118,11 @@ void frmPreView::ButtonClick(const QString& sleutel) {
   ToonBlad();
 }
 
+bool frmPreView::focusNextPrevChild(bool verder) {
+  FocusBinnen(*this, verder);
+  return true;
+}
+
 void frmPreView::resizeEvent(QResizeEvent* gebeurtenis) {
   QWidget::resizeEvent(gebeurtenis);
   const int werkbalk = Toolbar1->sizeHint().height();

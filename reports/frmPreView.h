@@ -50,6 +50,7 @@ class frmPreView : public QWidget {
 
  protected:
   void resizeEvent(QResizeEvent* gebeurtenis) override;
+  bool focusNextPrevChild(bool verder) override;
   void closeEvent(QCloseEvent* gebeurtenis) override;
   void wheelEvent(QWheelEvent* gebeurtenis) override;
   void keyPressEvent(QKeyEvent* gebeurtenis) override;

@@ -37,6 +37,7 @@ frmResultaat::frmResultaat(const Rapport& rapport, QWidget* ouder)
   tekst_->setObjectName("RichTextBox1");
   tekst_->setAccessibleName("Rapport van de berekening");
   tekst_->setReadOnly(true);
+  tekst_->setTabChangesFocus(true);
   tekst_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   tekst_->setLineWrapMode(QTextEdit::NoWrap);
   QTextCursor cursor(tekst_->document());
@@ -46,7 +47,13 @@ frmResultaat::frmResultaat(const Rapport& rapport, QWidget* ouder)
     VoegToe(cursor, *blok, 7.2);
   tekst_->moveCursor(QTextCursor::Start);
   setFocusProxy(tekst_);
+  tekst_->setFocus();  // it has the keys when the window opens, not the toolbar above it
   connect(Toolbar1, &Werkbalk::ButtonClick, this, &frmResultaat::ButtonClick);
+}
+
+bool frmResultaat::focusNextPrevChild(bool verder) {
+  FocusBinnen(*this, verder);
+  return true;
 }
 
 void frmResultaat::resizeEvent(QResizeEvent* gebeurtenis) {

@@ -24,6 +24,7 @@ class frmResultaat : public QWidget {
 
  protected:
   void resizeEvent(QResizeEvent* gebeurtenis) override;
+  bool focusNextPrevChild(bool verder) override;
 
  private:
   Werkbalk* Toolbar1;

@@ -1,6 +1,7 @@
 #include "reports/vensters_werkbalk.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QEvent>
 
 #include "basis/vensters_hulp.h"
@@ -43,6 +44,20 @@ void Werkbalk::ZetIconen() {
 void Werkbalk::changeEvent(QEvent* gebeurtenis) {
   QToolBar::changeEvent(gebeurtenis);
   if (gebeurtenis->type() == QEvent::PaletteChange) ZetIconen();
+}
+
+void FocusBinnen(const QWidget& venster, bool verder) {
+  QWidget* const nu = QApplication::focusWidget();
+  if (nu == nullptr || !venster.isAncestorOf(nu)) return;
+  const auto volgende = [verder](QWidget* w) {
+    return verder ? w->nextInFocusChain() : w->previousInFocusChain();
+  };
+  for (QWidget* w = volgende(nu); w != nu; w = volgende(w)) {
+    const bool bereikbaar = (w->focusPolicy() & Qt::TabFocus) != 0 && w->isEnabled() && w->isVisible();
+    if (!bereikbaar || !venster.isAncestorOf(w)) continue;
+    w->setFocus(verder ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return;
+  }
 }
 
 }  // namespace murvane

@@ -31,4 +31,8 @@ class Werkbalk : public QToolBar {
   std::span<const Werkknop> knoppen_;
 };
 
+/// Gives the keys to the next or the previous control of a window inside the main window, round and round:
+/// Tab does not wander off to a window behind it.
+void FocusBinnen(const QWidget& venster, bool verder);
+
 }  // namespace murvane

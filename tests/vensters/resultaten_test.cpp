@@ -108,6 +108,14 @@ TEST_F(Resultaatvensters, TheResultWindowHasItsToolbarAboveTheText) {
   }
   EXPECT_EQ(resultaat->findChild<QTextEdit*>("RichTextBox1")->geometry().top(), 28);  // 420 twips
   EXPECT_LE(resultaat->findChild<QWidget*>("Toolbar1")->geometry().bottom(), 27);
+  EXPECT_EQ(QApplication::focusWidget()->objectName(), "RichTextBox1");  // and the keys
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+  EXPECT_EQ(QApplication::focusWidget()->parentWidget()->objectName(), "Toolbar1");  // within reach of Tab
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab, Qt::ShiftModifier);
+  EXPECT_EQ(QApplication::focusWidget()->objectName(), "RichTextBox1");
+  for (std::size_t i = 0; i <= ResultaatKnoppen.size(); ++i)
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+  EXPECT_EQ(QApplication::focusWidget()->objectName(), "RichTextBox1");  // round, within the window
 }
 
 TEST_F(Resultaatvensters, SavesTheTextReport) {
