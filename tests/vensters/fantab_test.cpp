@@ -129,7 +129,7 @@ TEST_F(Fantab, BackFromThePrognosisTheFanOfTheListIsTakenAgain) {
     Zoek<QRadioButton>("optAxiaal")->click();
     EXPECT_EQ(Lw(), nullen);
     EXPECT_EQ(Zoek<QLabel>("lblLwA")->text(), "");
-    venster->VulCatalogi();  // no row of the list is selected any more
+    venster->VulFans();  // no row of the list is selected any more
     ASSERT_EQ(Zoek<QListWidget>("lstFan")->currentRow(), -1);
     Zoek<QAbstractButton>(terug)->click();
     EXPECT_EQ(Zoek<QListWidget>("lstFan")->currentRow(), 2) << terug;
