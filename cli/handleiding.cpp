@@ -20,7 +20,9 @@ Hulpoptie VanRegel(const OptieRegel& regel) {
 }
 
 Hulpopdracht VanRegel(const OpdrachtRegel& regel) {
-  Hulpopdracht uit{regel.Naam, regel.Argument, regel.Meer, regel.Kort, regel.Uitleg, {}};
+  Hulpopdracht uit{regel.Naam, regel.Argument, regel.Meer, regel.Kort, regel.Uitleg, {}, {}};
+  const OptieRegel& soort = RegelVan(Optie::Soort);
+  if (regel.Argument == soort.Argument) uit.Woorden = Delen(soort.Waarden, '|');
   for (const OptieRegel& optie : Opties)
     if (Kent(optie, regel.Code)) uit.Opties.push_back(VanRegel(optie));
   return uit;
@@ -217,6 +219,7 @@ std::string BashOpdracht(const Hulpopdracht& opdracht, const std::string& anders
 
 std::string BashBestand(const Hulpopdracht& opdracht) {
   if (opdracht.Argument.empty()) return ":";
+  if (!opdracht.Woorden.empty()) return BashWoorden(opdracht.Woorden);
   const std::string_view extensie = Extensie(opdracht.Argument);
   return "_filedir" + (extensie.empty() ? "" : " " + std::string(extensie));
 }
@@ -304,7 +307,9 @@ std::string ZshBestand(const Hulpopdracht& opdracht) {
   if (opdracht.Argument.empty()) return "";
   const std::string_view extensie = Extensie(opdracht.Argument);
   std::string uit =
-      "    '" + std::string(opdracht.Meer ? "*" : "1") + ":" + ZshTekst(opdracht.Argument) + ":_files";
+      "    '" + std::string(opdracht.Meer ? "*" : "1") + ":" + ZshTekst(opdracht.Argument) + ":";
+  if (!opdracht.Woorden.empty()) return uit + "(" + Aaneen(opdracht.Woorden, " ") + ")' \\\n";
+  uit += "_files";
   if (!extensie.empty()) uit += " -g \"(#i)*." + std::string(extensie) + "(-.)\"";
   return uit + "' \\\n";
 }
@@ -361,9 +366,12 @@ std::string ZshOpdrachten(const Hulpprogramma& programma) {
   return uit + "  esac\n";
 }
 
-// ---- The two programs ----
+// ---- The programs ----
 
-constexpr std::string_view EindstatusKop = "EINDSTATUS";
+Hulpkop Eindstatus() {
+  return {"EINDSTATUS",
+          {{"0", "klaar"}, {"1", "fout"}, {"2", "afgekeurd door de controle"}, {"64", "verkeerd gebruik"}}};
+}
 
 Hulpkop Gegevensbestanden() {
   return {
@@ -421,16 +429,23 @@ Hulpprogramma HulpVanCli() {
   Hulpprogramma uit{"murvane-cli", "berekent geluidsniveaus van luchttechnische installaties", {}, {}, {}};
   for (const OpdrachtRegel& regel : Opdrachten)
     if (regel.Code == Opdracht::Programma || !regel.Naam.empty()) uit.Opdrachten.push_back(VanRegel(regel));
-  uit.Koppen = {
-      {EindstatusKop,
-       {{"0", "klaar"}, {"1", "fout"}, {"2", "afgekeurd door de controle"}, {"64", "verkeerd gebruik"}}},
-      Gegevensbestanden(),
-      {"VOORBEELDEN",
-       {{"murvane-cli reken kantoor.mrv", "het rapport op de standaarduitvoer"},
-        {"murvane-cli reken *.mrv --uit resultaten",
-         "van elk project een rapport en de resultaten als JSON, op alle processorkernen"},
-        {"murvane-cli toon kantoor.mrv -o kantoor.json", "een project als leesbare tekst"}}}};
-  uit.ZieOok = {"murvane"};
+  uit.Koppen = {Eindstatus(),
+                Gegevensbestanden(),
+                {"VOORBEELDEN",
+                 {{"murvane-cli reken kantoor.mrv", "het rapport op de standaarduitvoer"},
+                  {"murvane-cli reken *.mrv --uit resultaten",
+                   "van elk project een rapport en de resultaten als JSON, op alle processorkernen"},
+                  {"murvane-cli toon kantoor.mrv -o kantoor.json", "een project als leesbare tekst"}}}};
+  uit.ZieOok = {"murvane", "murvane-druk"};
+  return uit;
+}
+
+Hulpprogramma HulpVanDruk() {
+  Hulpprogramma uit{"murvane-druk",
+                    "zet het berekeningsformulier van een project in een PDF-bestand",
+                    {VanRegel(RegelVan(Opdracht::Druk))},
+                    {Eindstatus(), Gegevensbestanden()},
+                    {"murvane", "murvane-cli"}};
   return uit;
 }
 
@@ -455,12 +470,12 @@ Hulpprogramma HulpVanMurvane() {
          "te melden was, anders met 1"},
         {"XDG_DATA_HOME", "waar de eigen gegevensmap murvane staat; zonder deze variabele ~/.local/share"}}},
       Gegevensbestanden()};
-  uit.ZieOok = {"murvane-cli"};
+  uit.ZieOok = {"murvane-cli", "murvane-druk"};
   return uit;
 }
 
 std::vector<Hulpprogramma> Hulpprogrammas() {
-  return {HulpVanMurvane(), HulpVanCli()};
+  return {HulpVanMurvane(), HulpVanCli(), HulpVanDruk()};
 }
 
 int MaakHulp(std::span<const std::string> argumenten, std::ostream& fouten) {

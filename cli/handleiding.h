@@ -26,6 +26,7 @@ struct Hulpopdracht {
   bool Meer = false;
   std::string_view Kort;
   std::string_view Uitleg;
+  std::vector<std::string_view> Woorden;  ///< what its argument may be, when that is no file
   std::vector<Hulpoptie> Opties;
 };
 
@@ -52,6 +53,8 @@ struct Hulpprogramma {
 [[nodiscard]] std::vector<Hulpprogramma> Hulpprogrammas();
 /// murvane-cli, from the table of opties.h.
 [[nodiscard]] Hulpprogramma HulpVanCli();
+/// murvane-druk, from the same table.
+[[nodiscard]] Hulpprogramma HulpVanDruk();
 /// murvane, whose command line is one project.
 [[nodiscard]] Hulpprogramma HulpVanMurvane();
 

@@ -166,7 +166,6 @@ void frmMurvane::VulElementen() {
 void frmMurvane::VulFans() {
   BouwTabs();
   const QScopedValueRollback<bool> vult(vult_, true);
-  laatsteFan_ = 0;  // the row that was chosen last may hold another fan now
   lstFan->ZetRijen(Rijen(CatalogusRijen(catalogi_.CatFans)));
 }
 

@@ -192,7 +192,10 @@ Lijstvak::Lijstvak(const QString& objectNaam, const QString& naam, QWidget* oude
 void Lijstvak::ZetRijen(const QStringList& rijen) {
   const QScopedValueRollback<bool> stil(stil_, true);
   clear();
-  for (const QString& rij : rijen) VoegRij(rij);
+  addItems(
+      rijen);  // all at once: the view is told of new rows one time only, and of their tool tips not at all
+  const QSignalBlocker nietVerteld(model());
+  for (int rij = 0; rij < count(); ++rij) item(rij)->setToolTip(rijen[rij]);
 }
 
 void Lijstvak::VoegRij(const QString& tekst) {

@@ -123,6 +123,15 @@ TEST(ManPagina, CarriesNameVersionAndDateOfTheRelease) {
   }
 }
 
+TEST(ManPagina, OfTheFormTellsItsOptionsAndUsage) {
+  const std::string pagina = ManPagina(HulpVanDruk());
+  const std::string opties = Gelezen(Tussen(pagina, ".SH OPTIES\n", "\n.SH"));
+  for (const OptieRegel& optie : Opties)
+    EXPECT_EQ(opties.find(Rij(optie)) != std::string::npos, Kent(optie, Opdracht::Druk)) << optie.Namen;
+  EXPECT_THAT(Gelezen(pagina), HasSubstr(Tussen(HelpTekst(Opdracht::Druk), "Gebruik: ", "\n") + " "));
+  EXPECT_THAT(Gelezen(pagina), HasSubstr(std::string(RegelVan(Opdracht::Druk).Uitleg)));
+}
+
 /// The part of a completion that serves one command.
 std::string BashDeel(Opdracht opdracht) {
   return Tussen(BashAanvulling(HulpVanCli()), "    '" + std::string(RegelVan(opdracht).Naam) + "')\n",
@@ -203,6 +212,15 @@ TEST(Aanvulling, OfZshKeepsSignsOfItsOwnPlain) {
   Hulpprogramma programma{"proef", "", {{}}, {}, {}};
   programma.Opdrachten[0].Opties = {{{"--x"}, "", {}, "zo'n [a:b] \\", false}};
   EXPECT_THAT(ZshAanvulling(programma), HasSubstr("'--x[zo'\\''n \\[a\\:b\\] \\\\]' \\\n"));
+}
+
+TEST(Aanvulling, OfTheFormOffersItsOptionsValuesAndProjects) {
+  const std::string bash = BashAanvulling(HulpVanDruk());
+  EXPECT_THAT(bash, HasSubstr("        --pdf) _filedir; return ;;\n"));
+  EXPECT_THAT(bash, HasSubstr("        --grafiek) COMPREPLY=($(compgen -W '1m galmveld geen' -- \"$cur\")); "
+                              "return ;;\n"));
+  EXPECT_THAT(bash, HasSubstr("      _filedir mrv\n"));
+  EXPECT_THAT(ZshAanvulling(HulpVanDruk()), HasSubstr(":1m|galmveld|geen:(1m galmveld geen)' \\\n"));
 }
 
 TEST(Aanvulling, OfTheProgramWithWindowsOffersProjects) {

@@ -11,6 +11,7 @@ touch "een.mrv" "TWEE.MRV" "catalogus.dat" "drie.json" "brief.txt"
 source /usr/share/bash-completion/bash_completion
 source "$map/bash/murvane-cli"
 source "$map/bash/murvane"
+source "$map/bash/murvane-druk"
 
 # What the last word of the line becomes, sorted, on one line.
 vul_aan() {
@@ -28,11 +29,11 @@ verwacht() {  # what comes, command line
   [ "$wordt" = "$1" ] || { echo "$(printf '[%s] ' "${@:2}"): '$wordt' in plaats van '$1'" >&2; fouten=1; }
 }
 
-verwacht 'catalogus|controleer|maak|reken|schat|toon' murvane-cli ''
+verwacht 'catalogus|controleer|maak|overzicht|reken|schat|toon' murvane-cli ''
 verwacht 'reken' murvane-cli re
 verwacht 'reken' murvane-cli --data map re
 verwacht 'punt' murvane-cli --decimaal p
-verwacht 'maak|toon' murvane-cli catalogus ''
+verwacht 'maak|sorteer|toon' murvane-cli catalogus ''
 verwacht 'toon' murvane-cli catalogus t
 verwacht 'TWEE.MRV|een.mrv|mijn map' murvane-cli reken ''
 verwacht 'een.mrv' murvane-cli reken TWEE.MRV ee
@@ -51,7 +52,10 @@ verwacht 'bekleed|kanaalwand|kwartlambda|plenum|ventilator' murvane-cli schat ''
 verwacht '--Dikte' murvane-cli schat bekleed --Di
 verwacht '' murvane-cli schat bekleed --Dikte ''
 verwacht '' murvane-cli schat bekleed ''
+verwacht 'ventilatoren' murvane-cli overzicht v
 verwacht 'TWEE.MRV|een.mrv|mijn map' murvane ''
+verwacht 'TWEE.MRV|een.mrv|mijn map' murvane-druk ''
+verwacht '1m|galmveld|geen' murvane-druk een.mrv --grafiek ''
 
 for bestand in "$map"/zsh/_*; do zsh -n "$bestand" || fouten=1; done
 exit $fouten
