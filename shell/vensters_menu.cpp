@@ -62,7 +62,7 @@ Taakbalk::Taakbalk(QWidget* venster)
   icoon_->setIcon(Icoon("murvane"));
   icoon_->setToolTip(VanCp(ProgrammaTitel));
   connect(icoon_, &QSystemTrayIcon::activated, this, &Taakbalk::Geactiveerd);
-  icoon_->show();
+  if (QSystemTrayIcon::isSystemTrayAvailable()) icoon_->show();
 }
 
 Taakbalk::~Taakbalk() {
