@@ -4,6 +4,8 @@
 #include <QAbstractScrollArea>
 #include <QApplication>
 #include <QEvent>
+#include <QIconEngine>
+#include <QMdiSubWindow>
 #include <QPainter>
 #include <QStyleOption>
 #include <algorithm>
@@ -14,6 +16,24 @@
 namespace murvane {
 
 namespace {
+
+/// A picture of the style that is looked up when it is painted.
+class LuiIcoon final : public QIconEngine {
+ public:
+  LuiIcoon(const QStyle& stijl, QStyle::StandardPixmap welke) : stijl_(stijl), welke_(welke) {}
+
+  [[nodiscard]] QIconEngine* clone() const override { return new LuiIcoon(stijl_, welke_); }
+  void paint(QPainter* schilder, const QRect& vlak, QIcon::Mode stand, QIcon::State aan) override {
+    stijl_.standardIcon(welke_).paint(schilder, vlak, Qt::AlignCenter, stand, aan);
+  }
+  QPixmap pixmap(const QSize& maat, QIcon::Mode stand, QIcon::State aan) override {
+    return stijl_.standardIcon(welke_).pixmap(maat, stand, aan);
+  }
+
+ private:
+  const QStyle& stijl_;
+  QStyle::StandardPixmap welke_;
+};
 
 constexpr double LeesbaarVanaf = 4.0;  ///< somewhat under what WCAG 2.1 asks of text that is not disabled
 
@@ -139,6 +159,12 @@ void Stijl::drawControl(ControlElement deel, const QStyleOption* optie, QPainter
     return Ring(*schilder, optie->rect.adjusted(4, 4, -4, -3), Ringkleur(), 2);
   if (deel != CE_ShapedFrame || !IsSchuifvak(vak) || !(optie->state & State_HasFocus)) return;
   Ring(*schilder, optie->rect, Ringkleur(), 1 + Ringruimte);
+}
+
+QIcon Stijl::standardIcon(StandardPixmap welke, const QStyleOption* optie, const QWidget* vak) const {
+  const bool zelden = welke == SP_ToolBarHorizontalExtensionButton ||  // of a menu bar that does not fit
+                      qobject_cast<const QMdiSubWindow*>(vak) != nullptr;
+  return zelden ? QIcon(new LuiIcoon(*baseStyle(), welke)) : QProxyStyle::standardIcon(welke, optie, vak);
 }
 
 /// A scrolling control draws its contents again when the focus comes or goes, but not its frame.

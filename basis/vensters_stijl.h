@@ -2,6 +2,7 @@
 // How the whole program looks on top of the system's own style: the control that has the focus always shows
 // it, and what is disabled can still be read, in a light and in a dark theme.
 
+#include <QIcon>
 #include <QProxyStyle>
 
 class QApplication;
@@ -24,6 +25,10 @@ class Stijl : public QProxyStyle {
                      const QWidget* vak = nullptr) const override;
   void drawControl(ControlElement deel, const QStyleOption* optie, QPainter* schilder,
                    const QWidget* vak = nullptr) const override;
+  /// Pictures that are rarely seen are looked up when they are: each lookup loads every picture format that
+  /// there is, and the program would do it at each start.
+  [[nodiscard]] QIcon standardIcon(StandardPixmap welke, const QStyleOption* optie = nullptr,
+                                   const QWidget* vak = nullptr) const override;
 
  protected:
   bool eventFilter(QObject* object, QEvent* event) override;

@@ -247,9 +247,10 @@ std::string frmMurvane::TekstVan(VeldId veld) const {
 
 void frmMurvane::ZetTekst(const VeldTekst& tekst) {
   InvoerVeld* const vak = Vak(tekst.Veld);
-  vak->setText(VanCp(tekst.Tekst));
+  const QString nieuw = VanCp(tekst.Tekst);
+  if (vak->text() != nieuw) vak->setText(nieuw);
   vak->ZetKleur(VeldKleur);  // what the program puts in a box is right
-  vak->setToolTip({});
+  if (!vak->toolTip().isEmpty()) vak->setToolTip({});
 }
 
 void frmMurvane::ZetTeksten(const std::vector<VeldTekst>& teksten) {

@@ -13,6 +13,7 @@
 #include <QScopeGuard>
 #include <QStandardPaths>
 #include <QStatusBar>
+#include <QTimer>
 #include <QUrl>
 #include <map>
 #include <optional>
@@ -53,6 +54,8 @@ bool HeeftHelpProgramma() {
   return vraag.waitForFinished(2000) && !vraag.readAllStandardOutput().trimmed().isEmpty();
 #endif
 }
+
+constexpr int NaStartMs = 100;  ///< behind the first painting of the window
 
 QString Naam(std::string_view tekst) {
   return QString::fromUtf8(tekst.data(), static_cast<qsizetype>(tekst.size()));
@@ -134,7 +137,7 @@ void MDIMurvane::MaakMenu() {
   Verbind("mnuCalc", &MDIMurvane::mnuCalc);
   Verbind("mnuHelpFile", &MDIMurvane::mnuHelpFile);
   Verbind("mnuInfo", &MDIMurvane::mnuInfo);
-  ZetMenuBeelden();
+  for (const auto& [naam, menu] : menus) connect(menu, &QMenu::aboutToShow, this, &MDIMurvane::NaStart);
   Verbind("mnuAfdrukken", &MDIMurvane::mnuAfdrukken);
   Verbind("mnuLetterType", &MDIMurvane::mnuLetterType);
   QMenu* const vensters = menus.at("mnuVenster");
@@ -155,20 +158,29 @@ void MDIMurvane::MaakTaakbalk() {
           [this] { Voer("mnuTaakExit", &MDIMurvane::mnuExit); });
 }
 
+/// What can wait until the window stands: the icons of the menus, and the icon in the notification area, for
+/// which the desktop is asked for a place.
+void MDIMurvane::NaStart() {
+  if (taakbalk_ != nullptr) return;
+  ZetMenuBeelden();
+  MaakTaakbalk();
+}
+
 void MDIMurvane::showEvent(QShowEvent* gebeurtenis) {
   QMainWindow::showEvent(gebeurtenis);
-  if (taakbalk_ == nullptr)
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-          if (taakbalk_ == nullptr) MaakTaakbalk();
-        },
-        Qt::QueuedConnection);
+  QTimer::singleShot(NaStartMs, this, &MDIMurvane::NaStart);
 }
 
 void MDIMurvane::changeEvent(QEvent* gebeurtenis) {
   QMainWindow::changeEvent(gebeurtenis);
-  if (gebeurtenis->type() == QEvent::PaletteChange && !acties_.empty()) ZetMenuBeelden();
+  if (gebeurtenis->type() != QEvent::PaletteChange || beeld_ == nullptr) return;
+  if (taakbalk_ != nullptr) ZetMenuBeelden();
+  ZetStatusBeeld();
+}
+
+/// The sign of a run, in the colours of the theme.
+void MDIMurvane::ZetStatusBeeld() {
+  beeld_->setPixmap(Icoon("berekend", palette()).pixmap(16, 16));
 }
 
 void MDIMurvane::Verbind(std::string_view naam, void (MDIMurvane::*opdracht)()) {
@@ -238,8 +250,9 @@ void MDIMurvane::ToonToestand() {
   for (const TypeRegel& regel : TypeRegels)
     acties_.at(regel.Menu)->setChecked(regel.RekenType == programma_.Project.Kop.RekenType);
   const StatusBalk balk = StatusVan(sessie, programma_.Project);
-  beeld_->setPixmap(Icoon("berekend", palette()).pixmap(16, 16));
-  beeld_->setVisible(balk.Paneel1Beeld != 0);
+  const bool isBerekend = balk.Paneel1Beeld != 0;
+  if (isBerekend && beeld_->isHidden()) ZetStatusBeeld();
+  beeld_->setVisible(isBerekend);
   paneel1_->setText(VanCp(balk.Paneel1));
   paneel2_->setText(VanCp(balk.Paneel2));
   paneel3_->setText(VanCp(balk.Paneel3));

@@ -42,7 +42,9 @@ class MDIMurvane : public QMainWindow {
 
  private:
   void MaakMenu();
+  void NaStart();
   void ZetMenuBeelden();
+  void ZetStatusBeeld();
   void MaakTaakbalk();
   void MaakStatusbalk();
   void Verbind(std::string_view naam, void (MDIMurvane::*opdracht)());

@@ -144,6 +144,7 @@ class HoofdMenu : public Schil {
     programma.ProgrammaBestanden = map.Pad();
     venster = std::make_unique<MDIMurvane>(programma, script);
     venster->show();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return venster->findChild<QMenu*>("mnuTaakBar") != nullptr; }));
   }
 
   QAction* Actie(std::string_view naam) {
