@@ -1,4 +1,4 @@
-// The pictures of the manual that the walk through the windows does not make: windows over the main window.
+// The pictures of the manual that the walk through the windows does not make.
 // They are kept where MURVANE_BEELDEN names a directory.
 
 #include <gtest/gtest.h>
@@ -7,8 +7,6 @@
 
 #include "catalogue/frmOnderhoud.h"
 #include "catalogue/frmOverzicht.h"
-#include "reports/frmGrafiek.h"
-#include "reports/frmLettertype.h"
 #include "reports/frmPreView.h"
 #include "shell/afdrukken.h"
 #include "tests/vensters/opstelling.h"
@@ -69,14 +67,6 @@ TEST_F(HandleidingBeelden, HaveAnOverview) {
   Maak(venster);
 }
 
-TEST_F(HandleidingBeelden, HaveTheChart) {
-  Bereken();
-  ASSERT_TRUE(VulGrafiek(programma, script, [] { return kiesgrafiek::EenMeter; }));
-  frmGrafiek venster(programma.Grafiek, {});
-  venster.resize(900, 560);
-  Maak(venster);
-}
-
 TEST_F(HandleidingBeelden, HaveThePreview) {
   Bereken();
   script.Box({MeldingSoort::Vraag, "Afdrukinstelling", "Afdrukken met grafiek?", Knoppen::YesNo},
@@ -86,11 +76,6 @@ TEST_F(HandleidingBeelden, HaveThePreview) {
       programma, script, [] { return kiesgrafiek::Geen; }, venster.Document());
   venster.resize(850, 760);
   venster.ToonBlad();
-  Maak(venster);
-}
-
-TEST_F(HandleidingBeelden, HaveThePrintSettings) {
-  frmLettertype venster(programma.Instellingen.Druk, [] { return std::vector<std::string>{"Courier New"}; });
   Maak(venster);
 }
 
