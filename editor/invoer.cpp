@@ -162,6 +162,10 @@ VeldId VolgendeInReeks(const VeldRegel& regel, VeldId veld) {
 
 }  // namespace
 
+std::span<const VeldRegel> VeldRegels() {
+  return Velden;
+}
+
 const VeldRegel& Regel(std::string_view naam) {
   return Zoek([naam](const VeldRegel& regel) { return regel.Naam == naam; });
 }

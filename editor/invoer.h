@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -54,6 +55,8 @@ struct VeldRegel {
   bool AlleenLezen = false;                        ///< shown, never typed in
 };
 
+/// All rules, of which an array is one.
+[[nodiscard]] std::span<const VeldRegel> VeldRegels();
 /// The rule of a field by its control's name; Fout 5 for a name without a rule.
 [[nodiscard]] const VeldRegel& Regel(std::string_view naam);
 /// The same of one field of an array too; Fout 5 for an index that the array does not have.

@@ -53,6 +53,9 @@ done
 heeft usr/share/icons/hicolor/scalable/apps/murvane.svg
 heeft usr/share/icons/hicolor/scalable/mimetypes/application-x-murvane.svg
 heeft usr/share/murvane/levering.txt
+for blad in index.html beginnen.html vragen.html stijl.css beelden/resultaten.png; do
+  heeft "usr/share/murvane/help/$blad"
+done
 heeft usr/share/doc/murvane/changelog.gz
 
 stap "Wat het bureaublad leest"
