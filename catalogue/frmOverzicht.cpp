@@ -30,6 +30,7 @@ frmOverzicht::frmOverzicht(OverzichtUitslag overzicht, Dialogen& dialogen, QWidg
     : QDialog(ouder, Qt::Dialog | Qt::WindowMaximizeButtonHint | Qt::WindowCloseButtonHint),
       overzicht_(std::move(overzicht)),
       dialogen_(dialogen) {
+  const Zandloper zandloper(dialogen_);
   setObjectName("frmOverzicht");
   for (const QString& regel : VanCp(overzicht_.OverzichtTekst).split("\r\n"))
     breedste_ = std::max(breedste_, static_cast<std::size_t>(regel.size()));
