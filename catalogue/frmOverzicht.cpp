@@ -10,6 +10,7 @@
 
 #include "basis/vensters_hulp.h"
 #include "editor/vensters_tekening.h"
+#include "editor/vensters_veld.h"
 
 namespace murvane {
 
@@ -70,7 +71,7 @@ frmOverzicht::frmOverzicht(OverzichtUitslag overzicht, Dialogen& dialogen, QWidg
 
 QToolButton* frmOverzicht::MaakKnop(const char* sleutel, const QString& tekst, const QString& toolTip,
                                     const QString& icoon) {
-  auto* const knop = new QToolButton(this);
+  auto* const knop = new Balkknop(this);
   knop->setObjectName(QString("Toolbar1_") + sleutel);
   knop->setText(tekst);
   knop->setAccessibleName(tekst);

@@ -34,6 +34,8 @@
 #include "basis/getal.h"
 #include "basis/vensters_hulp.h"
 #include "basis/vensters_stijl.h"
+#include "catalogue/frmOnderhoud.h"
+#include "catalogue/frmOverzicht.h"
 #include "editor/frmMurvane.h"
 #include "editor/vensters_veld.h"
 #include "estimators/frmCalc.h"
@@ -100,6 +102,10 @@ class Wereld {
       schatter_.reset();
       QApplication::setActiveWindow(hoofd_.get());
     }
+    if (catalogus_ != nullptr) {
+      catalogus_.reset();
+      QApplication::setActiveWindow(hoofd_.get());
+    }
     if (!Zoek<QAction>("mnuSluiten")->isEnabled()) return;
     script_.Box({MeldingSoort::Vraag, "Bestand sluiten",
                  "Wilt u het bestand sluiten zonder data-opslag van eventueel ingevoerde/gewijzigde "
@@ -143,6 +149,22 @@ class Wereld {
     return schatter_.get();
   }
 
+  /// The maintenance of a catalogue, with its second record in view or in an entry.
+  [[nodiscard]] QDialog* MaakOnderhoud(CatalogusSoort soort, bool entry) {
+    ToonCatalogus(
+        std::make_unique<frmOnderhoud>(soort, OnderhoudOmgeving{programma_.Catalogi, programma_.SchatInvoer,
+                                                                script_, map_.Pad(), "20-11-2026", ','}));
+    catalogus_->findChild<QListWidget*>("lstSpectrum")->setCurrentRow(1);
+    if (entry) catalogus_->findChild<QPushButton*>("cmdwijzig")->click();
+    return catalogus_.get();
+  }
+
+  [[nodiscard]] QDialog* MaakOverzicht(CatalogusSoort soort) {
+    ToonCatalogus(std::make_unique<frmOverzicht>(
+        Overzicht(programma_.Catalogi, soort, OverzichtWijze::Alles, ZoekAlles, "20-11-2026", ','), script_));
+    return catalogus_.get();
+  }
+
   /// The results of a sample, in their window.
   void MaakResultaat(const char* voorbeeld) {
     Open(Data / voorbeeld);
@@ -152,11 +174,18 @@ class Wereld {
   [[nodiscard]] const std::filesystem::path& Map() const { return map_.Pad(); }
 
  private:
+  void ToonCatalogus(std::unique_ptr<QDialog> venster) {
+    catalogus_ = std::move(venster);
+    catalogus_->show();
+    QApplication::setActiveWindow(catalogus_.get());
+  }
+
   proef::TijdelijkeMap map_;
   proef::Script script_;
   Programma programma_;
   std::unique_ptr<MDIMurvane> hoofd_;
   std::unique_ptr<frmCalc> schatter_;
+  std::unique_ptr<QDialog> catalogus_;
 };
 
 /// A window as the user meets it: `Maak` brings the program there and gives the window that is walked.
@@ -239,6 +268,14 @@ const std::vector<Stand>& Fotos() {
          {Schatter::Bekleed, Schatter::KwartLambda, Schatter::Plenum, Schatter::Kanaalwand})
       fotos.push_back(
           {std::string(VensterVan(soort).Naam), [soort](Wereld& w) { return w.MaakSchatter(soort); }});
+    for (const CatalogusSoort soort : {CatalogusSoort::Kanaalelementen, CatalogusSoort::Ventilatoren,
+                                       CatalogusSoort::Luchtkanalen, CatalogusSoort::Plafonds}) {
+      for (const bool entry : {false, true})
+        fotos.push_back({std::string(OnderhoudVan(soort).Venster) + (entry ? "-wijzigen" : ""),
+                         [=](Wereld& w) { return w.MaakOnderhoud(soort, entry); }});
+    }
+    fotos.push_back(
+        {"frmOverzicht", [](Wereld& w) { return w.MaakOverzicht(CatalogusSoort::Kanaalelementen); }});
     fotos.push_back({"resultaten", [](Wereld& w) {
                        w.MaakResultaat("kantoor.mrv");
                        return w.Hoofd();
@@ -517,14 +554,15 @@ TEST(Rondgang, EveryFieldHasItsLabel) {
 /// A control is called by what it is and what it holds; one of an array adds its index.
 bool NaamVolgensRegel(const QWidget& vak) {
   static const QRegularExpression Vast(
-      "^(frm|MDI)[A-Z]\\w+$|^SSTab[12]$|^Toolbar[12](_[A-Z][a-z]+)?$|^StatusBar1(_[123](_beeld)?)?$|"
+      "^(frm|MDI)[A-Z]\\w+$|^SSTab[12]$|^Toolbar[12](_([A-Z][a-z]+|print|save))?$|^StatusBar1(_[123](_beeld)?"
+      ")?$|"
       "^(VrijVeld|Text[1-6]|Image1|MonthView|ProgressBar1|Tekening(Ruimte|Leeg)?|RichTextBox1)$");
   const std::vector<std::pair<bool, QString>> soorten = {
       {qobject_cast<const QLineEdit*>(&vak) != nullptr, "^txt[A-Z a-z]\\w*(_\\d+)?$"},
       {qobject_cast<const QListWidget*>(&vak) != nullptr, "^lst[A-Z]\\w+$"},
       {qobject_cast<const QComboBox*>(&vak) != nullptr, "^cmb[A-Z]\\w+$"},
       {qobject_cast<const QRadioButton*>(&vak) != nullptr, "^opt[A-Z]\\w+$"},
-      {qobject_cast<const QPushButton*>(&vak) != nullptr, "^cmd[A-Z]\\w+$"},
+      {qobject_cast<const QPushButton*>(&vak) != nullptr, "^cmd([A-Z]\\w+|wijzig)$"},
       {qobject_cast<const QGroupBox*>(&vak) != nullptr, "^frame[A-Z]\\w+$"},
       {qobject_cast<const QLabel*>(&vak) != nullptr, "^lbl[A-Z a-z]\\w*(_\\d+)?$"},
   };
