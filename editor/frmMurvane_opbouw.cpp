@@ -20,6 +20,7 @@
 
 #include "basis/vensters_hulp.h"
 #include "editor/frmMurvane.h"
+#include "editor/vensters_blad.h"
 #include "editor/vensters_tekening.h"
 #include "editor/vensters_veld.h"
 
@@ -66,24 +67,6 @@ QVBoxLayout* Kolom(QWidget* ouder, int marge = Marge) {
 /// Room for a caption that is not there yet, so that the fields behind it stay where they are.
 void HoudVrij(QGridLayout* indeling, const QWidget& letters, const char* opschrift) {
   indeling->setColumnMinimumWidth(0, letters.fontMetrics().horizontalAdvance(opschrift) + Ruimte);
-}
-
-/// The column of a sheet that has less to show than a large screen has room for: it keeps its width for
-/// reading and stands in the middle.
-QVBoxLayout* Blok(QWidget* blad) {
-  auto* const blok = new QWidget(blad);
-  blok->setMaximumSize(175 * blad->fontMetrics().averageCharWidth(), 45 * blad->fontMetrics().lineSpacing());
-  auto* const midden = new QGridLayout(blad);
-  midden->setContentsMargins(Marge, Marge, Marge, Marge);
-  midden->addWidget(blok, 1, 1);
-  for (const int rand : {0, 2}) {
-    midden->setRowStretch(rand, 1);
-    midden->setColumnStretch(rand, 1);
-  }
-  midden->setRowStretch(1, 1000);
-  midden->setColumnStretch(1, 1000);
-  midden->setSpacing(0);
-  return Kolom(blok, 0);
 }
 
 QGridLayout* Rooster(QWidget* ouder, int marge = 0) {
@@ -201,8 +184,8 @@ void frmMurvane::BouwTabs() {
 }
 
 QWidget* frmMurvane::BouwVentilator() {
-  auto* const blad = new QWidget(this);
-  auto* const indeling = Blok(blad);
+  auto* const blad = new Blad(this);
+  auto* const indeling = Kolom(blad->Blok(), 0);
   optInvoer = MaakKnop<Optieknop>("optInvoer", "Ventilator uit de lijst", blad);
   optPrognose = MaakKnop<Optieknop>("optPrognose", "Prognose uit de ventilatorgegevens", blad);
   auto* const bron = new QHBoxLayout;
@@ -428,8 +411,8 @@ QWidget* frmMurvane::BouwSpectrumPagina() {
 }
 
 QWidget* frmMurvane::BouwRuimte() {
-  auto* const blad = new QWidget(this);
-  auto* const indeling = Blok(blad);
+  auto* const blad = new Blad(this);
+  auto* const indeling = Kolom(blad->Blok(), 0);
   VrijVeld = MaakKnop<QCheckBox>("VrijVeld", "vrij-veldsituatie", blad);
   indeling->addWidget(VrijVeld);
   auto* const maten = Rooster(nullptr);
@@ -466,8 +449,8 @@ QWidget* frmMurvane::BouwRuimte() {
 }
 
 QWidget* frmMurvane::BouwProject() {
-  auto* const blad = new QWidget(this);
-  auto* const kolom = Blok(blad);
+  auto* const blad = new Blad(this);
+  auto* const kolom = Kolom(blad->Blok(), 0);
   auto* const indeling = Rooster(nullptr);
   InvoerVeld* const nummer = VoegVeld(indeling, 0, {"txtProNum"}, "Projectnummer", "", "lblproject");
   nummer->setMaximumWidth(2 * GetalBreedte(*nummer));

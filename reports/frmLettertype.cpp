@@ -4,14 +4,25 @@
 #include <QDialogButtonBox>
 #include <QFontDatabase>
 #include <QFormLayout>
+#include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
+#include <QWheelEvent>
 
 #include "basis/vensters_hulp.h"
 
 namespace murvane {
 
 namespace {
+
+/// A list that a wheel passing over it does not change.
+class VasteLijst : public QComboBox {
+ public:
+  using QComboBox::QComboBox;
+
+ protected:
+  void wheelEvent(QWheelEvent* gebeurtenis) override { gebeurtenis->ignore(); }
+};
 
 void ToonLijst(QComboBox& vak, const Keuzelijst& lijst) {
   vak.clear();
@@ -45,11 +56,11 @@ frmLettertype::frmLettertype(DrukInstelling& instelling, const Fonts& fonts, QWi
   setObjectName("frmLettertype");
   setWindowTitle("Afdrukinstelling berekeningsformulier");
   auto* rijen = new QFormLayout;
-  cboLtype = Lijst("cboLtype", "&Lettertype :", *rijen);
-  cboLgrootte = Lijst("cboLgrootte", "Letter&grootte :", *rijen);
-  cboKop = Lijst("cboKop", "&Koptekst :", *rijen);
-  cboBody1 = Lijst("cboBody1", "Tekstblok &boven :", *rijen);
-  cboBody2 = Lijst("cboBody2", "Tekstblok &onder :", *rijen);
+  cboLtype = Lijst("Ltype", "&Lettertype :", *rijen);
+  cboLgrootte = Lijst("Lgrootte", "Letter&grootte :", *rijen);
+  cboKop = Lijst("Kop", "&Koptekst :", *rijen);
+  cboBody1 = Lijst("Body1", "Tekstblok &boven :", *rijen);
+  cboBody2 = Lijst("Body2", "Tekstblok &onder :", *rijen);
   auto* knoppen = new QDialogButtonBox(this);
   auto* accoord = knoppen->addButton("OK", QDialogButtonBox::AcceptRole);
   accoord->setObjectName("cmdOK");
@@ -57,7 +68,6 @@ frmLettertype::frmLettertype(DrukInstelling& instelling, const Fonts& fonts, QWi
   knoppen->addButton("&Cancel", QDialogButtonBox::RejectRole)->setObjectName("cmdCancel");
   auto* standaard = knoppen->addButton("&Default", QDialogButtonBox::ResetRole);
   standaard->setObjectName("cmdDefault");
-  standaard->setAutoDefault(false);
   connect(knoppen, &QDialogButtonBox::accepted, this, &frmLettertype::cmdOK_Click);
   connect(knoppen, &QDialogButtonBox::rejected, this, &QDialog::reject);
   connect(standaard, &QPushButton::clicked, this, &frmLettertype::cmdDefault_Click);
@@ -68,10 +78,14 @@ frmLettertype::frmLettertype(DrukInstelling& instelling, const Fonts& fonts, QWi
   Toon();
 }
 
-QComboBox* frmLettertype::Lijst(const char* naam, const QString& opschrift, QFormLayout& rijen) {
-  auto* vak = new QComboBox(this);
-  vak->setObjectName(naam);
-  rijen.addRow(opschrift, vak);
+QComboBox* frmLettertype::Lijst(const QString& naam, const QString& opschrift, QFormLayout& rijen) {
+  auto* vak = new VasteLijst(this);
+  vak->setObjectName("cbo" + naam);
+  vak->setAccessibleName(QString(opschrift).remove('&').remove(" :"));
+  auto* label = new QLabel(opschrift, this);
+  label->setObjectName("lbl" + naam);
+  label->setBuddy(vak);
+  rijen.addRow(label, vak);
   return vak;
 }
 

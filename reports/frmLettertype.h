@@ -31,7 +31,7 @@ class frmLettertype : public QDialog {
   void Geweigerd(const murvane::Fout& fout);
 
  private:
-  QComboBox* Lijst(const char* naam, const QString& opschrift, QFormLayout& rijen);
+  QComboBox* Lijst(const QString& naam, const QString& opschrift, QFormLayout& rijen);
   void Toon();
   void LeesVelden();
   void cmdOK_Click();

@@ -1,11 +1,11 @@
 #include "reports/frmPreView.h"
 
-#include <QAction>
 #include <QCloseEvent>
 #include <QImage>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QToolButton>
 #include <QWheelEvent>
 #include <cmath>
 

@@ -12,6 +12,7 @@ frmSelGraf::frmSelGraf(QWidget* ouder) : QDialog(ouder) {
   setObjectName("frmSelGraf");
   setWindowTitle("Grafische weergave");
   auto* kader = new QGroupBox("Berekeningsresultaten", this);
+  kader->setObjectName("frameBerekeningsresultaten");
   auto* rijen = new QVBoxLayout(kader);
   auto* eerste = Optie(1, "Lp, &1 meter");
   rijen->addWidget(eerste);

@@ -1,8 +1,10 @@
 #include "reports/vensters_werkbalk.h"
 
-#include <QAction>
 #include <QApplication>
-#include <QEvent>
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QToolButton>
 
 #include "basis/vensters_hulp.h"
 #include "editor/vensters_tekening.h"
@@ -11,30 +13,57 @@ namespace murvane {
 
 namespace {
 
-QString ActieNaam(std::string_view sleutel) {
+QString KnopNaam(std::string_view sleutel) {
   return "Toolbar1_" + VanCp(sleutel);
 }
 
 }  // namespace
 
-Werkbalk::Werkbalk(std::span<const Werkknop> knoppen, QWidget* ouder) : QToolBar(ouder), knoppen_(knoppen) {
+Werkbalk::Werkbalk(std::span<const Werkknop> knoppen, QWidget* ouder)
+    : QWidget(ouder), knoppen_(knoppen), rij_(new QHBoxLayout(this)) {
   setObjectName("Toolbar1");
   setAccessibleName("Werkbalk");
-  setIconSize(QSize(20, 20));
+  rij_->setContentsMargins(4, 0, 4, 0);  // the strip above the report is no higher than a button
+  rij_->setSpacing(2);
   int plaats = 1;
   for (const Werkknop& knop : knoppen_) {
-    if (knop.Positie > plaats && plaats > 1) addSeparator();
+    if (knop.Positie > plaats && plaats > 1) VoegStreepToe();
     plaats = knop.Positie + 1;
-    QAction* actie = addAction(VanCp(knop.Tip));
-    actie->setObjectName(ActieNaam(knop.Sleutel));
-    widgetForAction(actie)->setFocusPolicy(Qt::TabFocus);
-    connect(actie, &QAction::triggered, this, [this, knop] { emit ButtonClick(VanCp(knop.Sleutel)); });
+    VoegToe(knop);
   }
+  rij_->addStretch();
   ZetIconen();
 }
 
-QAction* Werkbalk::Knop(std::string_view sleutel) const {
-  return findChild<QAction*>(ActieNaam(sleutel));
+void Werkbalk::VoegStreepToe() {
+  auto* streep = new QFrame(this);
+  streep->setFrameStyle(QFrame::VLine | QFrame::Sunken);
+  rij_->addWidget(streep);
+}
+
+void Werkbalk::VoegToe(const Werkknop& knop) {
+  auto* vak = new QToolButton(this);
+  vak->setObjectName(KnopNaam(knop.Sleutel));
+  vak->setToolTip(VanCp(knop.Tip));
+  vak->setAccessibleName(VanCp(knop.Tip));
+  vak->setIconSize(QSize(20, 20));
+  vak->setAutoRaise(true);
+  vak->setFocusPolicy(Qt::TabFocus);
+  vak->installEventFilter(this);
+  connect(vak, &QToolButton::clicked, this, [this, knop] { emit ButtonClick(VanCp(knop.Sleutel)); });
+  rij_->addWidget(vak);
+}
+
+QToolButton* Werkbalk::Knop(std::string_view sleutel) const {
+  return findChild<QToolButton*>(KnopNaam(sleutel));
+}
+
+bool Werkbalk::eventFilter(QObject* knop, QEvent* gebeurtenis) {
+  if (gebeurtenis->type() != QEvent::KeyPress) return QWidget::eventFilter(knop, gebeurtenis);
+  const int toets = static_cast<QKeyEvent*>(gebeurtenis)->key();
+  if (toets != Qt::Key_Return && toets != Qt::Key_Enter) return false;
+  static_cast<QToolButton*>(knop)->click();
+  return true;
 }
 
 void Werkbalk::ZetIconen() {
@@ -42,7 +71,7 @@ void Werkbalk::ZetIconen() {
 }
 
 void Werkbalk::changeEvent(QEvent* gebeurtenis) {
-  QToolBar::changeEvent(gebeurtenis);
+  QWidget::changeEvent(gebeurtenis);
   if (gebeurtenis->type() == QEvent::PaletteChange) ZetIconen();
 }
 

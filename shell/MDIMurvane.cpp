@@ -43,6 +43,17 @@ namespace {
 
 constexpr int StatusMarge = 4;
 
+/// Whether the desktop shows compiled help files. Opening one without asking would seem to succeed.
+bool HeeftHelpProgramma() {
+#ifdef _WIN32
+  return true;
+#else
+  QProcess vraag;
+  vraag.start("xdg-mime", {"query", "default", "application/vnd.ms-htmlhelp"});
+  return vraag.waitForFinished(2000) && !vraag.readAllStandardOutput().trimmed().isEmpty();
+#endif
+}
+
 QString Naam(std::string_view tekst) {
   return QString::fromUtf8(tekst.data(), static_cast<qsizetype>(tekst.size()));
 }
@@ -461,18 +472,18 @@ void MDIMurvane::mnuOverspraak() {
 
 /// The manual, in the desktop's own viewer; that it does not open is not told.
 void MDIMurvane::mnuHelpFile() {
-  for (const bool helpProgramma : {true, false}) {
-    const std::filesystem::path pad = HandleidingIn(programma_.ProgrammaBestanden, helpProgramma);
-    if (!pad.empty() && QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(PadTekst(pad)))))
-      return;
-  }
+  const std::filesystem::path pad = HandleidingIn(programma_.ProgrammaBestanden, HeeftHelpProgramma());
+  if (!pad.empty()) QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(PadTekst(pad))));
 }
 
 /// While the window is open it cannot be opened again from the icon.
 void MDIMurvane::mnuInfo() {
-  if (taakbalk_ != nullptr) taakbalk_->Info()->setEnabled(false);
+  const auto zetInfo = [this](bool aan) {
+    if (taakbalk_ != nullptr) taakbalk_->Info()->setEnabled(aan);
+  };
+  zetInfo(false);
+  const auto terug = qScopeGuard([&zetInfo] { zetInfo(true); });
   frmAbout(programma_.Instellingen, programma_.ProgrammaBestanden / LeveringBestand, dialogen_, this).exec();
-  if (taakbalk_ != nullptr) taakbalk_->Info()->setEnabled(true);
 }
 
 void MDIMurvane::closeEvent(QCloseEvent* gebeurtenis) {

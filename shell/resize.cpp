@@ -69,12 +69,12 @@ void Schaal(const Ontwerp& o, std::size_t i, Stuurvlak& vlak, double sY, double 
 
 }  // namespace
 
-Ontwerp ResizeInit(const Formulier& formulier) {
+Ontwerp ResizeInit(const ResizeVenster& venster) {
   Ontwerp o;
-  o.OrigHoogte = AlsI16(formulier.BinnenHoogte, 0);
-  o.OrigBreedte = AlsI16(formulier.BinnenBreedte, 0);
-  o.LaatsteControl = AlsI16(static_cast<double>(formulier.Vlakken.size()) - 1, -1);
-  for (const Stuurvlak& vlak : formulier.Vlakken) {
+  o.OrigHoogte = AlsI16(venster.BinnenHoogte, 0);
+  o.OrigBreedte = AlsI16(venster.BinnenBreedte, 0);
+  o.LaatsteControl = AlsI16(static_cast<double>(venster.Vlakken.size()) - 1, -1);
+  for (const Stuurvlak& vlak : venster.Vlakken) {
     o.OrigTop.push_back(Vastgelegd(vlak.Top));
     o.OrigLeft.push_back(VastgelegdLinks(vlak));
     o.OrigHeight.push_back(Vastgelegd(vlak.Height));
@@ -86,19 +86,19 @@ Ontwerp ResizeInit(const Formulier& formulier) {
   return o;
 }
 
-void ResizeForm(Ontwerp& ontwerp, Formulier& formulier, std::int16_t verplaatsen) {
+void ResizeForm(Ontwerp& ontwerp, ResizeVenster& venster, std::int16_t verplaatsen) {
   if (verplaatsen == 0 && ontwerp.ResizeKlaar != 0) {
     ontwerp.ResizeKlaar = 0;
     return;
   }
-  if (formulier.Geminimaliseerd) return;
-  const double dY = std::floor((formulier.BinnenHoogte - ontwerp.OrigHoogte) / 2);
-  const double dX = std::floor((formulier.BinnenBreedte - ontwerp.OrigBreedte) / 2);
-  const double sY = (ontwerp.OrigHoogte - Strook) / (formulier.BinnenHoogte - Strook);
-  const double sX = ontwerp.OrigBreedte / formulier.BinnenBreedte;
+  if (venster.Geminimaliseerd) return;
+  const double dY = std::floor((venster.BinnenHoogte - ontwerp.OrigHoogte) / 2);
+  const double dX = std::floor((venster.BinnenBreedte - ontwerp.OrigBreedte) / 2);
+  const double sY = (ontwerp.OrigHoogte - Strook) / (venster.BinnenHoogte - Strook);
+  const double sX = ontwerp.OrigBreedte / venster.BinnenBreedte;
   const std::size_t bekend = ontwerp.OrigTop.size();
-  for (std::size_t i = 0; i < formulier.Vlakken.size() && i < bekend; ++i) {
-    Stuurvlak& vlak = formulier.Vlakken[i];
+  for (std::size_t i = 0; i < venster.Vlakken.size() && i < bekend; ++i) {
+    Stuurvlak& vlak = venster.Vlakken[i];
     if (vlak.Naam == "SSTab1") continue;
     if (verplaatsen != 0) {
       Verplaats(ontwerp, i, vlak, dY, dX);
@@ -106,7 +106,7 @@ void ResizeForm(Ontwerp& ontwerp, Formulier& formulier, std::int16_t verplaatsen
       Schaal(ontwerp, i, vlak, sY, sX);
     }
   }
-  formulier.HertekentZelf = true;
+  venster.HertekentZelf = true;
 }
 
 }  // namespace murvane

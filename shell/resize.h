@@ -26,7 +26,7 @@ struct Stuurvlak {
 };
 
 /// The form and its controls, in the order of the form's collection.
-struct Formulier {
+struct ResizeVenster {
   double BinnenHoogte = 0;
   double BinnenBreedte = 0;
   bool Geminimaliseerd = false;  ///< the form or the main window
@@ -52,11 +52,11 @@ inline constexpr std::int32_t TabVerschuiving = 75000;
 }
 
 /// Records the form as it is.
-[[nodiscard]] Ontwerp ResizeInit(const Formulier& formulier);
+[[nodiscard]] Ontwerp ResizeInit(const ResizeVenster& venster);
 
 /// Places the controls for the form's present size. With `verplaatsen` not 0 they keep their size and move by
 /// half the difference to the design size; with 0 they are scaled, the strip of 400 twips at the top left out
 /// (the first such call only arms the recording). SSTab1 is placed by the window itself.
-void ResizeForm(Ontwerp& ontwerp, Formulier& formulier, std::int16_t verplaatsen);
+void ResizeForm(Ontwerp& ontwerp, ResizeVenster& venster, std::int16_t verplaatsen);
 
 }  // namespace murvane

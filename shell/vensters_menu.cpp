@@ -62,15 +62,26 @@ Taakbalk::Taakbalk(QWidget* venster)
   icoon_->setIcon(Icoon("murvane"));
   icoon_->setToolTip(VanCp(ProgrammaTitel));
   connect(icoon_, &QSystemTrayIcon::activated, this, &Taakbalk::Geactiveerd);
-  icoon_->show();
+  if (QSystemTrayIcon::isSystemTrayAvailable()) icoon_->show();
 }
 
 Taakbalk::~Taakbalk() {
   icoon_->hide();
 }
 
+/// Some desktops tell of single clicks only: two within the time of a double click are one. A window that
+/// waits for an answer is not passed by.
 void Taakbalk::Geactiveerd(QSystemTrayIcon::ActivationReason reden) {
-  if (reden == QSystemTrayIcon::DoubleClick) menu_->popup(QCursor::pos());
+  bool dubbel = reden == QSystemTrayIcon::DoubleClick;
+  if (reden == QSystemTrayIcon::Trigger) {
+    dubbel = sindsKlik_.isValid() && sindsKlik_.elapsed() <= QApplication::doubleClickInterval();
+    if (dubbel) {
+      sindsKlik_.invalidate();
+    } else {
+      sindsKlik_.start();
+    }
+  }
+  if (dubbel && QApplication::activeModalWidget() == nullptr) menu_->popup(QCursor::pos());
 }
 
 }  // namespace murvane

@@ -1,6 +1,7 @@
 #pragma once
 // A menu with its heading as a bar along its side, and the icon in the desktop's notification area.
 
+#include <QElapsedTimer>
 #include <QMenu>
 #include <QSystemTrayIcon>
 
@@ -46,6 +47,7 @@ class Taakbalk : public QObject {
   QAction* info_;
   QAction* exit_;
   QSystemTrayIcon* icoon_;
+  QElapsedTimer sindsKlik_;
 };
 
 }  // namespace murvane

@@ -6,8 +6,8 @@ namespace murvane {
 namespace {
 
 /// A form of 9000 by 6000 twips (width by height) with one control of each kind.
-Formulier Voorbeeld() {
-  Formulier f;
+ResizeVenster Voorbeeld() {
+  ResizeVenster f;
   f.BinnenBreedte = 9000;
   f.BinnenHoogte = 6000;
   f.Vlakken = {
@@ -24,7 +24,7 @@ Formulier Voorbeeld() {
   return f;
 }
 
-Stuurvlak& Vlak(Formulier& f, std::string_view naam) {
+Stuurvlak& Vlak(ResizeVenster& f, std::string_view naam) {
   for (Stuurvlak& vlak : f.Vlakken) {
     if (vlak.Naam == naam) return vlak;
   }
@@ -53,7 +53,7 @@ TEST(ResizeInit, RecordsTheDesign) {
 }
 
 TEST(ResizeInit, RoundsAHalfToTheEvenTwipAndSkipsWhatDoesNotFit) {
-  Formulier f;
+  ResizeVenster f;
   f.BinnenHoogte = 2.5;
   f.BinnenBreedte = 40000;
   f.Vlakken = {{"a", false, Houder::Anders, 3.5, -0.4, 32767.5, 32767, {}, {}}};
@@ -67,13 +67,13 @@ TEST(ResizeInit, RoundsAHalfToTheEvenTwipAndSkipsWhatDoesNotFit) {
 }
 
 TEST(ResizeInit, ALineKeepsANegativePlace) {
-  Formulier f;
+  ResizeVenster f;
   f.Vlakken = {{"Line1", true, Houder::Anders, -5, -20, 0, 0, {}, {}}};
   EXPECT_EQ(ResizeInit(f).OrigLeft[0], -20);
 }
 
 TEST(ResizeForm, MovesByHalfTheDifference) {
-  Formulier f = Voorbeeld();
+  ResizeVenster f = Voorbeeld();
   Ontwerp o = ResizeInit(f);
   f.BinnenBreedte = 9201;  // dX = Int(100.5) = 100
   f.BinnenHoogte = 6050;   // dY = 25
@@ -101,7 +101,7 @@ TEST(ResizeForm, MovesByHalfTheDifference) {
 
 TEST(ResizeForm, CutsAnOddDifferenceTowardsMinusInfinity) {
   for (const auto& [breedte, left] : {std::pair{9001, 1000}, {8999, 999}, {9002, 1001}, {8998, 999}}) {
-    Formulier f = Voorbeeld();
+    ResizeVenster f = Voorbeeld();
     Ontwerp o = ResizeInit(f);
     f.BinnenBreedte = breedte;
     ResizeForm(o, f, -1);
@@ -110,7 +110,7 @@ TEST(ResizeForm, CutsAnOddDifferenceTowardsMinusInfinity) {
 }
 
 TEST(ResizeForm, DoesNotAccumulate) {
-  Formulier f = Voorbeeld();
+  ResizeVenster f = Voorbeeld();
   Ontwerp o = ResizeInit(f);
   for (int breedte = 7001; breedte < 12000; breedte += 7) {
     f.BinnenBreedte = breedte;
@@ -123,7 +123,7 @@ TEST(ResizeForm, DoesNotAccumulate) {
 }
 
 TEST(ResizeForm, AControlThatFellOffTheLeftCountsAsHidden) {
-  Formulier f = Voorbeeld();
+  ResizeVenster f = Voorbeeld();
   Ontwerp o = ResizeInit(f);
   f.BinnenBreedte = 6000;  // dX = -1500
   ResizeForm(o, f, -1);
@@ -134,7 +134,7 @@ TEST(ResizeForm, AControlThatFellOffTheLeftCountsAsHidden) {
 }
 
 TEST(ResizeForm, AMinimisedWindowMovesNothing) {
-  Formulier f = Voorbeeld();
+  ResizeVenster f = Voorbeeld();
   Ontwerp o = ResizeInit(f);
   f.BinnenBreedte = 100;
   f.Geminimaliseerd = true;
@@ -147,7 +147,7 @@ TEST(ResizeForm, AMinimisedWindowMovesNothing) {
 }
 
 TEST(ResizeForm, TheFirstProportionalCallOnlyArms) {
-  Formulier f = Voorbeeld();
+  ResizeVenster f = Voorbeeld();
   Ontwerp o = ResizeInit(f);
   f.BinnenBreedte = 18000;  // sX = 9000 / 18000 = 0.5
   f.BinnenHoogte = 11600;   // sY = 5600 / 11200 = 0.5
@@ -169,7 +169,7 @@ TEST(ResizeForm, TheFirstProportionalCallOnlyArms) {
 }
 
 TEST(ResizeForm, ScalingCutsToWholeTwips) {
-  Formulier f = Voorbeeld();
+  ResizeVenster f = Voorbeeld();
   Ontwerp o = ResizeInit(f);
   o.ResizeKlaar = 0;
   f.BinnenBreedte = 3000;  // sX = 3
@@ -181,7 +181,7 @@ TEST(ResizeForm, ScalingCutsToWholeTwips) {
 }
 
 TEST(ResizeForm, ADivisionByZeroIsSkipped) {
-  Formulier f = Voorbeeld();
+  ResizeVenster f = Voorbeeld();
   Ontwerp o = ResizeInit(f);
   o.ResizeKlaar = 0;
   o.OrigBreedte = 0;  // sX = 0

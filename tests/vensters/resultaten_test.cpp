@@ -15,6 +15,7 @@
 #include <QScrollBar>
 #include <QTest>
 #include <QTextEdit>
+#include <QToolButton>
 #include <memory>
 
 #include "basis/bestand.h"
@@ -73,9 +74,9 @@ class Resultaatvensters : public testing::Test {
   }
   /// A button of the result window or the preview.
   void Klik(const char* ouder, const char* sleutel) {
-    auto* actie = Zoek<QWidget>(ouder)->findChild<QAction*>(QString("Toolbar1_") + sleutel);
-    ASSERT_NE(actie, nullptr) << sleutel;
-    actie->trigger();
+    auto* knop = Zoek<QWidget>(ouder)->findChild<QToolButton*>(QString("Toolbar1_") + sleutel);
+    ASSERT_NE(knop, nullptr) << sleutel;
+    knop->click();
   }
   static BestandVraag Opslaan(const std::string& filter) {
     return {"Opslaan als", filter, ProgrammaMap(), {}, true, false, true, {}};
@@ -87,7 +88,7 @@ class Resultaatvensters : public testing::Test {
     return Zoek<frmPreView>("frmPreView");
   }
   static bool Kan(QWidget* in, const char* sleutel) {
-    return in->findChild<QAction*>(QString("Toolbar1_") + sleutel)->isEnabled();
+    return in->findChild<QToolButton*>(QString("Toolbar1_") + sleutel)->isEnabled();
   }
 
   TijdelijkeMap map;
@@ -101,7 +102,7 @@ TEST_F(Resultaatvensters, TheResultWindowHasItsToolbarAboveTheText) {
   Bereken("kantoor.mrv");
   auto* const resultaat = Zoek<frmResultaat>("frmResultaat");
   for (const Werkknop& knop : ResultaatKnoppen) {
-    const auto* const actie = resultaat->findChild<QAction*>("Toolbar1_" + VanCp(knop.Sleutel));
+    const auto* const actie = resultaat->findChild<QToolButton*>("Toolbar1_" + VanCp(knop.Sleutel));
     ASSERT_NE(actie, nullptr);
     EXPECT_EQ(actie->toolTip(), VanCp(knop.Tip));
     EXPECT_FALSE(actie->icon().isNull());

@@ -11,6 +11,7 @@
 #include <QTest>
 
 #include "basis/vensters_hulp.h"
+#include "editor/vensters_blad.h"
 #include "shell/MDIMurvane.h"
 #include "shell/frmAbout.h"
 #include "shell/frmSplashII.h"
@@ -107,6 +108,33 @@ TEST_F(Schil, OnlyADoubleClickOnTheIconOpensItsMenu) {
   emit balk.Icoontje()->activated(QSystemTrayIcon::DoubleClick);
   EXPECT_TRUE(balk.Menu()->isVisible());
   balk.Menu()->close();
+}
+
+TEST_F(Schil, TwoClicksOnTheIconAreADoubleClickWhereTheDesktopTellsOfSingleOnes) {
+  QWidget venster;
+  Taakbalk balk(&venster);
+  emit balk.Icoontje()->activated(QSystemTrayIcon::Trigger);
+  EXPECT_FALSE(balk.Menu()->isVisible());
+  emit balk.Icoontje()->activated(QSystemTrayIcon::Trigger);
+  EXPECT_TRUE(balk.Menu()->isVisible());
+  balk.Menu()->close();
+  emit balk.Icoontje()->activated(QSystemTrayIcon::Trigger);
+  EXPECT_FALSE(balk.Menu()->isVisible()) << "a third click is the first of the next two";
+}
+
+TEST_F(Schil, ASheetStandsInTheMiddleOfALargeWindow) {
+  Blad blad(nullptr);
+  blad.Blok()->setMinimumSize(100, 50);
+  const QSize maat(175 * blad.fontMetrics().averageCharWidth(), 45 * blad.fontMetrics().lineSpacing());
+  const QSize ontwerp = maat + QSize(24, 24);
+  blad.show();
+  // Int((inner - design) / 2) in twips, 15 to a pixel: 1 pixel more is 7.5 twips, 7, no pixel
+  for (const auto& [meer, schuif] : {std::pair{0, 0}, {1, 0}, {2, 1}, {3, 1}, {100, 50}, {0, 0}}) {
+    blad.resize(ontwerp + QSize(meer, 2 * meer));
+    EXPECT_EQ(blad.Blok()->geometry(), QRect(QPoint(12 + schuif, 12 + meer), maat)) << meer;
+  }
+  blad.resize(400, 300);
+  EXPECT_EQ(blad.Blok()->geometry(), QRect(12, 12, 376, 276)) << "a small sheet is filled";
 }
 
 class HoofdMenu : public Schil {
