@@ -65,8 +65,8 @@ BENCHMARK(GetallenOpmaken);
 void OverzichtMaken(benchmark::State& state) {
   const Catalogi catalogi = VolleCatalogi();
   for (auto _ : state) {
-    const OverzichtUitslag overzicht =
-        mnuZoekAlles_Click(catalogi, CatalogusSoort::Kanaalelementen, "20-11-2026", ',');
+    const OverzichtUitslag overzicht = Overzicht(catalogi, CatalogusSoort::Kanaalelementen,
+                                                 OverzichtWijze::Alles, ZoekAlles, "20-11-2026", ',');
     benchmark::DoNotOptimize(overzicht.OverzichtTekst.data());
   }
 }

@@ -9,8 +9,10 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPointer>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QStatusBar>
 #include <QVBoxLayout>
 #include <array>
@@ -100,8 +102,10 @@ QMenuBar* frmOnderhoud::BouwMenu() {
       actie = menu->menuAction();
     } else {
       actie = in->addAction(opschrift);
-      connect(actie, &QAction::triggered, this,
-              [this, item] { item.Schatter.empty() ? Menu(item.Naam) : Schat(item.Schatter); });
+      connect(actie, &QAction::triggered, this, [this, item] {
+        Doe(std::string(item.Naam) + "_Click",
+            [this, &item] { return item.Schatter.empty() ? Menu(item.Naam) : Schat(item); });
+      });
     }
     actie->setObjectName(VanCp(item.Naam));
     if (item.In.empty()) menus_[item.Naam] = actie;
@@ -157,7 +161,10 @@ void frmOnderhoud::VoegRij(QVBoxLayout* kolom, std::string_view naam, std::strin
 void frmOnderhoud::MeldAan(InvoerVeld* vak) {
   velden_.push_back(vak);
   connect(vak, &InvoerVeld::Verlaten, this, [this, vak] { Verlaat(*vak); });
-  connect(vak, &InvoerVeld::Escape, this, [vak] { vak->setText(VanCp(OnderhoudEscape(vak->Veld()))); });
+  connect(vak, &InvoerVeld::Escape, this, [this, vak] {
+    VakVan(vak->Veld()) = {.Tekst = std::string(OnderhoudEscape(vak->Veld()))};
+    ToonVak(*vak);
+  });
   connect(vak, &InvoerVeld::Enter, this, [this, vak] {
     findChild<QWidget*>(ObjectNaam(OnderhoudVolgend(vak->Veld())))->setFocus(Qt::TabFocusReason);
   });
@@ -238,6 +245,10 @@ QWidget* frmOnderhoud::BouwStatusbalk() {
   ProgressBar1->setObjectName("ProgressBar1");
   ProgressBar1->setAccessibleName("Voortgang");
   ProgressBar1->setMaximumWidth(160);
+  KleurVoortgang(*ProgressBar1);
+  QSizePolicy plaats = ProgressBar1->sizePolicy();
+  plaats.setRetainSizeWhenHidden(true);  // it has to stand in its place as soon as it is shown
+  ProgressBar1->setSizePolicy(plaats);
   balk->addWidget(paneel1_, 1);
   balk->addWidget(paneel2_, 1);
   balk->addWidget(ProgressBar1);
@@ -259,12 +270,16 @@ void frmOnderhoud::LeesVelden() {
 
 void frmOnderhoud::ToonVelden() {
   for (InvoerVeld* const vak : velden_) {
-    const OnderhoudVak& veld = VakVan(vak->Veld());
-    if (vak->text() != VanCp(veld.Tekst)) vak->setText(VanCp(veld.Tekst));
+    ToonVak(*vak);
     vak->setCursorPosition(0);
-    vak->setToolTip(VanCp(veld.ToolTip));
-    vak->ZetKleur(veld.Achtergrond);
   }
+}
+
+void frmOnderhoud::ToonVak(InvoerVeld& vak) {
+  const OnderhoudVak& veld = VakVan(vak.Veld());
+  if (vak.text() != VanCp(veld.Tekst)) vak.setText(VanCp(veld.Tekst));
+  vak.setToolTip(VanCp(veld.ToolTip));
+  vak.ZetKleur(veld.Achtergrond);
 }
 
 /// A locked field has the ground of the window.
@@ -316,11 +331,8 @@ void frmOnderhoud::Verlaat(InvoerVeld& vak) {
   const bool waarde = vak.Veld().Index >= 0;
   if (!isVisible() || !onderhoud_.Invoer || !waarde || (terugNaar_ != nullptr && terugNaar_ != &vak)) return;
   VakVan(vak.Veld()) = OnderhoudVerlaat(vak.Veld(), NaarCp(vak.text()), omgeving_.Decimaal);
-  const OnderhoudVak& nu = VakVan(vak.Veld());
-  vak.setText(VanCp(nu.Tekst));
-  vak.setToolTip(VanCp(nu.ToolTip));
-  vak.ZetKleur(nu.Achtergrond);
-  if (nu.Achtergrond == FoutKleur) GaTerug(&vak);
+  ToonVak(vak);
+  if (VakVan(vak.Veld()).Achtergrond == FoutKleur) GaTerug(&vak);
 }
 
 /// The focus can only be given back once the control that is getting it has it.
@@ -336,31 +348,48 @@ void frmOnderhoud::GaTerug(InvoerVeld* vak) {
 
 // ---- Commands ----
 
+void frmOnderhoud::ToonVoortgang(int record, int meest) {
+  ProgressBar1->setRange(0, meest);
+  ProgressBar1->show();
+  ProgressBar1->setValue(record);
+}
+
+std::optional<OverzichtUitslag> frmOnderhoud::MaakOverzicht(std::string_view naam) {
+  const auto voortgang = [this](int record, int meest) { ToonVoortgang(record, meest); };
+  const auto weg = qScopeGuard([this] { ProgressBar1->hide(); });
+  const CatalogusSoort soort = onderhoud_.Soort;
+  if (naam == "mnuZoekNaam")
+    return mnuZoekNaam_Click(omgeving_.Catalogi, soort, omgeving_.Dialogen, omgeving_.Vandaag,
+                             omgeving_.Decimaal, voortgang);
+  return mnuZoekAlles_Click(omgeving_.Catalogi, soort, omgeving_.Dialogen, omgeving_.Vandaag,
+                            omgeving_.Decimaal, voortgang);
+}
+
 void frmOnderhoud::ToonOverzicht(OverzichtUitslag overzicht) {
   frmOverzicht venster(std::move(overzicht), omgeving_.Dialogen, this);
   (void)venster.exec();
 }
 
-void frmOnderhoud::Menu(std::string_view naam) {
-  Doe(std::string(naam) + "_Click", [&]() -> OnderhoudUitkomst {
-    const CatalogusSoort soort = onderhoud_.Soort;
-    if (naam == "mnuSortNaam") return mnuSortNaam_Click(onderhoud_, omgeving_.Catalogi, omgeving_.Dialogen);
-    auto overzicht = naam == "mnuZoekNaam" ? mnuZoekNaam_Click(omgeving_.Catalogi, soort, omgeving_.Dialogen,
-                                                               omgeving_.Vandaag, omgeving_.Decimaal)
-                                           : mnuZoekAlles_Click(omgeving_.Catalogi, soort, omgeving_.Vandaag,
-                                                                omgeving_.Decimaal);
-    if (overzicht) ToonOverzicht(std::move(*overzicht));
-    return {};
-  });
+OnderhoudUitkomst frmOnderhoud::Menu(std::string_view naam) {
+  if (naam == "mnuSortNaam") return mnuSortNaam_Click(onderhoud_, omgeving_.Catalogi, omgeving_.Dialogen);
+  auto overzicht = MaakOverzicht(naam);
+  if (overzicht) ToonOverzicht(std::move(*overzicht));
+  return {};
 }
 
-void frmOnderhoud::Schat(std::string_view venster) {
-  Doe("mnuTools_Click", [&]() -> OnderhoudUitkomst {
-    const auto schatting = frmCalc::Vraag(SchatterVan(venster), omgeving_.SchatInvoer, omgeving_.Dialogen,
-                                          omgeving_.Decimaal, this);
-    if (schatting) NeemSchatting(onderhoud_, schatting->Omschrijving, schatting->Demping);
-    return {};
+/// A window that is disabled loses its focus; it gets it back as if it had only stood behind another one.
+OnderhoudUitkomst frmOnderhoud::Schat(const OnderhoudMenu& item) {
+  const QPointer<QWidget> focus = focusWidget();
+  if (item.ZetUit) setEnabled(false);
+  const auto weerAan = qScopeGuard([this, &focus] {
+    if (isEnabled()) return;
+    setEnabled(true);
+    if (focus != nullptr) focus->setFocus(Qt::ActiveWindowFocusReason);
   });
+  const auto schatting = frmCalc::Vraag(SchatterVan(item.Schatter), omgeving_.SchatInvoer, omgeving_.Dialogen,
+                                        omgeving_.Decimaal, this);
+  if (schatting) NeemSchatting(onderhoud_, schatting->Omschrijving, schatting->Demping);
+  return {};
 }
 
 void frmOnderhoud::Sluit() {

@@ -5,6 +5,7 @@
 #include <QDialog>
 #include <filesystem>
 #include <map>
+#include <optional>
 #include <string>
 
 #include "catalogue/onderhoud.h"
@@ -65,6 +66,7 @@ class frmOnderhoud : public QDialog {
 
   void LeesVelden();
   void ToonVelden();
+  void ToonVak(InvoerVeld& vak);
   void ToonToestand();
   void VulLijst();
   void Toon(const OnderhoudUitkomst& uitkomst);
@@ -73,9 +75,11 @@ class frmOnderhoud : public QDialog {
 
   void Verlaat(InvoerVeld& vak);
   void GaTerug(InvoerVeld* vak);
+  void ToonVoortgang(int record, int meest);
+  [[nodiscard]] std::optional<OverzichtUitslag> MaakOverzicht(std::string_view naam);
   void ToonOverzicht(OverzichtUitslag overzicht);
-  void Schat(std::string_view venster);
-  void Menu(std::string_view naam);
+  OnderhoudUitkomst Schat(const OnderhoudMenu& item);
+  OnderhoudUitkomst Menu(std::string_view naam);
   void Sluit();
 
   /// Gathers the fields, does a step, and shows what came of it; a failure is told and the window stays open.

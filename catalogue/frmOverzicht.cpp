@@ -10,6 +10,7 @@
 
 #include "basis/vensters_hulp.h"
 #include "editor/vensters_tekening.h"
+#include "editor/vensters_veld.h"
 
 namespace murvane {
 
@@ -30,6 +31,7 @@ frmOverzicht::frmOverzicht(OverzichtUitslag overzicht, Dialogen& dialogen, QWidg
     : QDialog(ouder, Qt::Dialog | Qt::WindowMaximizeButtonHint | Qt::WindowCloseButtonHint),
       overzicht_(std::move(overzicht)),
       dialogen_(dialogen) {
+  const Zandloper zandloper(dialogen_);
   setObjectName("frmOverzicht");
   for (const QString& regel : VanCp(overzicht_.OverzichtTekst).split("\r\n"))
     breedste_ = std::max(breedste_, static_cast<std::size_t>(regel.size()));
@@ -69,7 +71,7 @@ frmOverzicht::frmOverzicht(OverzichtUitslag overzicht, Dialogen& dialogen, QWidg
 
 QToolButton* frmOverzicht::MaakKnop(const char* sleutel, const QString& tekst, const QString& toolTip,
                                     const QString& icoon) {
-  auto* const knop = new QToolButton(this);
+  auto* const knop = new Balkknop(this);
   knop->setObjectName(QString("Toolbar1_") + sleutel);
   knop->setText(tekst);
   knop->setAccessibleName(tekst);

@@ -277,9 +277,9 @@ std::vector<OnderhoudMenu> OnderhoudMenus(CatalogusSoort soort) {
                            {"mnuBerDemp", "mnuPlenum", "&Plenumdemper", false, "frmCalc3"},
                            {"mnuBerDemp", "mnuKwartLambda", "&Kwartlambda-demper", false, "frmCalc2"}});
   } else if (soort == CatalogusSoort::Luchtkanalen) {
-    uit.insert(uit.end(),
-               {{"", "mnuTools", "Tools", true},
-                {"mnuTools", "mnuKwand", "&Indicatieve berekening geluidsisolatie", false, "frmDuctCalc"}});
+    uit.insert(uit.end(), {{"", "mnuTools", "Tools", true},
+                           {"mnuTools", "mnuKwand", "&Indicatieve berekening geluidsisolatie", false,
+                            "frmDuctCalc", true}});
   }
   return uit;
 }

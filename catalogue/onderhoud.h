@@ -64,6 +64,7 @@ struct OnderhoudMenu {
   std::string_view Opschrift;
   bool IsMenu = false;
   std::string_view Schatter = {};  ///< the window that a command of the tools menu shows
+  bool ZetUit = false;             ///< the window is disabled while that one is shown
 
   friend bool operator==(const OnderhoudMenu&, const OnderhoudMenu&) = default;
 };

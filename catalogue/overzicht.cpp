@@ -89,10 +89,15 @@ bool Bevat(std::string_view tekst, std::string_view zoek) {
 }
 
 template <typename Rec>
-void ZoekRegels(OverzichtUitslag& o, const Catalogus<Rec>& catalogus, OverzichtWijze wijze, char decimaal) {
+void ZoekRegels(OverzichtUitslag& o, const Catalogus<Rec>& catalogus, OverzichtWijze wijze, char decimaal,
+                const OverzichtVoortgang& voortgang) {
+  constexpr int MeestZonderRecords = 100;
+  const int meest = catalogus.Aantal < 1 ? MeestZonderRecords : catalogus.Aantal;
   const OverzichtVerschil& v = OverzichtVan(o.Soort);
   const std::string zoek = InKleineLetters(o.Zoek);
+  if (voortgang) voortgang(0, meest);
   for (int k = EersteRecord(o.Soort); k <= catalogus.Aantal; ++k) {
+    if (voortgang) voortgang(k, meest);
     const Rec& rec = catalogus.Records.at(static_cast<std::size_t>(k));
     if (wijze == OverzichtWijze::Zoeken && !Bevat(NaamVan(rec).Heel(), zoek)) continue;
     o.OverzichtRegels.push_back(Regel(rec, v, decimaal));
@@ -116,14 +121,14 @@ std::string Listing(const OverzichtUitslag& o) {
   return uit.append(Aantalregel(o));
 }
 
-OverzichtPagina Paginakop(const OverzichtUitslag& o, std::size_t nummer) {
+OverzichtPagina Paginakop(const OverzichtUitslag& o, const OverzichtVerschil& v, std::size_t nummer) {
   return {"",
           "",
           std::string(173, ' ') + "Pagina " + std::to_string(nummer),
           Titelregel(o, 147),
           Streep(),
           Frequentieregel(),
-          Kolomregel(OverzichtVan(o.Soort)),
+          Kolomregel(v),
           Streep()};
 }
 
@@ -217,7 +222,8 @@ const OverzichtVerschil& OverzichtVan(CatalogusSoort soort) {
 }
 
 OverzichtUitslag Overzicht(const Catalogi& catalogi, CatalogusSoort soort, OverzichtWijze wijze,
-                           std::string_view zoek, std::string_view vandaag, char decimaal) {
+                           std::string_view zoek, std::string_view vandaag, char decimaal,
+                           const OverzichtVoortgang& voortgang) {
   const OverzichtVerschil& v = OverzichtVan(soort);
   OverzichtUitslag o;
   o.Soort = soort;
@@ -225,22 +231,26 @@ OverzichtUitslag Overzicht(const Catalogi& catalogi, CatalogusSoort soort, Overz
   o.Zoek = zoek;
   o.Vandaag = vandaag;
   o.OverzichtFilter = v.Filter;
-  MetCatalogus(catalogi, soort, [&](const auto& catalogus) { ZoekRegels(o, catalogus, wijze, decimaal); });
+  MetCatalogus(catalogi, soort,
+               [&](const auto& catalogus) { ZoekRegels(o, catalogus, wijze, decimaal, voortgang); });
   o.OverzichtTekst = Listing(o);
   return o;
 }
 
-OverzichtUitslag mnuZoekAlles_Click(const Catalogi& catalogi, CatalogusSoort soort, std::string_view vandaag,
-                                    char decimaal) {
-  return Overzicht(catalogi, soort, OverzichtWijze::Alles, ZoekAlles, vandaag, decimaal);
+OverzichtUitslag mnuZoekAlles_Click(const Catalogi& catalogi, CatalogusSoort soort, Dialogen& dialogen,
+                                    std::string_view vandaag, char decimaal,
+                                    const OverzichtVoortgang& voortgang) {
+  const Zandloper zandloper(dialogen);
+  return Overzicht(catalogi, soort, OverzichtWijze::Alles, ZoekAlles, vandaag, decimaal, voortgang);
 }
 
 std::optional<OverzichtUitslag> mnuZoekNaam_Click(const Catalogi& catalogi, CatalogusSoort soort,
-                                                  Dialogen& dialogen, std::string_view vandaag,
-                                                  char decimaal) {
+                                                  Dialogen& dialogen, std::string_view vandaag, char decimaal,
+                                                  const OverzichtVoortgang& voortgang) {
   const std::string zoek = dialogen.Invoer({std::string(OverzichtVan(soort).ZoekTitel), "", ""});
   if (zoek.empty()) return std::nullopt;
-  return Overzicht(catalogi, soort, OverzichtWijze::Zoeken, zoek, vandaag, decimaal);
+  const Zandloper zandloper(dialogen);
+  return Overzicht(catalogi, soort, OverzichtWijze::Zoeken, zoek, vandaag, decimaal, voortgang);
 }
 
 std::string OverzichtBytes(const OverzichtUitslag& overzicht) {
@@ -266,23 +276,25 @@ void Printer(const OverzichtUitslag& overzicht, Dialogen& dialogen) {
   const auto fout = Probeer([&] {
     const AfdrukKeuze keuze =
         dialogen.AfdrukDialoog({.NaarBestandMogelijk = false, .Liggend = true, .Document = "Overzicht"});
+    const auto soort = SoortVanFilter(overzicht.OverzichtFilter);
+    if (!soort) return;
     const Zandloper zandloper(dialogen);
     for (int exemplaar = 0; exemplaar < keuze.Exemplaren; ++exemplaar)
-      Druk(*keuze.NieuwDocument(), Uitvoer(overzicht));
+      Druk(*keuze.NieuwDocument(), Uitvoer(overzicht, *soort));
   });
   Meld("Printer", fout, dialogen);
 }
 
-std::vector<OverzichtPagina> Uitvoer(const OverzichtUitslag& overzicht) {
-  const std::size_t perPagina = OverzichtVan(overzicht.Soort).PerPagina;
-  std::vector<OverzichtPagina> uit{Paginakop(overzicht, 1)};
+std::vector<OverzichtPagina> Uitvoer(const OverzichtUitslag& overzicht, CatalogusSoort soort) {
+  const OverzichtVerschil& v = OverzichtVan(soort);
+  std::vector<OverzichtPagina> uit{Paginakop(overzicht, v, 1)};
   std::size_t teller = 0;
   for (const std::string& rij : overzicht.OverzichtRegels) {
-    if (++teller > perPagina) {
+    if (++teller > v.PerPagina) {
       teller = 1;
       uit.back().push_back(Streep());
       uit.back().emplace_back("     -vervolg-");
-      uit.push_back(Paginakop(overzicht, uit.size() + 1));
+      uit.push_back(Paginakop(overzicht, v, uit.size() + 1));
     }
     DrukRegel(uit.back(), rij);
   }

@@ -3,6 +3,7 @@
 // holds a search text, as one text to show and save and as pages to print. Texts are Windows-1252.
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -52,17 +53,25 @@ struct OverzichtUitslag {
   [[nodiscard]] std::size_t Aantal() const { return OverzichtRegels.size(); }
 };
 
-/// Lists the records of a catalogue, built-in ones left out. Zoeken takes those whose name holds `zoek`, in
-/// whatever case; a `zoek` of blanks is searched too. Alles takes every record and shows `zoek`.
-[[nodiscard]] OverzichtUitslag Overzicht(const Catalogi& catalogi, CatalogusSoort soort, OverzichtWijze wijze,
-                                         std::string_view zoek, std::string_view vandaag, char decimaal);
+/// How far a listing has got: the number of the record, 0 before the first one, and the most it can become.
+using OverzichtVoortgang = std::function<void(int record, int meest)>;
 
-/// The commands: the whole list; those whose name holds what the user enters, nothing when that is empty.
+/// Lists the records of a catalogue, built-in ones left out. Zoeken takes those whose name holds `zoek`, in
+/// whatever case; a `zoek` of blanks is searched too. Alles takes every record and shows `zoek`. `voortgang`
+/// is told of every record that is looked at, taken or not.
+[[nodiscard]] OverzichtUitslag Overzicht(const Catalogi& catalogi, CatalogusSoort soort, OverzichtWijze wijze,
+                                         std::string_view zoek, std::string_view vandaag, char decimaal,
+                                         const OverzichtVoortgang& voortgang = {});
+
+/// The commands: the whole list; those whose name holds what the user enters, nothing when that is empty. The
+/// wait cursor shows while the list is made.
 [[nodiscard]] OverzichtUitslag mnuZoekAlles_Click(const Catalogi& catalogi, CatalogusSoort soort,
-                                                  std::string_view vandaag, char decimaal);
+                                                  Dialogen& dialogen, std::string_view vandaag, char decimaal,
+                                                  const OverzichtVoortgang& voortgang = {});
 [[nodiscard]] std::optional<OverzichtUitslag> mnuZoekNaam_Click(const Catalogi& catalogi,
                                                                 CatalogusSoort soort, Dialogen& dialogen,
-                                                                std::string_view vandaag, char decimaal);
+                                                                std::string_view vandaag, char decimaal,
+                                                                const OverzichtVoortgang& voortgang = {});
 
 /// The bytes of a saved overview: the listing and a line end.
 [[nodiscard]] std::string OverzichtBytes(const OverzichtUitslag& overzicht);
@@ -76,11 +85,13 @@ using OverzichtPagina = std::vector<std::string>;
 /// The most characters of a printed line, unless a title or a value is wider than its place.
 inline constexpr std::size_t OverzichtBreedte = 185;
 
-/// The printed overview. Its head is four characters narrower than the listing's.
-[[nodiscard]] std::vector<OverzichtPagina> Uitvoer(const OverzichtUitslag& overzicht);
+/// The overview as the window of a catalogue prints it. Its head is four characters narrower than the
+/// listing's.
+[[nodiscard]] std::vector<OverzichtPagina> Uitvoer(const OverzichtUitslag& overzicht, CatalogusSoort soort);
 
 /// Asks for a printer and prints the overview on sheets that lie on their long side, a document for each
-/// copy. A failure is told.
+/// copy. The end of its filter tells which window prints it; one of another kind prints nothing. A failure is
+/// told.
 void Printer(const OverzichtUitslag& overzicht, Dialogen& dialogen);
 
 /// Whether frmOverzicht can print a listing with this filter: a list of projects has no printed form.

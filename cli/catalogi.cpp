@@ -121,6 +121,15 @@ std::filesystem::path CatalogusPad(const Keuzes& keuzes, CatalogusSoort soort) {
   return (data ? PadVan(*data) : StandaardDataMap()) / OnderhoudVan(soort).Bestand;
 }
 
+/// A listing must not take the place of the catalogue that is read, nor of another one beside it.
+void WeigerOverCatalogus(const Keuzes& keuzes, CatalogusSoort soort, const std::string& uitvoer) {
+  WeigerOverschrijven(PadTekst(CatalogusPad(keuzes, soort)), uitvoer);
+  for (const SoortNaam& naam : SoortNamen) {
+    if (ZelfdeBestand(PadTekst(CatalogusPad(keuzes, naam.Soort)), uitvoer))
+      throw Gebruiksfout(uitvoer + " is een catalogus en zou worden overschreven.");
+  }
+}
+
 /// The catalogue of one kind, the others empty.
 Catalogi LeesEen(const std::filesystem::path& pad, CatalogusSoort soort) {
   Catalogi uit;
@@ -166,7 +175,7 @@ int VoerOverzicht(const Keuzes& keuzes, Kanalen& kanalen) {
   const std::string datum = DatumVan(keuzes);
   const std::filesystem::path pad = CatalogusPad(keuzes, soort);
   const auto& uitvoer = keuzes.Waarde(Optie::UitvoerToon);
-  if (uitvoer) WeigerOverschrijven(PadTekst(pad), *uitvoer);
+  if (uitvoer) WeigerOverCatalogus(keuzes, soort, *uitvoer);
   const auto& zoek = keuzes.Waarde(Optie::Zoek);
   const std::string bytes = OverzichtBytes(
       Overzicht(LeesEen(pad, soort), soort, zoek ? OverzichtWijze::Zoeken : OverzichtWijze::Alles,

@@ -150,7 +150,10 @@ FanUitslag lstFan_Click(Project& project, int rij, const SpectrumCatalogus& CatF
     uit.Box = Waarschuwing("Geen ventilatoren aanwezig");
     return uit;
   }
-  if (rij >= CatFans.Aantal) throw Fout(FoutNummer::IndexBuitenBereik);
+  if (rij >= CatFans.Aantal) {
+    uit.KiesRij = laatsteRij - 1;
+    return uit;
+  }
   const SpectrumRec& fan = CatFans.Records[static_cast<std::size_t>(rij) + 1];
   const double som = EnergetischeSom(fan.SpecWaarde, true);
   laatsteRij = rij + 1;

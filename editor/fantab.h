@@ -52,8 +52,8 @@ struct FanUitslag {
 [[nodiscard]] FanUitslag FanTypeGekozen(Project& project, std::int16_t fanType);
 
 /// A choice in lstFan (rij from 0, -1 for none). `laatsteRij` is the catalogue row chosen last, counted from
-/// 1, 0 for none; the window keeps it. Fout 9 for a row that the catalogue does not have, Fout 6 for a
-/// spectrum without a finite sum; then nothing has changed.
+/// 1, 0 for none; the window keeps it. A row whose record was deleted since the list was filled is left for
+/// the one chosen last. Fout 6 for a spectrum without a finite sum; then nothing has changed.
 [[nodiscard]] FanUitslag lstFan_Click(Project& project, int rij, const SpectrumCatalogus& CatFans,
                                       int& laatsteRij, char decimaal);
 

@@ -155,8 +155,8 @@ QWidget* frmCalc::BouwKnoppen() {
   auto* const rij = new QHBoxLayout(vak);
   rij->setContentsMargins(0, 0, 0, 0);
   rij->addStretch();
-  QPushButton* const cmdOK = MaakKnop("cmdOK", "OK", vak);
-  QPushButton* const cmdCancel = MaakKnop("cmdCancel", "Annuleren", vak);
+  QPushButton* const cmdOK = MaakKnop("cmdOK", "&OK", vak);
+  QPushButton* const cmdCancel = MaakKnop("cmdCancel", "&Annuleren", vak);
   // A click leaves the field as it is, so that a red one cannot hold its window open.
   cmdCancel->setFocusPolicy(Qt::TabFocus);
   rij->addWidget(cmdOK);

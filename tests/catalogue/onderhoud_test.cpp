@@ -218,7 +218,7 @@ TEST(OnderhoudTabel, HasTheMenusOfEveryWindow) {
               ElementsAre(zoek, opNaam, OnderhoudMenu{"mnuZoek", "mnuZoekAlles", "&Alle luchtkanalen"}, sort,
                           OnderhoudMenu{"mnuSort", "mnuSortNaam", "&Sorteren op Omschrijving"}, tools,
                           OnderhoudMenu{"mnuTools", "mnuKwand", "&Indicatieve berekening geluidsisolatie",
-                                        false, "frmDuctCalc"}));
+                                        false, "frmDuctCalc", true}));
   EXPECT_THAT(OnderhoudMenus(CatalogusSoort::Plafonds),
               ElementsAre(zoek, opNaam, OnderhoudMenu{"mnuZoek", "mnuZoekAlles", "&Alle plafonds"}, sort,
                           OnderhoudMenu{"mnuSort", "mnuSortNaam", "&Sorteren op Omschrijving"}));

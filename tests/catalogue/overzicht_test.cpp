@@ -63,7 +63,7 @@ std::vector<std::string> NamenVan(const auto& catalogus) {
 }
 
 OverzichtUitslag Alles(const Catalogi& catalogi, CatalogusSoort soort, char decimaal = ',') {
-  return mnuZoekAlles_Click(catalogi, soort, "20-11-2026", decimaal);
+  return Overzicht(catalogi, soort, OverzichtWijze::Alles, ZoekAlles, "20-11-2026", decimaal);
 }
 OverzichtUitslag Zoek(const Catalogi& catalogi, CatalogusSoort soort, std::string_view zoek) {
   return Overzicht(catalogi, soort, OverzichtWijze::Zoeken, zoek, "20-11-2026", ',');
@@ -152,27 +152,90 @@ TEST(Overzicht, ListsElementsInTwoRowsFromRecordTwelve) {
   EXPECT_EQ(Alles(catalogi, CatalogusSoort::Kanaalelementen).OverzichtTitel, "Kanaalelementen - Overzicht");
 }
 
+/// Values with the decimal sign of the listing.
+std::string MetTeken(std::string waarden, char decimaal) {
+  std::replace(waarden.begin(), waarden.end(), ',', decimaal);
+  return waarden;
+}
+
 TEST(Overzicht, ListsFansWithTheirSum) {
   Catalogi catalogi;
-  Voeg(catalogi.CatFans, "Toevoer").SpecWaarde = {90, 91, 92, 93, 94, 95, 96, 101.25};
-  EXPECT_EQ(Alles(catalogi, CatalogusSoort::Ventilatoren).OverzichtTekst,
-            Omlijst("VENTILATOREN - OVERZICHT", "Totaal ", 120, B(5) + "Ventilator" + B(95) + AchtBanden,
-                    B(5) + Naam80("Toevoer") + B(5) + "Lw  (dB)" + B(9) +
-                        "    90,0    91,0    92,0    93,0    94,0    95,0    96,0   101,3\r\n\r\n",
-                    1));
+  Voeg(catalogi.CatFans, "Toevoer 1,5 m").SpecWaarde = {90, 91, 92, 93, 94, 95, 96, 101.25};
+  for (const char d : {',', '.'})
+    EXPECT_EQ(Alles(catalogi, CatalogusSoort::Ventilatoren, d).OverzichtTekst,
+              Omlijst("VENTILATOREN - OVERZICHT", "Totaal ", 120, B(5) + "Ventilator" + B(95) + AchtBanden,
+                      B(5) + Naam80("Toevoer 1,5 m") + B(5) + "Lw  (dB)" + B(9) +
+                          MetTeken("    90,0    91,0    92,0    93,0    94,0    95,0    96,0   101,3", d) +
+                          "\r\n\r\n",
+                      1));
 }
 
 TEST(Overzicht, ListsDuctsAndCeilingsWithoutASum) {
   Catalogi catalogi;
-  Voeg(catalogi.CatRduct, "Staal").SpecWaarde = {1, 2, 3, 4, 5, 6, 7, 8};
-  Voeg(catalogi.CatRplaf, "Gips").SpecWaarde = {1, 2, 3, 4, 5, 6, 7, 8};
-  const std::string waarden = "     1,0     2,0     3,0     4,0     5,0     6,0     7,0\r\n\r\n";
-  EXPECT_EQ(Alles(catalogi, CatalogusSoort::Luchtkanalen).OverzichtTekst,
-            Omlijst("LUCHTKANALEN - OVERZICHT", "Totaal ", 120, B(5) + "Luchtkanaal" + B(94) + ZevenBanden,
-                    B(5) + Naam80("Staal") + B(5) + "R   (dB)" + B(9) + waarden, 1));
-  EXPECT_EQ(Alles(catalogi, CatalogusSoort::Plafonds).OverzichtTekst,
-            Omlijst("PLAFONDS - OVERZICHT", "Totaal ", 124, B(5) + "Plafond    " + B(94) + ZevenBanden,
-                    B(5) + Naam80("Gips") + B(5) + "R   (dB)" + B(9) + waarden, 1));
+  Voeg(catalogi.CatRduct, "Staal 1,5 mm").SpecWaarde = {1, 2, 3, 4, 5, 6, 7, 8};
+  Voeg(catalogi.CatRplaf, "Gips 9,5 mm").SpecWaarde = {1, 2, 3, 4, 5, 6, 7, 8};
+  for (const char d : {',', '.'}) {
+    const std::string waarden =
+        MetTeken("     1,0     2,0     3,0     4,0     5,0     6,0     7,0", d) + "\r\n\r\n";
+    EXPECT_EQ(Alles(catalogi, CatalogusSoort::Luchtkanalen, d).OverzichtTekst,
+              Omlijst("LUCHTKANALEN - OVERZICHT", "Totaal ", 120, B(5) + "Luchtkanaal" + B(94) + ZevenBanden,
+                      B(5) + Naam80("Staal 1,5 mm") + B(5) + "R   (dB)" + B(9) + waarden, 1));
+    EXPECT_EQ(Alles(catalogi, CatalogusSoort::Plafonds, d).OverzichtTekst,
+              Omlijst("PLAFONDS - OVERZICHT", "Totaal ", 124, B(5) + "Plafond    " + B(94) + ZevenBanden,
+                      B(5) + Naam80("Gips 9,5 mm") + B(5) + "R   (dB)" + B(9) + waarden, 1));
+  }
+}
+
+/// An element as it is listed: its attenuation and its self-noise at 63 Hz, the other bands 0.
+std::string ElementRegels(std::string_view naam, const std::string& demp, const std::string& ruis) {
+  std::string nullen;
+  for (int b = 0; b < 6; ++b) nullen += "     0,0";
+  return B(5) + Naam80(naam) + B(5) + "demping   (dB)    " + demp + nullen + "\r\n" + B(90) +
+         "eigenruis (dB)    " + ruis + nullen + "     0,0\r\n\r\n";
+}
+
+TEST(Overzicht, OfASearchHasItsHitsAndNothingElse) {
+  Catalogi catalogi = MetElementen({"Demper A", "slang", "DEMPER b", "d e m p e r"});
+  catalogi.CatElementen.Records[12].CatDemp[0] = 1;
+  catalogi.CatElementen.Records[14].CatRuis[0] = 33.5;
+  // The title is 35 characters and the text 6: 151 - 41 = 110
+  EXPECT_EQ(Zoek(catalogi, CatalogusSoort::Kanaalelementen, "demper").OverzichtTekst,
+            Omlijst("KANAALELEMENTEN - OVERZICHT OP NAAM", "demper", 110, ElementKop,
+                    ElementRegels("Demper A", "     1,0", "     0,0") +
+                        ElementRegels("DEMPER b", "     0,0", "    33,5"),
+                    2));
+}
+
+TEST(Overzicht, OfSortedElementsHasThemInOrderWithTheNoiseThatIsLeft) {
+  Catalogi catalogi = MetElementen({"c", "A", "b"});
+  for (std::size_t k = 12; k <= 14; ++k) {
+    catalogi.CatElementen.Records[k].CatDemp[0] = static_cast<double>(k);
+    catalogi.CatElementen.Records[k].CatRuis[0] = 30;
+  }
+  Sorteren(catalogi, CatalogusSoort::Kanaalelementen);
+  EXPECT_EQ(Alles(catalogi, CatalogusSoort::Kanaalelementen).OverzichtTekst,
+            Omlijst("KANAALELEMENTEN - OVERZICHT", "Totaal ", 117, ElementKop,
+                    ElementRegels("A", "    13,0", "    30,0") + ElementRegels("b", "    14,0", "    30,0") +
+                        ElementRegels("c", "    12,0", "     0,0"),  // it alone moved down
+                    3));
+}
+
+TEST(Overzicht, OfAFullElementCatalogueHasTheUsersFourHundredEightyNine) {
+  Catalogi catalogi = MetElementen({});
+  std::string regels;
+  for (int k = 12; k <= 500; ++k) {
+    const std::string naam = "nr " + std::to_string(k);
+    const std::string demp = std::to_string(k % 100) + ",0";
+    const std::string ruis = std::to_string(k % 90) + ",5";
+    CatElementRec& rec = Voeg(catalogi.CatElementen, naam);
+    rec.CatDemp[0] = k % 100;
+    rec.CatRuis[0] = k % 90 + 0.5;
+    regels += ElementRegels(naam, B(8 - demp.size()) + demp, B(8 - ruis.size()) + ruis);
+  }
+  const OverzichtUitslag o = Alles(catalogi, CatalogusSoort::Kanaalelementen);
+  EXPECT_EQ(o.OverzichtTekst,
+            Omlijst("KANAALELEMENTEN - OVERZICHT", "Totaal ", 117, ElementKop, regels, 489));
+  EXPECT_EQ(o.Aantal(), 489U);
 }
 
 TEST(Overzicht, OfNothingHasHeadsAndACountOfZero) {
@@ -260,6 +323,50 @@ TEST(OverzichtOpdracht, DoesNothingOnAnEmptyAnswerAndSearchesBlanks) {
   EXPECT_TRUE(mnuZoekNaam_Click({}, CatalogusSoort::Ventilatoren, script, "", ',').has_value());
 }
 
+TEST(OverzichtOpdracht, OfAllListsEveryRecordUnderTheWaitCursor) {
+  const Catalogi catalogi = MetElementen({"Demper", "slang"});
+  for (const CatalogusSoort soort : Soorten) {
+    Script script = Gebruiker();
+    bool gewacht = false;
+    const OverzichtUitslag o = mnuZoekAlles_Click(catalogi, soort, script, "20-11-2026", ',',
+                                                  [&](int, int) { gewacht = script.Wacht(); });
+    EXPECT_EQ(o.OverzichtTekst, Alles(catalogi, soort).OverzichtTekst);
+    EXPECT_TRUE(gewacht);
+  }
+}
+
+TEST(OverzichtOpdracht, OfASearchWaitsBehindItsQuestion) {
+  Script script = Gebruiker();
+  bool gewacht = false;
+  script.InvoerBox({"Ventilatoren - Overzicht op naam", "", ""}, "x");  // which fails under the wait cursor
+  (void)mnuZoekNaam_Click({}, CatalogusSoort::Ventilatoren, script, "", ',',
+                          [&](int, int) { gewacht = script.Wacht(); });
+  EXPECT_TRUE(gewacht);
+  EXPECT_EQ(script.KeerGewacht(), 1);
+}
+
+TEST(OverzichtVoortgang, TellsTheNumberOfEveryRecordAgainstTheCount) {
+  using Stand = std::pair<int, int>;
+  const auto standen = [](const Catalogi& catalogi, CatalogusSoort soort, std::string_view zoek) {
+    std::vector<Stand> uit;
+    (void)Overzicht(catalogi, soort, OverzichtWijze::Zoeken, zoek, "20-11-2026", ',',
+                    [&uit](int record, int meest) { uit.emplace_back(record, meest); });
+    return uit;
+  };
+  Catalogi catalogi = MetElementen({"a", "b", "c"});
+  Voeg(catalogi.CatFans, "a"), Voeg(catalogi.CatFans, "b");
+  EXPECT_THAT(standen(catalogi, CatalogusSoort::Kanaalelementen, "b"),  // also of those it does not take
+              ElementsAre(Stand(0, 14), Stand(12, 14), Stand(13, 14), Stand(14, 14)));
+  EXPECT_THAT(standen(catalogi, CatalogusSoort::Ventilatoren, "a"),
+              ElementsAre(Stand(0, 2), Stand(1, 2), Stand(2, 2)));
+  for (const int aantal : {0, -1}) {
+    catalogi.CatFans.Aantal = static_cast<std::int16_t>(aantal);
+    EXPECT_THAT(standen(catalogi, CatalogusSoort::Ventilatoren, "a"), ElementsAre(Stand(0, 100)));
+  }
+  catalogi.CatElementen.Aantal = 1;
+  EXPECT_THAT(standen(catalogi, CatalogusSoort::Kanaalelementen, "a"), ElementsAre(Stand(0, 1)));
+}
+
 // Saving.
 
 TEST(OverzichtOpslaan, WritesTheListingAndALineEnd) {
@@ -320,7 +427,8 @@ TEST(OverzichtVenster, KnowsTheCatalogueByTheEndOfTheFilter) {
 
 TEST(Uitvoer, OfNothingIsOnePageWithItsHead) {
   // The head is 147 characters wide, against 151 of the listing: 147 - 32 - 7 = 108.
-  const auto paginas = Uitvoer(Zoek({}, CatalogusSoort::Ventilatoren, "Demping"));
+  const auto paginas =
+      Uitvoer(Zoek({}, CatalogusSoort::Ventilatoren, "Demping"), CatalogusSoort::Ventilatoren);
   ASSERT_EQ(paginas.size(), 1U);
   EXPECT_THAT(
       paginas[0],
@@ -331,7 +439,8 @@ TEST(Uitvoer, OfNothingIsOnePageWithItsHead) {
 }
 
 TEST(Uitvoer, PrintsAnEntryAndAnEmptyLine) {
-  const auto paginas = Uitvoer(Alles(MetElementen({"Demper"}), CatalogusSoort::Kanaalelementen));
+  const auto paginas = Uitvoer(Alles(MetElementen({"Demper"}), CatalogusSoort::Kanaalelementen),
+                               CatalogusSoort::Kanaalelementen);
   ASSERT_EQ(paginas.size(), 1U);
   ASSERT_EQ(paginas[0].size(), 8U + 3 + 2);
   EXPECT_EQ(paginas[0][3],
@@ -360,7 +469,7 @@ TEST(Uitvoer, BreaksBehindFourteenElementsAndTwentyOthers) {
       MetCatalogus(catalogi, rij.soort, [aantal](auto& catalogus) {
         for (int k = 1; k <= aantal; ++k) Voeg(catalogus, "nr " + std::to_string(k) + ".");
       });
-      const auto paginas = Uitvoer(Alles(catalogi, rij.soort));
+      const auto paginas = Uitvoer(Alles(catalogi, rij.soort), rij.soort);
       ASSERT_EQ(paginas.size(), static_cast<std::size_t>((aantal - 1) / rij.perPagina + 1));
       for (std::size_t p = 0; p < paginas.size(); ++p) {
         EXPECT_EQ(paginas[p][2], B(173) + "Pagina " + std::to_string(p + 1));
@@ -386,7 +495,8 @@ TEST(Uitvoer, KeepsEveryLineWithinItsWidth) {
     rec.CatRuis.fill(150);
   }
   std::size_t breedste = 0;
-  for (const OverzichtPagina& pagina : Uitvoer(Alles(catalogi, CatalogusSoort::Kanaalelementen)))
+  for (const OverzichtPagina& pagina :
+       Uitvoer(Alles(catalogi, CatalogusSoort::Kanaalelementen), CatalogusSoort::Kanaalelementen))
     for (const std::string& regel : pagina) breedste = std::max(breedste, regel.size());
   EXPECT_EQ(breedste, OverzichtBreedte);
 }
@@ -468,7 +578,7 @@ TEST(OverzichtPrinter, DrawsEveryPageOnceACopyInTheFixedFont) {
     EXPECT_EQ(document.Font, "Courier New");
     EXPECT_EQ(document.Punten, 7.2);
     EXPECT_TRUE(document.Klaar);
-    EXPECT_EQ(document.Paginas, Uitvoer(o));
+    EXPECT_EQ(document.Paginas, Uitvoer(o, CatalogusSoort::Kanaalelementen));
     EXPECT_EQ(document.Paginas.size(), 3U);
     // 185 characters of 0.6 x 7.2 points are 15984 of the sheet's 16838 twips: 427 remain on either side
     for (const auto& [x, y] : document.Plaatsen) {
@@ -477,6 +587,38 @@ TEST(OverzichtPrinter, DrawsEveryPageOnceACopyInTheFixedFont) {
     }
   }
   EXPECT_EQ(script.KeerGewacht(), 1);
+}
+
+TEST(OverzichtPrinter, GoesByTheEndOfTheFilterAndPrintsNothingForAnother) {
+  const struct {
+    const char* filter;
+    CatalogusSoort soort;
+    std::size_t paginas;  // of 30 entries, by 14 or by 20
+  } rijen[] = {{"x|*.elm", CatalogusSoort::Kanaalelementen, 3},
+               {"x|*.fan", CatalogusSoort::Ventilatoren, 2},
+               {"x|*.dct", CatalogusSoort::Luchtkanalen, 2},
+               {"x|*.plf", CatalogusSoort::Plafonds, 2}};
+  Catalogi catalogi;
+  for (int k = 1; k <= 30; ++k) Voeg(catalogi.CatFans, "nr " + std::to_string(k));
+  OverzichtUitslag o = Alles(catalogi, CatalogusSoort::Ventilatoren);
+  for (const auto& rij : rijen) {
+    o.OverzichtFilter = rij.filter;
+    std::deque<Drukwerk> documenten;
+    Script script = Gebruiker();
+    script.Afdrukken(Drukvraag, Exemplaren(1, documenten));
+    Printer(o, script);
+    ASSERT_EQ(documenten.size(), 1U) << rij.filter;
+    EXPECT_EQ(documenten[0].Paginas.size(), rij.paginas) << rij.filter;
+    EXPECT_EQ(documenten[0].Paginas, Uitvoer(o, rij.soort)) << rij.filter;
+  }
+  for (const char* const filter : {"", "x|*.prx", "x|*.pln", "x|*.ELM"}) {
+    o.OverzichtFilter = filter;
+    std::deque<Drukwerk> documenten;
+    Script script = Gebruiker();
+    script.Afdrukken(Drukvraag, Exemplaren(1, documenten));
+    Printer(o, script);
+    EXPECT_TRUE(documenten.empty()) << filter;
+  }
 }
 
 TEST(OverzichtPrinter, IsSilentWhenCancelledAndTellsAFailure) {

@@ -56,8 +56,9 @@ TEST(OverzichtOpdracht, ShowsTheListingAsUtf8AndSavesItsBytes) {
     const Proefmap map;
     Zet(map, soort);
     for (const char* const decimaal : {"punt", "komma"}) {
-      const std::string bytes = OverzichtBytes(mnuZoekAlles_Click(
-          Proefcatalogi(), soort.Soort, "20-11-2026", std::string(decimaal) == "punt" ? '.' : ','));
+      const std::string bytes =
+          OverzichtBytes(murvane::Overzicht(Proefcatalogi(), soort.Soort, OverzichtWijze::Alles, ZoekAlles,
+                                            "20-11-2026", std::string(decimaal) == "punt" ? '.' : ','));
       const Afloop toon = Overzicht(map, {soort.Woord, "--decimaal", decimaal});
       EXPECT_EQ(toon.Code, 0);
       EXPECT_EQ(toon.Err, "");
@@ -117,6 +118,24 @@ TEST(OverzichtOpdracht, NeverOverwritesTheCatalogueAndNamesTheFileOfAFault) {
   EXPECT_EQ(weg.Err, map / "Rplaf.dat" + ": Fout 53 - Bestand niet gevonden.\n");
   EXPECT_EQ(Overzicht(map, {"ventilatoren", "-o", map / "weg/a.fan"}).Err,
             map / "weg/a.fan" + ": Fout 76 - Map niet gevonden.\n");
+}
+
+TEST(OverzichtOpdracht, NeverOverwritesAnotherCatalogueOfItsData) {
+  const Proefmap map;
+  for (const Soortnaam& soort : Soorten) Zet(map, soort);
+  for (const Soortnaam& soort : Soorten) {
+    for (const Soortnaam& ander : Soorten) {
+      const std::string was = map.Lees(ander.Bestand);
+      const Afloop afloop = Overzicht(map, {soort.Woord, "-o", map / ander.Bestand});
+      const char* const waarom = soort.Soort == ander.Soort
+                                     ? " is het bestand dat wordt gelezen en zou worden overschreven."
+                                     : " is een catalogus en zou worden overschreven.";
+      EXPECT_EQ(afloop.Code, 64);
+      EXPECT_EQ(afloop.Err, map / ander.Bestand + waarom + "\nHulp: murvane-cli overzicht --help\n");
+      EXPECT_EQ(map.Lees(ander.Bestand), was);
+    }
+  }
+  EXPECT_EQ(Overzicht(map, {"plafonds", "-o", map / "Fan.dat.txt"}).Code, 0);
 }
 
 TEST(CatalogusSorteer, SortsAndSavesWithTheTailOfALongerFile) {

@@ -36,6 +36,8 @@ class Script final : public Dialogen {
 
   /// Fails the test unless every question was asked and the wait cursor is gone.
   void IsKlaar();
+  /// Whether the wait cursor is shown now.
+  [[nodiscard]] bool Wacht() const { return wacht_; }
   /// How often the wait cursor was shown.
   [[nodiscard]] int KeerGewacht() const { return keerGewacht_; }
 

@@ -28,10 +28,9 @@ class Fouten : public ProjectVenster {
   }
   void ToestandFaalt() { LaatFalen(venster.get(), &frmMurvane::ToestandGewijzigd); }
   /// Awaits the box of a procedure.
-  void Wacht(const std::string& procedure) {
+  void Wacht(const std::string& procedure, const std::string& fout = "Fout 9 - Index buiten het bereik.") {
     script.Box({MeldingSoort::Kritiek, "MurVane",
-                "Onverwachte fout in procedure " + procedure +
-                    " van Form frmMurvane.\nFout 9 - Index buiten het bereik.",
+                "Onverwachte fout in procedure " + procedure + " van Form frmMurvane.\n" + fout,
                 Knoppen::OK});
   }
   /// The box has come and the window still works.
@@ -90,8 +89,8 @@ TEST_F(Fouten, TheFanTabTellsItsEvents) {
   klik("cmdFanCancel");
   Zoek<QRadioButton>("optPrognose")->click();
   klik("optInvoer");
-  catalogi.CatFans.Aantal = 1;  // the rows still show more
-  Wacht("lstFan_Click");
+  catalogi.CatFans.Records[3].SpecWaarde[0] = 1e300;
+  Wacht("lstFan_Click", "Fout 6 - " + std::string(Beschrijving(FoutNummer::Overloop)) + ".");
   Zoek<QListWidget>("lstFan")->setCurrentRow(2);
   Klaar("lstFan");
 }

@@ -101,8 +101,8 @@ TEST_F(SchatVensters, CarryTheirTextsAndStartAtTheFirstField) {
       EXPECT_EQ(Zoek<QLabel>("lblEenheid" + naam)->text(), VanCp(veld.Eenheid));
       EXPECT_EQ(Veld(naam)->accessibleName(), VanCp(veld.Label) + " in " + VanCp(veld.Eenheid));
     }
-    EXPECT_EQ(Zoek<QPushButton>("cmdOK")->text(), "OK");
-    EXPECT_EQ(Zoek<QPushButton>("cmdCancel")->text(), "Annuleren");
+    EXPECT_EQ(Zoek<QPushButton>("cmdOK")->text(), "&OK");
+    EXPECT_EQ(Zoek<QPushButton>("cmdCancel")->text(), "&Annuleren");
     EXPECT_EQ(Zoek<Tekening>("Tekening")->accessibleName(), "Tekening: " + VanCp(tabel.Titel));
   }
 }

@@ -34,6 +34,8 @@
 #include "basis/getal.h"
 #include "basis/vensters_hulp.h"
 #include "basis/vensters_stijl.h"
+#include "catalogue/frmOnderhoud.h"
+#include "catalogue/frmOverzicht.h"
 #include "editor/frmMurvane.h"
 #include "editor/vensters_veld.h"
 #include "estimators/frmCalc.h"
@@ -146,6 +148,21 @@ class Wereld {
     schatter_->show();
     QApplication::setActiveWindow(schatter_.get());
     return schatter_.get();
+  }
+
+  /// The maintenance of a catalogue, with its second record in view or in an entry.
+  [[nodiscard]] QWidget* MaakOnderhoud(CatalogusSoort soort, bool entry) {
+    QWidget* const venster = MaakDialoog(
+        std::make_unique<frmOnderhoud>(soort, OnderhoudOmgeving{programma_.Catalogi, programma_.SchatInvoer,
+                                                                script_, map_.Pad(), "20-11-2026", ','}));
+    venster->findChild<QListWidget*>("lstSpectrum")->setCurrentRow(1);
+    if (entry) venster->findChild<QPushButton*>("cmdwijzig")->click();
+    return venster;
+  }
+
+  [[nodiscard]] QWidget* MaakOverzicht(CatalogusSoort soort) {
+    return MaakDialoog(std::make_unique<frmOverzicht>(
+        Overzicht(programma_.Catalogi, soort, OverzichtWijze::Alles, ZoekAlles, "20-11-2026", ','), script_));
   }
 
   /// The results of a sample, in their window.
@@ -269,6 +286,14 @@ const std::vector<Stand>& Fotos() {
          {Schatter::Bekleed, Schatter::KwartLambda, Schatter::Plenum, Schatter::Kanaalwand})
       fotos.push_back(
           {std::string(VensterVan(soort).Naam), [soort](Wereld& w) { return w.MaakSchatter(soort); }});
+    for (const CatalogusSoort soort : {CatalogusSoort::Kanaalelementen, CatalogusSoort::Ventilatoren,
+                                       CatalogusSoort::Luchtkanalen, CatalogusSoort::Plafonds}) {
+      for (const bool entry : {false, true})
+        fotos.push_back({std::string(OnderhoudVan(soort).Venster) + (entry ? "-wijzigen" : ""),
+                         [=](Wereld& w) { return w.MaakOnderhoud(soort, entry); }});
+    }
+    fotos.push_back(
+        {"frmOverzicht", [](Wereld& w) { return w.MaakOverzicht(CatalogusSoort::Kanaalelementen); }});
     fotos.push_back({"grafiek", [](Wereld& w) { return w.MaakGrafiek(); }});
     fotos.push_back(
         {"keuze-grafiek", [](Wereld& w) { return w.MaakDialoog(std::make_unique<frmSelGraf>()); }});
@@ -566,7 +591,7 @@ bool NaamVolgensRegel(const QWidget& vak) {
       {qobject_cast<const QListWidget*>(&vak) != nullptr, "^lst[A-Z]\\w+$"},
       {qobject_cast<const QComboBox*>(&vak) != nullptr, "^(cmb|cbo)[A-Z]\\w+$"},
       {qobject_cast<const QRadioButton*>(&vak) != nullptr, "^opt[A-Z]\\w+$"},
-      {qobject_cast<const QPushButton*>(&vak) != nullptr, "^cmd[A-Z]\\w+$"},
+      {qobject_cast<const QPushButton*>(&vak) != nullptr, "^cmd([A-Z]\\w+|wijzig)$"},
       {qobject_cast<const QGroupBox*>(&vak) != nullptr, "^frame[A-Z]\\w+$"},
       {qobject_cast<const QLabel*>(&vak) != nullptr, "^lbl[A-Z a-z]\\w*(_\\d+)?$"},
   };
