@@ -6,7 +6,7 @@
 #include <QCheckBox>
 #include <QImage>
 #include <QLineEdit>
-#include <QPrinter>
+#include <QPdfWriter>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStringList>
@@ -263,12 +263,11 @@ TEST(Afdrukdialoog, HasATickOfItsOwnForTheTextReport) {
   EXPECT_EQ(proef::NummerVan([&] { return dialogen.AfdrukDialoog({false}).Exemplaren; }), 32755);
 }
 
-TEST(Schildervlak, TellsOfAPrinterThatCannotBegin) {
+TEST(Schildervlak, TellsOfADeviceThatCannotBegin) {
   const proef::TijdelijkeMap map;
-  const auto printer = std::make_shared<QPrinter>();
-  printer->setOutputFormat(QPrinter::PdfFormat);
-  printer->setOutputFileName(QString::fromStdString(PadTekst(map / "geen map/x.pdf")));
-  EXPECT_EQ(proef::NummerVan([&] { return Schildervlak(printer).Page(); }), 75);
+  const auto schrijver =
+      std::make_shared<QPdfWriter>(QString::fromStdString(PadTekst(map / "geen map/x.pdf")));
+  EXPECT_EQ(proef::NummerVan([&] { return Schildervlak(schrijver).Page(); }), 75);
 }
 
 // The preview's picture.
