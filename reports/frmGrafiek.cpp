@@ -40,6 +40,7 @@ frmGrafiek::frmGrafiek(const Grafiek& grafiek, Afdrukken afdrukken, QWidget* oud
   MSChart1->setRenderHint(QPainter::Antialiasing);
   MSChart1->installEventFilter(this);
   resize(static_cast<int>(GrafiekBreedte / TwipsPerPixel), static_cast<int>(GrafiekHoogte / TwipsPerPixel));
+  Teken();
 }
 
 frmGrafiek::~frmGrafiek() {
@@ -48,6 +49,10 @@ frmGrafiek::~frmGrafiek() {
 
 void frmGrafiek::resizeEvent(QResizeEvent* gebeurtenis) {
   QDialog::resizeEvent(gebeurtenis);
+  if (tafereel_ == nullptr || tafereel_->sceneRect().size() != size()) Teken();
+}
+
+void frmGrafiek::Teken() {
   MSChart1->setGeometry(rect());
   auto nieuw = MaakTafereel(grafiek_, size());
   MSChart1->setScene(nieuw.get());

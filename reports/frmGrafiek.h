@@ -31,6 +31,8 @@ class frmGrafiek : public QDialog {
   bool eventFilter(QObject* wie, QEvent* gebeurtenis) override;
 
  private:
+  void Teken();
+
   Grafiek grafiek_;
   Afdrukken afdrukken_;
   std::unique_ptr<QGraphicsScene> tafereel_;

@@ -1,8 +1,10 @@
 #include "reports/frmResultaat.h"
 
 #include <QFont>
+#include <QScrollBar>
 #include <QTextCursor>
 #include <QTextEdit>
+#include <utility>
 
 #include "basis/vensters_hulp.h"
 #include "reports/vensters_werkbalk.h"
@@ -54,6 +56,14 @@ frmResultaat::frmResultaat(const Rapport& rapport, QWidget* ouder)
 bool frmResultaat::focusNextPrevChild(bool verder) {
   FocusBinnen(*this, verder);
   return true;
+}
+
+/// Before the text had its room it scrolled to keep its cursor in sight.
+void frmResultaat::showEvent(QShowEvent* gebeurtenis) {
+  QWidget::showEvent(gebeurtenis);
+  if (std::exchange(getoond_, true)) return;  // from then on it stays where the user left it
+  tekst_->horizontalScrollBar()->setValue(0);
+  tekst_->verticalScrollBar()->setValue(0);
 }
 
 void frmResultaat::resizeEvent(QResizeEvent* gebeurtenis) {

@@ -23,12 +23,14 @@ class frmResultaat : public QWidget {
   void ButtonClick(const QString& sleutel);
 
  protected:
+  void showEvent(QShowEvent* gebeurtenis) override;
   void resizeEvent(QResizeEvent* gebeurtenis) override;
   bool focusNextPrevChild(bool verder) override;
 
  private:
   Werkbalk* Toolbar1;
   QTextEdit* tekst_;
+  bool getoond_ = false;
 };
 
 }  // namespace murvane

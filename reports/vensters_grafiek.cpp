@@ -26,6 +26,7 @@ constexpr double TwipsPerEenheid = 15;
 /// Texts are laid out at three times their size and shown at a third: sizes of a third of a unit stay exact.
 constexpr int Fijn = 3;
 constexpr double Rand = 6;
+constexpr double Kleinst = 0.7;  // a line is set no smaller than this part to fit its width; then it wraps
 constexpr double Groepbreedte = 0.75;  // part of a row that its bars take
 constexpr QColor Inkt{20, 20, 20}, Raster{205, 205, 205};
 
@@ -42,20 +43,25 @@ QFont Letter(double punten, bool vet = false) {
   return font;
 }
 
-/// A text centred in the width, from `boven` down; its height.
+/// A text centred in the width, from `boven` down; its height. One that is too wide for a line is set
+/// smaller, or wraps.
 double ZetTekst(QGraphicsScene& tafereel, const QString& tekst, QFont font, double boven, double breedte,
-                QTextOption::WrapMode terugloop) {
+                bool terugloop) {
   font.setPixelSize(font.pixelSize() * Fijn);
   auto* item = tafereel.addText(tekst, font);
   item->setDefaultTextColor(Inkt);
   item->document()->setDocumentMargin(0);
+  const double vrij = breedte - 2 * Rand;
+  const double past = terugloop ? 1.0 : vrij * Fijn / std::max(1.0, item->document()->idealWidth());
+  const double schaal = std::clamp(past, Kleinst, 1.0) / Fijn;
   QTextOption opmaak(Qt::AlignHCenter);
-  opmaak.setWrapMode(terugloop);
+  opmaak.setWrapMode(terugloop || past < Kleinst ? QTextOption::WrapAtWordBoundaryOrAnywhere
+                                                 : QTextOption::NoWrap);
   item->document()->setDefaultTextOption(opmaak);
-  item->setTextWidth((breedte - 2 * Rand) * Fijn);
-  item->setScale(1.0 / Fijn);
+  item->setTextWidth(vrij / schaal);
+  item->setScale(schaal);
   item->setPos(Rand, boven);
-  return item->boundingRect().height() / Fijn;
+  return item->boundingRect().height() * schaal;
 }
 
 double ZetTitel(QGraphicsScene& tafereel, const Grafiek& grafiek, double breedte) {
@@ -64,7 +70,7 @@ double ZetTitel(QGraphicsScene& tafereel, const Grafiek& grafiek, double breedte
   for (const std::string& regel : grafiek.Titel) {
     const QString tekst = VanCp(TrimRechts(regel));
     if (eerste || !tekst.isEmpty())
-      y += ZetTekst(tafereel, tekst, Letter(eerste ? 10 : 9, eerste), y, breedte, QTextOption::NoWrap);
+      y += ZetTekst(tafereel, tekst, Letter(eerste ? 10 : 9, eerste), y, breedte, false);
     eerste = false;
   }
   return y;
@@ -73,9 +79,8 @@ double ZetTitel(QGraphicsScene& tafereel, const Grafiek& grafiek, double breedte
 /// At the bottom; the height that it takes.
 double ZetVoetnoot(QGraphicsScene& tafereel, const Grafiek& grafiek, QSizeF grootte) {
   if (grafiek.Voetnoot.empty()) return 0;
-  const auto terugloop = grafiek.VoetnootTerugloop ? QTextOption::WordWrap : QTextOption::NoWrap;
-  const double hoogte =
-      ZetTekst(tafereel, VanCp(grafiek.Voetnoot), Letter(9), grootte.height(), grootte.width(), terugloop);
+  const double hoogte = ZetTekst(tafereel, VanCp(grafiek.Voetnoot), Letter(9), grootte.height(),
+                                 grootte.width(), grafiek.VoetnootTerugloop);
   tafereel.items().constFirst()->moveBy(0, -hoogte - Rand);
   return hoogte + Rand;
 }
@@ -142,7 +147,11 @@ void ZetLabels(QGraphicsScene& tafereel, QChart& kaart, QBarSeries& reeks, const
     label->setScale(1.0 / Fijn);
     const QSizeF maat = label->boundingRect().size() / Fijn;
     const QPointF plaats = kaart.mapToScene(kaart.mapToPosition(QPointF(midden, top), &reeks));
-    label->setPos(plaats.x() - maat.width() / 2, plaats.y() - maat.height() - 1);
+    const QRectF vak({plaats.x() - maat.width() / 2, plaats.y() - maat.height() - 1}, maat);
+    label->setPos(vak.topLeft());
+    // No grid line through its figures.
+    auto* ondergrond = tafereel.addRect(vak, Qt::NoPen, tafereel.backgroundBrush());
+    ondergrond->stackBefore(label);
   }
 }
 

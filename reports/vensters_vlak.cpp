@@ -1,18 +1,22 @@
 #include "reports/vensters_vlak.h"
 
-#include <QBuffer>
 #include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QPageLayout>
 #include <QPagedPaintDevice>
+#include <QPdfWriter>
 #include <QPrinter>
 #include <algorithm>
 #include <cmath>
+#include <map>
+#include <utility>
 
+#include "basis/bestand.h"
 #include "basis/fout.h"
 #include "basis/vensters_hulp.h"
 #include "reports/lettertype.h"
 #include "reports/vensters_grafiek.h"
+#include "versie.h"
 
 namespace murvane {
 
@@ -30,6 +34,23 @@ QString Leesbaar(std::string_view tekst) {
   std::replace_if(
       uit.begin(), uit.end(), [](QChar c) { return c.unicode() < 0x20; }, QChar(u' '));
   return uit;
+}
+
+/// The file that a printer writes its PDF to; empty when it prints on paper.
+std::filesystem::path PdfBestandVan(const QPagedPaintDevice& apparaat) {
+  const auto* printer = dynamic_cast<const QPrinter*>(&apparaat);
+  if (printer == nullptr || printer->outputFormat() != QPrinter::PdfFormat) return {};
+  return PadVan(printer->outputFileName().toStdString());
+}
+
+/// The writer of the PDF that this printer would write, to the buffer.
+std::shared_ptr<QPdfWriter> SchrijverVoor(const QPrinter& printer, QBuffer& buffer) {
+  buffer.open(QIODevice::WriteOnly);
+  auto schrijver = std::make_shared<QPdfWriter>(&buffer);
+  schrijver->setResolution(static_cast<int>(TwipsPerInch));
+  schrijver->setTitle(printer.docName());
+  schrijver->setCreator(QString("MurVane ") + VersieTekst);
+  return schrijver;
 }
 
 QColor NaarQt(Kleur kleur) {
@@ -58,8 +79,12 @@ std::string BitmapBytes(const QImage& beeld) {
 }
 
 Schildervlak::Schildervlak(std::shared_ptr<QPagedPaintDevice> apparaat, bool liggend)
-    : apparaat_(std::move(apparaat)) {
-  if (auto* printer = dynamic_cast<QPrinter*>(apparaat_.get())) printer->setFullPage(true);
+    : pdfBestand_(PdfBestandVan(*apparaat)), apparaat_(std::move(apparaat)) {
+  if (auto* printer = dynamic_cast<QPrinter*>(apparaat_.get())) {
+    printer->setFullPage(true);
+    // The printer's own writer empties the old file first and tells nobody of a full disk.
+    if (!pdfBestand_.empty()) apparaat_ = SchrijverVoor(*printer, pdf_);
+  }
   const QPageLayout blad(QPageSize(QPageSize::A4), liggend ? QPageLayout::Landscape : QPageLayout::Portrait,
                          QMarginsF(), QPageLayout::Point);
   apparaat_->setPageLayout(blad);
@@ -99,17 +124,12 @@ void Schildervlak::Begin(QPaintDevice& apparaat, double eenhedenPerTwip) {
   ZetFontSize(BeginPunten);
 }
 
-void Schildervlak::ZetFont() {
-  schilder_.setFont(font_);
-}
-
 void Schildervlak::ZetFontNaam(std::string_view naam) {
   const QFont oud = font_;
   font_ = FontVan(naam.empty() ? StandaardLettertype : naam);  // empty was never set
   font_.setPixelSize(oud.pixelSize());
   font_.setBold(oud.bold());
   font_.setItalic(oud.italic());
-  ZetFont();
 }
 
 void Schildervlak::ZetFontSize(double punten) {
@@ -118,17 +138,14 @@ void Schildervlak::ZetFontSize(double punten) {
   if (!(twips >= 1 && twips <= 20000)) throw Fout(FoutNummer::OngeldigArgument);
   punten_ = punten;
   font_.setPixelSize(static_cast<int>(twips));
-  ZetFont();
 }
 
 void Schildervlak::ZetFontBold(bool vet) {
   font_.setBold(vet);
-  ZetFont();
 }
 
 void Schildervlak::ZetFontItalic(bool cursief) {
   font_.setItalic(cursief);
-  ZetFont();
 }
 
 double Schildervlak::TextWidth(std::string_view tekst) const {
@@ -145,33 +162,52 @@ void Schildervlak::Print(std::string_view tekst) {
   // Blanks at the end move the position and need no ink.
   qsizetype lengte = leesbaar.size();
   while (lengte > 0 && leesbaar[lengte - 1] == u' ') --lengte;
-  if (lengte > 0) Schrijf(leesbaar.left(lengte), maten);
+  if (lengte > 0) ZetKlaar(leesbaar.left(lengte), maten);
   x_ += maten.horizontalAdvance(leesbaar);
 }
 
-/// A line that would run off the sheet is set narrower, so that all of it can be read.
-void Schildervlak::Schrijf(const QString& tekst, const QFontMetricsF& maten) {
-  const double breedte = maten.horizontalAdvance(tekst);
+void Schildervlak::ZetKlaar(const QString& tekst, const QFontMetricsF& maten) {
+  // An italic letter leans out of its own width.
+  const double breedte = std::max(maten.horizontalAdvance(tekst), maten.boundingRect(tekst).right());
   const double ruimte = breedte_ - Kant - x_;
-  const QPointF plaats(x_, y_ + maten.ascent());
-  if (breedte <= ruimte + 1 || ruimte <= 0) {
+  const bool past = breedte <= ruimte + 1 || ruimte <= 0;
+  blok_.push_back(
+      {tekst, font_, QPointF(x_, y_ + maten.ascent()), past ? 1.0 : std::max(SmalsteDeel, ruimte / breedte)});
+}
+
+/// Different widths under one another would look like different fonts.
+void Schildervlak::SchrijfBlok() {
+  const std::vector<Stuk> blok = std::exchange(blok_, {});
+  std::map<double, double> smal;  // by where the text begins
+  for (const Stuk& stuk : blok) {
+    double& deel = smal.try_emplace(stuk.Plaats.x(), 1.0).first->second;
+    deel = std::min(deel, stuk.Smal);
+  }
+  for (const Stuk& stuk : blok) Schrijf(stuk.Tekst, stuk.Font, stuk.Plaats, smal.at(stuk.Plaats.x()));
+}
+
+void Schildervlak::Schrijf(const QString& tekst, const QFont& font, QPointF plaats, double smal) {
+  schilder_.setFont(font);
+  if (smal == 1.0) {
     schilder_.drawText(plaats, tekst);
     return;
   }
   schilder_.save();
   schilder_.translate(plaats);
-  schilder_.scale(std::max(SmalsteDeel, ruimte / breedte), 1);
+  schilder_.scale(smal, 1);
   schilder_.drawText(QPointF(), tekst);
   schilder_.restore();
 }
 
 void Schildervlak::PrintRegel(std::string_view tekst) {
+  if (tekst.empty()) SchrijfBlok();
   Print(tekst);
   x_ = 0;
   y_ += QFontMetricsF(font_).lineSpacing();
 }
 
 void Schildervlak::Lijn(double x1, double y1, double x2, double y2, Kleur kleur) {
+  SchrijfBlok();
   const QPen oud = schilder_.pen();
   schilder_.setPen(QPen(NaarQt(kleur), lijndikte_, Qt::SolidLine, Qt::FlatCap));
   schilder_.drawLine(QPointF(x1, y1), QPointF(x2, y2));
@@ -179,10 +215,12 @@ void Schildervlak::Lijn(double x1, double y1, double x2, double y2, Kleur kleur)
 }
 
 void Schildervlak::Doos(double x1, double y1, double x2, double y2, Kleur kleur) {
+  SchrijfBlok();
   schilder_.fillRect(QRectF(QPointF(x1, y1), QPointF(x2, y2)), NaarQt(kleur));
 }
 
 void Schildervlak::PaintPicture(const Grafiek& grafiek, double x, double y, double breedte, double hoogte) {
+  SchrijfBlok();
   schilder_.save();
   schilder_.setRenderHint(QPainter::Antialiasing);
   TekenGrafiek(schilder_, grafiek, QRectF(x, y, breedte, hoogte));
@@ -190,6 +228,7 @@ void Schildervlak::PaintPicture(const Grafiek& grafiek, double x, double y, doub
 }
 
 void Schildervlak::NewPage() {
+  SchrijfBlok();
   if (!apparaat_ || !apparaat_->newPage()) throw Fout(FoutNummer::PadToegang, "De printer geeft geen blad");
   ++pagina_;
   x_ = y_ = 0;
@@ -197,20 +236,24 @@ void Schildervlak::NewPage() {
 
 void Schildervlak::EndDoc() {
   if (!apparaat_) return;
+  SchrijfBlok();
   const bool gelukt = schilder_.isActive() && schilder_.end();
   const auto* printer = dynamic_cast<QPrinter*>(apparaat_.get());
   if (!gelukt || (printer != nullptr && printer->printerState() == QPrinter::Error))
     throw Fout(FoutNummer::PadToegang, "De printer nam het document niet aan");
+  if (!pdfBestand_.empty()) VervangBestand(pdfBestand_, pdf_.data().toStdString());
 }
 
 void Schildervlak::BewaarBlad(int index) {
   if (index < 0) throw Fout(FoutNummer::IndexBuitenBereik);
+  SchrijfBlok();
   const auto plaats = static_cast<std::size_t>(index);
   if (bladen_.size() <= plaats) bladen_.resize(plaats + 1);
   bladen_[plaats] = beeld_.copy();  // the painter goes on drawing on the original
 }
 
 void Schildervlak::Cls() {
+  blok_.clear();
   schilder_.fillRect(QRectF(0, 0, breedte_, hoogte_).adjusted(0, 0, 100, 100), Qt::white);
   x_ = y_ = 0;
 }

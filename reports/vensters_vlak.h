@@ -3,9 +3,13 @@
 // of the painter is a twip, and a font's size in pixels its size in twips, so that every surface lays text
 // out alike.
 
+#include <QBuffer>
 #include <QFont>
 #include <QImage>
 #include <QPainter>
+#include <QPointF>
+#include <QString>
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <vector>
@@ -14,7 +18,6 @@
 
 class QFontMetricsF;
 class QPagedPaintDevice;
-class QString;
 
 namespace murvane {
 
@@ -28,10 +31,13 @@ inline constexpr double VoorbeeldDpi = 192;
 /// The bytes of a bitmap file.
 [[nodiscard]] std::string BitmapBytes(const QImage& beeld);
 
+/// A line that would run off the sheet is set narrower, so that all of it can be read, and with it all lines
+/// that begin under one another in its block: what an empty line, a rule, a box, a picture or the page ends.
 class Schildervlak final : public Vlak {
  public:
   /// A document on the whole A4 sheet, upright or on its long side, its origin in the sheet's corner. Fout 75
-  /// when the device cannot begin.
+  /// when the device cannot begin. What a printer prints to a PDF file is held until EndDoc, which then
+  /// replaces the file as VervangBestand does and raises its Fout.
   explicit Schildervlak(std::shared_ptr<QPagedPaintDevice> apparaat, bool liggend = false);
   /// A white picture of this size in twips.
   Schildervlak(double breedte, double hoogte, double pixelsPerInch);
@@ -67,13 +73,25 @@ class Schildervlak final : public Vlak {
 
  private:
   void Begin(QPaintDevice& apparaat, double eenhedenPerTwip);
-  void ZetFont();
-  void Schrijf(const QString& tekst, const QFontMetricsF& maten);
+  void ZetKlaar(const QString& tekst, const QFontMetricsF& maten);
+  void SchrijfBlok();
+  void Schrijf(const QString& tekst, const QFont& font, QPointF plaats, double smal);
 
+  /// A text that was printed, until its block is complete.
+  struct Stuk {
+    QString Tekst;
+    QFont Font;
+    QPointF Plaats;     // of its baseline
+    double Smal = 1.0;  // how much narrower it must be to stay on the sheet
+  };
+
+  QBuffer pdf_;                         // of a document that is printed to a file
+  std::filesystem::path pdfBestand_{};  // where EndDoc puts it
   std::shared_ptr<QPagedPaintDevice> apparaat_;
   QImage beeld_;
   std::vector<QImage> bladen_;
   QPainter schilder_;
+  std::vector<Stuk> blok_;
   QFont font_;
   double breedte_ = 0, hoogte_ = 0;
   double lijndikte_ = 0;

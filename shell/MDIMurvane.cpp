@@ -359,8 +359,10 @@ void MDIMurvane::Toolbar1_Opslaan() {
 
 void MDIMurvane::Toolbar1_Grafiek() {
   if (!VulGrafiek(programma_, dialogen_, [this] { return VraagGrafiekKeuze(this); })) return;
+  std::optional<Zandloper> zandloper(dialogen_);
   frmGrafiek venster(
       programma_.Grafiek, [this](const auto& druk) { DrukGrafiek(dialogen_, druk); }, this);
+  zandloper.reset();
   venster.exec();
 }
 

@@ -50,6 +50,12 @@ BestandVraag OpslaanVraag(std::string_view filter) {
   return vraag;
 }
 
+BestandVraag PrnVraag() {
+  BestandVraag vraag = OpslaanVraag(UitvoerFilter);
+  vraag.Extensie = "prn";
+  return vraag;
+}
+
 /// Beside the project and named after it, when it has a file.
 BestandVraag PdfVraag(const Programma& programma) {
   BestandVraag vraag = OpslaanVraag(PdfFilter);
@@ -62,7 +68,7 @@ BestandVraag PdfVraag(const Programma& programma) {
 
 void BewaarTekst(const Programma& programma, Dialogen& dialogen, const Opdrachtnaam& naam) {
   (void)Doe(dialogen, naam, [&] {
-    const fs::path bestand = dialogen.OpslaanDialoog(OpslaanVraag(UitvoerFilter));
+    const fs::path bestand = dialogen.OpslaanDialoog(PrnVraag());
     if (bestand.empty()) return;
     const Zandloper zandloper(dialogen);
     VervangBestand(bestand, PrnBytes(programma.Rapport));
@@ -177,8 +183,10 @@ void OpslaanAlsBitmap(const Programma& programma, Dialogen& dialogen, const Bitm
 bool VulGrafiek(Programma& programma, Dialogen& dialogen, const GrafiekKeuze& kiesGrafiek) {
   const std::int16_t type = programma.Project.Kop.RekenType;
   if (VraagtGrafiekKeuze(type)) programma.KiesGrafiek = kiesGrafiek();
-  const auto fout = Probeer(
-      [&] { Grafiek2(programma.Project, programma.Resultaten, programma.KiesGrafiek, programma.Grafiek); });
+  const auto fout = Probeer([&] {
+    const Zandloper zandloper(dialogen);
+    Grafiek2(programma.Project, programma.Resultaten, programma.KiesGrafiek, programma.Grafiek);
+  });
   if (fout) MeldGrafiekfout(dialogen);
   return ToontGrafiek(type, programma.KiesGrafiek);
 }
@@ -186,9 +194,13 @@ bool VulGrafiek(Programma& programma, Dialogen& dialogen, const GrafiekKeuze& ki
 void DrukGrafiek(Dialogen& dialogen, const std::function<void(Vlak& blad)>& druk) {
   const Melding vraag{MeldingSoort::Vraag, "Afdrukken", "Grafiek afdrukken op printer?", Knoppen::YesNo};
   if (dialogen.Toon(vraag) != Antwoord::Yes) return;
+  constexpr AfdrukVraag vel{.NaarBestandMogelijk = false, .Liggend = false, .Document = "Grafiek"};
   AfdrukKeuze keuze;
-  (void)Doe(dialogen, F8opdracht, [&] { keuze = dialogen.AfdrukDialoog({false}); });
-  DrukExemplaren(dialogen, F8opdracht, keuze, druk);
+  (void)Doe(dialogen, F8opdracht, [&] { keuze = dialogen.AfdrukDialoog(vel); });
+  DrukExemplaren(dialogen, F8opdracht, keuze, [&](Vlak& blad) {
+    const Zandloper zandloper(dialogen);
+    druk(blad);
+  });
 }
 
 }  // namespace murvane

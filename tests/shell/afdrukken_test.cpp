@@ -45,7 +45,12 @@ class Afdrukken : public testing::Test {
   static BestandVraag Opslaan(const std::string& filter) {
     return {"Opslaan als", filter, ProgrammaMap(), {}, true, false, true};
   }
-  static BestandVraag PrnVraag() { return Opslaan("Uitvoerbestanden (*.prn)|*.prn"); }
+  /// A name without an extension gets one.
+  static BestandVraag PrnVraag() {
+    BestandVraag vraag = Opslaan("Uitvoerbestanden (*.prn)|*.prn");
+    vraag.Extensie = "prn";
+    return vraag;
+  }
   static BestandVraag BmpVraag() { return Opslaan("Bitmap-bestanden (*.bmp)|*.bmp"); }
 
   /// The sheet that the printer's next document is drawn on stays here for the test to look at.
@@ -374,6 +379,16 @@ TEST_F(Grafiekopdracht, AsksAndShows) {
   EXPECT_EQ(keerGekozen_, 1);
   EXPECT_EQ(programma_.KiesGrafiek, 1);
   EXPECT_EQ(programma_.Grafiek.Titel.at(0), TitelEenMeter);
+  EXPECT_EQ(script_.KeerGewacht(), 1);
+}
+
+TEST_F(Grafiekopdracht, WaitsForTheChartAndNotForTheUser) {
+  const auto kies = [this]() -> std::int16_t {
+    EXPECT_EQ(script_.KeerGewacht(), 0);
+    return kiesgrafiek::EenMeter;
+  };
+  EXPECT_TRUE(VulGrafiek(programma_, script_, kies));
+  EXPECT_EQ(script_.KeerGewacht(), 1);
 }
 
 TEST_F(Grafiekopdracht, FillsTheChartEvenWhenTheChoiceWasCancelled) {
@@ -401,14 +416,19 @@ using F8opdracht = Afdrukken;
 const Melding F8Vraag{MeldingSoort::Vraag, "Afdrukken", "Grafiek afdrukken op printer?", Knoppen::YesNo};
 
 TEST_F(F8opdracht, PrintsTheWindowAsOftenAsAsked) {
-  const auto druk = [](Vlak& blad) { blad.Print("venster"); };
+  int getekend = 0;
+  const auto druk = [&](Vlak& blad) {
+    // The wait cursor comes for the drawing, and again for the end of each document.
+    EXPECT_EQ(script_.KeerGewacht(), 2 * getekend++ + 1);
+    blad.Print("venster");
+  };
   script_.Box(F8Vraag, Antwoord::No);
   DrukGrafiek(script_, druk);
   EXPECT_TRUE(documenten_.empty());
-  script_.Box(F8Vraag, Antwoord::Yes).Afdrukken({false}, std::nullopt);
+  script_.Box(F8Vraag, Antwoord::Yes).Afdrukken({false, false, "Grafiek"}, std::nullopt);
   DrukGrafiek(script_, druk);
   EXPECT_TRUE(documenten_.empty());
-  script_.Box(F8Vraag, Antwoord::Yes).Afdrukken({false}, Keuze(2));
+  script_.Box(F8Vraag, Antwoord::Yes).Afdrukken({false, false, "Grafiek"}, Keuze(2));
   DrukGrafiek(script_, druk);
   ASSERT_EQ(documenten_.size(), 2U);
   EXPECT_EQ(documenten_[1]->Zoek("venster").size(), 1U);
@@ -418,7 +438,7 @@ TEST_F(F8opdracht, PrintsTheWindowAsOftenAsAsked) {
 TEST_F(F8opdracht, TellsWhatFails) {
   faalt_ = [](std::string_view naam, int) { return naam == "EndDoc"; };
   script_.Box(F8Vraag, Antwoord::Yes)
-      .Afdrukken({false}, Keuze(1))
+      .Afdrukken({false, false, "Grafiek"}, Keuze(1))
       .Box(Onverwacht("Form_KeyDown van Form frmGrafiek", "51 - Interne fout"));
   DrukGrafiek(script_, [](Vlak&) {});
 }

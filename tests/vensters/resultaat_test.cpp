@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QScrollBar>
 #include <QTextCharFormat>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -54,6 +55,24 @@ TEST_F(Resultaatvenster, SetsProjectAndRoomLargeAndTheTablesSmall) {
 TEST_F(Resultaatvenster, StartsAtTheFirstLine) {
   EXPECT_EQ(tekst->textCursor().position(), 0);
   EXPECT_FALSE(tekst->textCursor().hasSelection());
+}
+
+TEST_F(Resultaatvenster, OpensOnTheFirstLineAndStaysWhereItWasScrolled) {
+  Rapport lang;
+  lang.RapHoofd = "hoofd\r\n";
+  for (int i = 0; i < 200; ++i) lang.RapHoofd += std::string(400, 'x') + "\r\n";
+  frmResultaat groot(lang);
+  const auto* const vak = groot.findChild<QTextEdit*>("RichTextBox1");
+  groot.resize(600, 400);
+  groot.show();
+  QApplication::processEvents();
+  ASSERT_GT(vak->verticalScrollBar()->maximum(), 0);
+  EXPECT_EQ(vak->verticalScrollBar()->value(), 0);
+  EXPECT_EQ(vak->horizontalScrollBar()->value(), 0);
+  vak->verticalScrollBar()->setValue(100);
+  groot.hide();
+  groot.show();
+  EXPECT_EQ(vak->verticalScrollBar()->value(), 100);
 }
 
 // 420 twips are 28 pixels.

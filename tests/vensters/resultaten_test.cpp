@@ -121,7 +121,9 @@ TEST_F(Resultaatvensters, TheResultWindowHasItsToolbarAboveTheText) {
 
 TEST_F(Resultaatvensters, SavesTheTextReport) {
   Bereken("kantoor.mrv");
-  script.Opslaan(Opslaan("Uitvoerbestanden (*.prn)|*.prn"), map / "één.prn");
+  BestandVraag vraag = Opslaan("Uitvoerbestanden (*.prn)|*.prn");
+  vraag.Extensie = "prn";
+  script.Opslaan(vraag, map / "één.prn");
   Klik("frmResultaat", "Opslaan");
   EXPECT_EQ(Lees(map / "één.prn"), PrnBytes(programma.Rapport));
 }
@@ -196,9 +198,9 @@ TEST_F(Resultaatvensters, ShowNoChartWhenTheChoiceIsCancelled) {
 TEST_F(Resultaatvensters, OfCrosstalkShowTheChartAtOnceAndF8PrintsIt) {
   Bereken("overspraak.mrv");
   Opnemer blad;
-  script.Box(F8Vraag, Antwoord::Yes).Afdrukken({false}, AfdrukKeuze{1, false, [] {
-                                                                      return std::make_unique<Opnemer>();
-                                                                    }});
+  script.Box(F8Vraag, Antwoord::Yes)
+      .Afdrukken({false, false, "Grafiek"},
+                 AfdrukKeuze{1, false, [] { return std::make_unique<Opnemer>(); }});
   robot.Dan([&](QDialog& dialoog) {
     EXPECT_EQ(dialoog.objectName(), "frmGrafiek");
     Robot::Druk(dialoog, Qt::Key_F8);
