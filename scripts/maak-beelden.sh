@@ -1,11 +1,12 @@
 #!/usr/bin/env bash
-# Makes the pictures in docs/beelden anew: every window with the samples in it, light and dark, and at 200 %.
+# Makes the pictures in docs/beelden anew: every window with the samples in it, light and dark, and at 200 %, and
+# a page of the printed form.
 # Builds what it needs in build/release, and needs no display.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
 cmake --preset release >/dev/null
-cmake --build --preset release --target murvane-venstertests
+cmake --build --preset release --target murvane-venstertests murvane-druk
 ruw=$(mktemp -d)
 trap 'rm -rf "$ruw"' EXIT
 
@@ -15,6 +16,8 @@ maak() {  # scale, tests
 }
 maak 1 'Rondgang.CanBePictured*'
 maak 2 'Rondgang.CanBePictured'
+QT_QPA_PLATFORM=offscreen build/release/bin/murvane-druk data/kantoor.mrv --pdf "$ruw/formulier.pdf" --decimaal komma
+pdftoppm -r 75 -png -f 2 -l 2 -singlefile "$ruw/formulier.pdf" "$ruw/formulier"
 
 mkdir -p docs/beelden
 rm -f docs/beelden/*.png

@@ -2,10 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include <QAction>
 #include <QApplication>
 #include <QScrollBar>
 #include <QTextEdit>
+#include <QToolButton>
 
 #include "reports/frmPreView.h"
 #include "tests/vensters/opstelling.h"
@@ -21,7 +21,7 @@ class Resultaatloop : public Hoofdvenster {
     Kies("mnuReken");
     ASSERT_NE(Resultaat(), nullptr);
   }
-  void Klik(const QString& sleutel) { Resultaat()->findChild<QAction*>("Toolbar1_" + sleutel)->trigger(); }
+  void Klik(const QString& sleutel) { Resultaat()->findChild<QToolButton*>("Toolbar1_" + sleutel)->click(); }
   frmPreView* Voorbeeld() { return venster->findChild<frmPreView*>("frmPreView"); }
   proef::Robot robot;
 };
