@@ -10,6 +10,7 @@
 #include <random>
 
 #include "basis/fout.h"
+#include "basis/getal.h"
 #include "basis/tekst.h"
 #include "reports/vlak.h"
 #include "tests/hulp/bestanden.h"
@@ -662,7 +663,7 @@ void Nummer(CatElementRec& rec, double n) {
     rec.CatRuis[b] = 100 + n + static_cast<double>(b) / 10;
   }
   rec.PerMeter = static_cast<std::int16_t>(n);
-  rec.CatExtra = "extra " + std::to_string(n);
+  rec.CatExtra = "extra " + StandaardTekst(n, '.');
 }
 
 TEST(Sorteren, PutsNamesInOrderAndEqualOnesAsTheyStood) {
@@ -700,7 +701,7 @@ TEST(Sorteren, TakesTheFirstSelfNoiseOfARecordThatMovesDown) {
   EXPECT_EQ(records[14].CatRuis[0], 12.7);   // its CatDemp(7)
   EXPECT_EQ(records[14].CatRuis[7], 112.7);  // nothing is worked out anew
   EXPECT_EQ(records[14].PerMeter, 12);
-  EXPECT_EQ(records[14].CatExtra.Getrimd(), "extra 12.000000");
+  EXPECT_EQ(records[14].CatExtra.Getrimd(), "extra 12");
   EXPECT_EQ(records[15].CatRuis[0], 115);
 }
 
