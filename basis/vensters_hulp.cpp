@@ -1,5 +1,6 @@
 #include "basis/vensters_hulp.h"
 
+#include <QLabel>
 #include <QPalette>
 #include <QProgressBar>
 #include <QWidget>
@@ -36,6 +37,13 @@ void ZetAchtergrond(QWidget& veld, std::uint32_t bgr) {
   palet.setColor(QPalette::Text, Qt::black);
   palet.setColor(QPalette::PlaceholderText, QColor(90, 90, 90));
   veld.setPalette(palet);
+}
+
+QLabel* MaakLabel(const QString& tekst, const QString& naam, QWidget* buddy, QWidget* ouder) {
+  auto* const label = new QLabel(tekst, ouder);
+  label->setObjectName(naam);
+  label->setBuddy(buddy);
+  return label;
 }
 
 void KleurVoortgang(QProgressBar& balk) {

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+class QLabel;
 class QProgressBar;
 class QWidget;
 
@@ -23,6 +24,13 @@ namespace murvane {
 
 /// Gives a field a fixed light background with dark text on it, whatever the theme.
 void ZetAchtergrond(QWidget& veld, std::uint32_t bgr);
+
+/// Pixels around the content of a window, and between its parts.
+inline constexpr int Marge = 12;
+inline constexpr int Ruimte = 8;
+
+/// The label of a control, which is its buddy.
+[[nodiscard]] QLabel* MaakLabel(const QString& tekst, const QString& naam, QWidget* buddy, QWidget* ouder);
 
 /// The colours of every progress bar: dark grey on light grey, whatever the theme.
 void KleurVoortgang(QProgressBar& balk);

@@ -29,16 +29,6 @@ namespace murvane {
 
 namespace {
 
-constexpr int Marge = 12;
-constexpr int Ruimte = 8;
-
-QLabel* MaakLabel(const QString& tekst, const QString& naam, QWidget* buddy, QWidget* ouder) {
-  auto* const label = new QLabel(tekst, ouder);
-  label->setObjectName(naam);
-  label->setBuddy(buddy);
-  return label;
-}
-
 Schatter SchatterVan(std::string_view venster) {
   for (const Schatter soort :
        {Schatter::Bekleed, Schatter::KwartLambda, Schatter::Plenum, Schatter::Kanaalwand})

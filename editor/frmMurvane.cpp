@@ -374,7 +374,6 @@ void frmMurvane::RoepBerekend(std::string_view nummer) {
 
 void frmMurvane::VoerUit(const Gevolg& gevolg) {
   if (gevolg.SluitVensters) emit SluitVensters();
-  if (gevolg.WisRapport) emit WisRapport();
   emit ToestandGewijzigd();
 }
 

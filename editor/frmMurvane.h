@@ -72,7 +72,6 @@ class frmMurvane : public QWidget {
  signals:
   void ToestandGewijzigd();  ///< menus, buttons and status bar may have changed
   void SluitVensters();
-  void WisRapport();
 
  protected:
   void changeEvent(QEvent* event) override;

@@ -28,9 +28,6 @@ namespace murvane {
 
 namespace {
 
-constexpr int Marge = 12;
-constexpr int Ruimte = 8;
-
 struct KnopTekst {
   std::string_view Sleutel;
   const char* Tekst;

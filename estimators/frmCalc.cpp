@@ -21,16 +21,6 @@ namespace murvane {
 
 namespace {
 
-constexpr int Marge = 12;
-constexpr int Ruimte = 8;
-
-QLabel* MaakLabel(const QString& tekst, const QString& naam, QWidget* buddy, QWidget* ouder) {
-  auto* const label = new QLabel(tekst, ouder);
-  label->setObjectName(naam);
-  label->setBuddy(buddy);
-  return label;
-}
-
 QPushButton* MaakKnop(const char* naam, const QString& tekst, QWidget* ouder) {
   auto* const knop = new QPushButton(tekst, ouder);
   knop->setObjectName(naam);

@@ -89,7 +89,6 @@ MDIMurvane::MDIMurvane(Programma& programma, Dialogen& dialogen)
   MaakStatusbalk();
   connect(project_, &frmMurvane::ToestandGewijzigd, this, &MDIMurvane::ToonToestand);
   connect(project_, &frmMurvane::SluitVensters, this, &MDIMurvane::SluitVensters);
-  connect(project_, &frmMurvane::WisRapport, this, [this] { programma_.Rapport = {}; });
   project_->ToonGeenProject();
   ToonToestand();
 }
