@@ -18,6 +18,8 @@ namespace murvane {
 
 namespace {
 
+constexpr int Kolommen = 84;  ///< letters beside each other in the window
+
 QLabel* Regels(const char* naam, const std::string& tekst, QWidget* ouder) {
   auto* const label = new QLabel(VanCp(tekst).remove('\r'), ouder);
   label->setObjectName(naam);
@@ -43,8 +45,8 @@ QPushButton* MailKnop(QWidget* ouder) {
   knop->setObjectName("lblMail");
   knop->setAccessibleName(QString("Mail naar ") + SteunAdres);
   knop->setToolTip("Stuur een bericht aan de makers");
+  knop->setAccessibleDescription(knop->toolTip());
   knop->setFlat(true);
-  knop->setAutoDefault(false);
   knop->setCursor(Qt::PointingHandCursor);
   QPalette palet = knop->palette();
   palet.setColor(QPalette::ButtonText, QColor(0x9c, 0xc8, 0xf5));
@@ -58,6 +60,7 @@ QPlainTextEdit* Levering(const std::filesystem::path& pad, Dialogen& dialogen, Q
   auto* const vak = new QPlainTextEdit(ouder);
   vak->setObjectName("txtLevering");
   vak->setAccessibleName("Over deze levering");
+  vak->setAccessibleDescription("Alleen ter inzage; de tekst kan worden gekopieerd.");
   vak->setReadOnly(true);
   vak->setTabChangesFocus(true);
   vak->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
@@ -83,7 +86,11 @@ frmAbout::frmAbout(const Instellingen& instellingen, const std::filesystem::path
   boven->addWidget(Product(info.Product, vlak));
   boven->addWidget(Regels("lblOmschrijving", info.Omschrijving, vlak));
   boven->addWidget(MailKnop(vlak), 0, Qt::AlignLeft);
+  QPlainTextEdit* const tekst = Levering(levering, dialogen, this);
   auto* const knoppen = new QDialogButtonBox(QDialogButtonBox::Ok, this);
+  QPushButton* const cmdOK = knoppen->button(QDialogButtonBox::Ok);
+  cmdOK->setObjectName("cmdOK");
+  cmdOK->setAccessibleDescription("Sluit het venster.");
   connect(knoppen, &QDialogButtonBox::accepted, this, &QDialog::accept);
   auto* const indeling = new QVBoxLayout(this);
   indeling->setContentsMargins(0, 0, 0, 0);
@@ -91,11 +98,12 @@ frmAbout::frmAbout(const Instellingen& instellingen, const std::filesystem::path
   auto* const onder = new QVBoxLayout;
   onder->setContentsMargins(16, 8, 16, 12);
   onder->setSpacing(10);
-  onder->addWidget(Levering(levering, dialogen, this), 1);
+  onder->addWidget(tekst, 1);
   onder->addWidget(knoppen);
   indeling->addLayout(onder, 1);
-  resize(580, 480);
-  knoppen->button(QDialogButtonBox::Ok)->setFocus();
+  const int breedte = Kolommen * fontMetrics().averageCharWidth();
+  resize(breedte, breedte * 5 / 6);
+  cmdOK->setFocus();
 }
 
 }  // namespace murvane
