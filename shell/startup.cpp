@@ -7,7 +7,6 @@
 #include "project/projectfile.h"
 
 #ifdef _WIN32
-#define WIN32_LEAN_AND_MEAN
 #include <windows.h>
 #else
 #include <langinfo.h>
