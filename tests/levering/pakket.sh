@@ -61,7 +61,7 @@ heeft usr/share/doc/murvane/changelog.gz
 stap "Wat het bureaublad leest"
 snelkoppeling="$root/usr/share/applications/murvane.desktop"
 desktop-file-validate "$snelkoppeling"
-appstreamcli validate --no-net --explain "$root/usr/share/metainfo/nl.murvane.MurVane.metainfo.xml" ||
+appstreamcli validate --no-net --pedantic --explain "$root/usr/share/metainfo/nl.murvane.murvane.metainfo.xml" ||
   mis "de metagegevens zijn niet in orde"
 update-mime-database "$root/usr/share/mime" 2>"$werk/mime.txt" || mis "$(cat "$werk/mime.txt")"
 grep -qx '50:application/x-murvane:\*.mrv' "$root/usr/share/mime/globs2" || mis "*.mrv is niet bekend"
