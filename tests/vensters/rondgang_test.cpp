@@ -55,9 +55,14 @@
 #include "shell/frmSplashII.h"
 #include "tests/hulp/bestanden.h"
 #include "tests/hulp/script.h"
+#include "tests/vensters/beeld.h"
 
 namespace murvane {
 namespace {
+
+using proef::Donker;
+using proef::HoogContrast;
+using proef::Thema;
 
 const std::filesystem::path Data = std::filesystem::path(MURVANE_BRON) / "data";
 
@@ -876,38 +881,6 @@ void ControleerFocus(QWidget& venster) {
 // What has no picture of its own has the same controls with other texts.
 TEST(Rondgang, TheFocusShows) {
   Bezoek([](Wereld&, QWidget& venster) { ControleerFocus(venster); }, EnkeleFotos());
-}
-
-/// A theme that the user has chosen for the whole system.
-class Thema {
- public:
-  explicit Thema(const QPalette& palet) : was_(QApplication::palette()) {
-    QApplication::setPalette(palet);
-    QCoreApplication::processEvents();
-  }
-  Thema(const Thema&) = delete;
-  Thema& operator=(const Thema&) = delete;
-  ~Thema() { QApplication::setPalette(was_); }
-
- private:
-  QPalette was_;
-};
-
-/// Light letters on a dark ground.
-QPalette Donker() {
-  QPalette palet(QColor(45, 45, 48));
-  palet.setColor(QPalette::Base, QColor(30, 30, 30));
-  palet.setColor(QPalette::Highlight, QColor(70, 130, 200));
-  return palet;
-}
-
-/// White on black without a shade between them, and yellow for what is chosen.
-QPalette HoogContrast() {
-  QPalette palet(Qt::white, Qt::black, Qt::white, Qt::darkGray, Qt::gray, Qt::white, Qt::white, Qt::black,
-                 Qt::black);
-  palet.setColor(QPalette::Highlight, Qt::yellow);
-  palet.setColor(QPalette::HighlightedText, Qt::black);
-  return palet;
 }
 
 TEST(Rondgang, TheFocusShowsInADarkTheme) {
