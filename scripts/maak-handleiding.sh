@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Makes what follows from the pages in help/: trefwoorden.html (the data-index terms of the headings) and what the help
 # compiler needs: murvane.hhp, .hhc (the contents of index.html) and .hhk (the terms), in Windows-1252, as its viewer
-# reads them.
+# reads them. Letters outside ASCII in the pages become entities: some viewers of compiled help pass over the character
+# set that a page names.
 set -euo pipefail
 cd "$(dirname "$0")/../help"
 export LC_ALL=C.UTF-8
@@ -75,8 +76,16 @@ $(find beelden -name '*.png' | sort)
 EINDE
 }
 
+entiteiten() {
+  perl -CSD -i -pe '
+    BEGIN { %naam = (233, "eacute", 235, "euml", 239, "iuml", 243, "oacute", 246, "ouml", 215, "times", 178, "sup2",
+      179, "sup3", 8211, "ndash", 8250, "rsaquo", 916, "Delta", 945, "alpha", 952, "theta", 960, "pi", 8730, "radic") }
+    s/([^\x00-\x7F])/"&" . ($naam{ord $1} \/\/ "#" . ord $1) . ";"/ge' ./*.html
+}
+
 windows() { iconv -f UTF-8 -t WINDOWS-1252 | sed 's/$/\r/'; }
 trefwoordblad >trefwoorden.html
+entiteiten
 inhoud | windows >murvane.hhc
 trefwoorden | windows >murvane.hhk
 project | windows >murvane.hhp

@@ -43,6 +43,7 @@ using proef::Bladen;
 using proef::Gelezen;
 using proef::Merk;
 using proef::ZoekBlad;
+using proef::ZonderMerken;
 using testing::HasSubstr;
 
 const fs::path Help = fs::path(MURVANE_BRON) / "help";
@@ -89,14 +90,16 @@ TEST(Handleiding, EveryPageHasOneTitleAndNoHeadingThatSkipsALevel) {
   }
 }
 
-TEST(Handleiding, EveryPageIsDutchInUtf8WithoutScripts) {
+// Some viewers of compiled help pass over the character set that a page names.
+TEST(Handleiding, EveryPageIsDutchInAsciiWithEntitiesAndWithoutScripts) {
   for (const Blad& blad : Bladen()) {
     SCOPED_TRACE(blad.Bestand);
     EXPECT_THAT(blad.Html,
                 testing::StartsWith("<!DOCTYPE html>\n<html lang=\"nl\">\n<head>\n<meta charset=\"utf-8\">"));
     EXPECT_THAT(blad.Html, HasSubstr("<link rel=\"stylesheet\" href=\"stijl.css\">"));
     for (const Merk& merk : blad.Merken) EXPECT_NE(merk.Naam, "script");
-    EXPECT_NO_THROW(static_cast<void>(NaarCp1252Getoond(blad.Html)));
+    EXPECT_TRUE(std::ranges::all_of(blad.Html, [](char c) { return c > 0; }));
+    EXPECT_EQ(ZonderMerken(blad.Html).find('&'), std::string::npos);  // no entity that the tests do not know
   }
 }
 
