@@ -335,6 +335,9 @@ bool frmMurvane::GaNaar(const QString& naam) {
   }
   if (!doel->isVisibleTo(SSTab1) || !doel->isEnabled()) return false;
   doel->setFocus(Qt::OtherFocusReason);
+  // Whole also where the focus only comes once a message box has gone, or was here and a menu took the
+  // selection.
+  if (auto* const veld = qobject_cast<InvoerVeld*>(doel)) veld->selectAll();
   return true;
 }
 

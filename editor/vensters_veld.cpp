@@ -244,9 +244,20 @@ void Lijstvak::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void Lijstvak::keyPressEvent(QKeyEvent* event) {
   if (IsEnter(event->key())) return emit Toets(Qt::Key_Return);
+  if (event->key() == Qt::Key_Space && ZoektNog()) return keyboardSearch(event->text());  // names have blanks
   if (event->key() == Qt::Key_Space) return emit Geklikt(currentRow());  // also the row selected already
   if (event->key() == Qt::Key_Insert || event->key() == Qt::Key_Delete) return emit Toets(event->key());
   QListWidget::keyPressEvent(event);
+}
+
+void Lijstvak::keyboardSearch(const QString& tekens) {
+  gezocht_.start();
+  QListWidget::keyboardSearch(tekens);
+}
+
+/// Whether a character typed now still belongs to the name that is being typed.
+bool Lijstvak::ZoektNog() const {
+  return gezocht_.isValid() && gezocht_.elapsed() < QApplication::keyboardInputInterval();
 }
 
 /// The toolkit makes the first row current on entry; entering a list clicks no row.

@@ -4,6 +4,7 @@
 
 #include <QCalendarWidget>
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QItemSelectionModel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -117,11 +118,16 @@ class Lijstvak : public QListWidget {
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
+  /// Goes to the row that starts with what is being typed.
+  void keyboardSearch(const QString& tekens) override;
   [[nodiscard]] QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index,
                                                                      const QEvent* event) const override;
 
  private:
+  [[nodiscard]] bool ZoektNog() const;
+
   bool stil_ = false;
+  QElapsedTimer gezocht_;
 };
 
 /// A calendar that lies over other controls: it has a rim, which lights up while it has the focus.

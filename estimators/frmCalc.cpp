@@ -230,6 +230,7 @@ void frmCalc::cmdOK_Click() {
     if (const auto* const weigering = std::get_if<Weigering>(&uitslag)) {
       dialogen_.Toon(BoxVan(*weigering));
       Vak(weigering->Veld)->setFocus();
+      Vak(weigering->Veld)->selectAll();  // the focus only comes once the box has gone
       return;
     }
     uitkomst_ = std::get<Schatting>(uitslag);

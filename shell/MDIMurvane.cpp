@@ -89,6 +89,7 @@ MDIMurvane::MDIMurvane(Programma& programma, Dialogen& dialogen)
   MaakStatusbalk();
   connect(project_, &frmMurvane::ToestandGewijzigd, this, &MDIMurvane::ToonToestand);
   connect(project_, &frmMurvane::SluitVensters, this, &MDIMurvane::SluitVensters);
+  connect(gebied_, &QMdiArea::subWindowActivated, this, &MDIMurvane::NoemProject, Qt::QueuedConnection);
   project_->ToonGeenProject();
   ToonToestand();
 }
@@ -208,6 +209,16 @@ void MDIMurvane::VulVensterMenu(QMenu& menu) {
     actie->setChecked(kader == gebied_->activeSubWindow());
     connect(actie, &QAction::triggered, gebied_, [this, kader] { gebied_->setActiveSubWindow(kader); });
   }
+}
+
+/// The project's frame has no buttons in the menu bar, and the toolkit then drops its name from the main
+/// window's title once a window in front of it has closed. A name that changes is put into it again.
+void MDIMurvane::NoemProject() {
+  const QMdiSubWindow* const voor = gebied_->activeSubWindow();
+  if (voor == nullptr || voor->widget() != project_) return;
+  const QString naam = project_->windowTitle();
+  project_->setWindowTitle(" ");
+  project_->setWindowTitle(naam);
 }
 
 /// Starts the desktop's own calculator: the first one there is. That there is none is no matter.

@@ -11,9 +11,13 @@ namespace murvane::proef {
 namespace {
 
 constexpr std::pair<std::string_view, std::string_view> Entiteiten[] = {
-    {"&lt;", "<"},          {"&gt;", ">"},    {"&nbsp;", " "},      {"&minus;", "\u2212"},
-    {"&middot;", "\u00B7"}, {"&quot;", "\""}, {"&larr;", "\u2190"}, {"&rarr;", "\u2192"},
-    {"&#x27;", "'"},        {"&amp;", "&"}};
+    {"&lt;", "<"},          {"&gt;", ">"},          {"&nbsp;", " "},        {"&minus;", "\u2212"},
+    {"&middot;", "\u00B7"}, {"&quot;", "\""},       {"&larr;", "\u2190"},   {"&rarr;", "\u2192"},
+    {"&#x27;", "'"},        {"&eacute;", "\u00E9"}, {"&euml;", "\u00EB"},   {"&iuml;", "\u00EF"},
+    {"&oacute;", "\u00F3"}, {"&ouml;", "\u00F6"},   {"&times;", "\u00D7"},  {"&sup2;", "\u00B2"},
+    {"&sup3;", "\u00B3"},   {"&ndash;", "\u2013"},  {"&rsaquo;", "\u203A"}, {"&Delta;", "\u0394"},
+    {"&alpha;", "\u03B1"},  {"&theta;", "\u03B8"},  {"&pi;", "\u03C0"},     {"&radic;", "\u221A"},
+    {"&amp;", "&"}};
 
 std::string ZonderEntiteiten(std::string tekst) {
   for (const auto& [code, teken] : Entiteiten) {

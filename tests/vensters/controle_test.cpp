@@ -97,6 +97,16 @@ TEST_F(Controle, AMissingRoomValueGetsTheFocus) {
   }
 }
 
+// What is typed next replaces the value: behind a 0.0 it would be no number.
+TEST_F(Controle, TheFieldToFillInIsSelectedWhole) {
+  Open("kantoor.mrv", [this] { project.Ruimte.RAantal = 0; });
+  for (int keer = 1; keer <= 2; ++keer) {
+    Weigert("Aantal roosters niet ingevuld", Tab::Ruimtegegevens, -1, "txtRAantal");
+    EXPECT_EQ(Zoek<InvoerVeld>("txtRAantal")->selectedText(), "0") << keer;
+    Zoek<InvoerVeld>("txtRAantal")->deselect();  // as a menu leaves the field in hand
+  }
+}
+
 TEST_F(Controle, AMissingWallGetsTheFocus) {
   Open("plafond.mrv", [this] { project.Ruimte.RkanaalNaam = GeenKanaalwandTekst(); });
   ASSERT_EQ(project.Kop.RekenType, rekentype::Geluidsuitstraling);

@@ -103,6 +103,16 @@ TEST_F(SchatVensters, OpenWithZerosInTheFormatsOfTheFields) {
 }
 
 // The numbers are worked by hand where each estimator is tested.
+TEST_F(SchatVensters, TheFieldThatIsRefusedIsSelectedWhole) {
+  Open(Schatter::Bekleed);
+  Veld("Text1")->deselect();
+  script.Box(GeenGeldige);
+  Zoek<QPushButton>("cmdOK")->click();
+  script.IsKlaar();
+  EXPECT_EQ(Focus(), "Text1");
+  EXPECT_EQ(Veld("Text1")->selectedText(), "0");
+}
+
 TEST_F(SchatVensters, OKDeliversTheEstimateOfWhatWasTyped) {
   struct Rij {
     Schatter soort;

@@ -98,6 +98,23 @@ class Resultaatvensters : public testing::Test {
   Robot robot;
 };
 
+TEST_F(Resultaatvensters, TheTitleNamesTheProjectAgainWhenTheResultsAreClosed) {
+  const QString project = "MurVane - [versie 6.7 - MurVane]";
+  EXPECT_EQ(venster->windowTitle(), project);
+  for (const char* const opdracht : {"mnuReken", "mnuPreview"}) {
+    SCOPED_TRACE(opdracht);
+    if (programma.Project.ElementCount == 0)
+      Bereken("kantoor.mrv");
+    else
+      Actie(opdracht)->trigger();
+    EXPECT_EQ(venster->windowTitle(), "MurVane - [Berekeningsresultaten]");
+    Zoek<frmResultaat>("frmResultaat")->parentWidget()->close();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(venster->windowTitle(), project);
+  }
+}
+
 TEST_F(Resultaatvensters, TheResultWindowHasItsToolbarAboveTheText) {
   Bereken("kantoor.mrv");
   auto* const resultaat = Zoek<frmResultaat>("frmResultaat");

@@ -8,6 +8,7 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QRadioButton>
+#include <QScopeGuard>
 #include <QScrollBar>
 #include <QTabWidget>
 #include <QTextEdit>
@@ -70,6 +71,20 @@ TEST_F(Toetsenbord, SpaceClicksTheCurrentCatalogueRowSoThatInsertWorksTwice) {
     EXPECT_EQ(programma.Project.ElementCount, n);
     EXPECT_EQ(programma.Project.Elementen[1].ElementType, elementtype::KanaalRecht);
   }
+}
+
+// The names of the attenuators differ only behind their blanks.
+TEST_F(Toetsenbord, TypingANameWithBlanksGoesToItsRow) {
+  const int wachttijd = QApplication::keyboardInputInterval();
+  const auto weerZo = qScopeGuard([wachttijd] { QApplication::setKeyboardInputInterval(wachttijd); });
+  QApplication::setKeyboardInputInterval(60'000);  // a slow machine types slowly
+  Nieuw();
+  toetsen->NaarTab("Kanaalelementen");
+  toetsen->Naar("lstTotaal");
+  toetsen->Typ("kanaal ro");
+  EXPECT_EQ(Zoek<QListWidget>("lstTotaal")->currentItem()->text().trimmed(), "Kanaal rond");
+  toetsen->Druk(Qt::Key_Return);
+  EXPECT_EQ(programma.Project.Elementen[1].ElementType, elementtype::KanaalRond);
 }
 
 TEST_F(Toetsenbord, TheToolbarsWorkByTheSpaceBar) {
