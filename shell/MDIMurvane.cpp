@@ -486,7 +486,7 @@ void MDIMurvane::mnuOverspraak() {
 
 /// The manual, in the desktop's own viewer; that it does not open is not told.
 void MDIMurvane::mnuHelpFile() {
-  const std::filesystem::path pad = HandleidingIn(programma_.ProgrammaBestanden, HeeftHelpProgramma());
+  const std::filesystem::path pad = HandleidingIn(programma_.ProgrammaBestanden, HeeftHelpProgramma);
   if (!pad.empty()) QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(PadTekst(pad))));
 }
 
