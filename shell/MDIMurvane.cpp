@@ -507,6 +507,7 @@ void MDIMurvane::closeEvent(QCloseEvent* gebeurtenis) {
         Form_Unload(programma_, dialogen_, ProjectOpen(project_->DeSessie()), bewaarVeld) == Vervolg::Einde;
   }
   gebeurtenis->setAccepted(einde_);
+  if (einde_ && taakbalk_ != nullptr) taakbalk_->Icoontje()->hide();
 }
 
 }  // namespace murvane

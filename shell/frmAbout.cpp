@@ -2,6 +2,7 @@
 
 #include <QDesktopServices>
 #include <QDialogButtonBox>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -10,6 +11,7 @@
 
 #include "basis/bestand.h"
 #include "basis/vensters_hulp.h"
+#include "editor/vensters_tekening.h"
 #include "shell/info.h"
 #include "shell/vensters_verloop.h"
 #include "versie.h"
@@ -38,6 +40,13 @@ QLabel* Product(const std::string& tekst, QWidget* ouder) {
   return label;
 }
 
+QLabel* Beeldmerk(QWidget* ouder) {
+  auto* const label = new QLabel(ouder);
+  label->setAccessibleName("MurVane");
+  label->setPixmap(Icoon("murvane").pixmap(64, 64));
+  return label;
+}
+
 QPushButton* MailKnop(QWidget* ouder) {
   auto* const knop = new QPushButton(SteunAdres, ouder);
   knop->setObjectName("lblMail");
@@ -49,6 +58,9 @@ QPushButton* MailKnop(QWidget* ouder) {
   QPalette palet = knop->palette();
   palet.setColor(QPalette::ButtonText, QColor(0x9c, 0xc8, 0xf5));
   knop->setPalette(palet);
+  QFont letter = knop->font();
+  letter.setUnderline(true);
+  knop->setFont(letter);
   QObject::connect(knop, &QPushButton::clicked, knop,
                    [] { QDesktopServices::openUrl(QUrl(VanCp(MailAdres(SteunAdres)))); });
   return knop;
@@ -77,24 +89,24 @@ frmAbout::frmAbout(const Instellingen& instellingen, const std::filesystem::path
   const InfoTeksten info = InfoTekst(instellingen);
   setWindowTitle(VanCp(info.Titel));
   auto* const vlak = new VerloopVlak(InfoBegin, VerloopEinde, this);
-  auto* const boven = new QVBoxLayout(vlak);
-  boven->setContentsMargins(24, 20, 24, 16);
-  boven->setSpacing(12);
-  boven->addWidget(Product(info.Product, vlak));
-  boven->addWidget(Regels("lblOmschrijving", info.Omschrijving, vlak));
-  boven->addWidget(MailKnop(vlak), 0, Qt::AlignLeft);
-  auto* const knoppen = new QDialogButtonBox(QDialogButtonBox::Ok, this);
+  auto* const indeling = new QVBoxLayout(vlak);
+  indeling->setContentsMargins(24, 20, 24, 16);
+  indeling->setSpacing(Marge);
+  auto* const kop = new QHBoxLayout;
+  kop->setSpacing(2 * Marge);
+  kop->addWidget(Beeldmerk(vlak));
+  kop->addWidget(Product(info.Product, vlak), 1);
+  indeling->addLayout(kop);
+  indeling->addWidget(Regels("lblOmschrijving", info.Omschrijving, vlak));
+  indeling->addWidget(MailKnop(vlak), 0, Qt::AlignLeft);
+  indeling->addWidget(Levering(levering, dialogen, vlak), 1);
+  auto* const knoppen = new QDialogButtonBox(QDialogButtonBox::Ok, vlak);
   connect(knoppen, &QDialogButtonBox::accepted, this, &QDialog::accept);
-  auto* const indeling = new QVBoxLayout(this);
-  indeling->setContentsMargins(0, 0, 0, 0);
-  indeling->addWidget(vlak);
-  auto* const onder = new QVBoxLayout;
-  onder->setContentsMargins(16, 8, 16, 12);
-  onder->setSpacing(10);
-  onder->addWidget(Levering(levering, dialogen, this), 1);
-  onder->addWidget(knoppen);
-  indeling->addLayout(onder, 1);
-  resize(580, 480);
+  indeling->addWidget(knoppen);
+  auto* const geheel = new QVBoxLayout(this);
+  geheel->setContentsMargins(0, 0, 0, 0);
+  geheel->addWidget(vlak);
+  resize(600, 520);
   knoppen->button(QDialogButtonBox::Ok)->setFocus();
 }
 

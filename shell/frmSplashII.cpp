@@ -57,8 +57,14 @@ void frmSplashII::Toon() {
   if (const QScreen* const scherm = QGuiApplication::primaryScreen())
     move(scherm->availableGeometry().center() - rect().center());
   show();
+  activateWindow();                   // the window system gives a splash no keys by itself
   QCoreApplication::processEvents();  // it is drawn before the slow loading starts
   Timer1.start(SplashMs);
+}
+
+void frmSplashII::Daarna(QObject& ontvanger, const std::function<void()>& stap) {
+  if (voorbij_) return stap();
+  connect(this, &frmSplashII::Voorbij, &ontvanger, stap);
 }
 
 void frmSplashII::mousePressEvent(QMouseEvent* /*event*/) {

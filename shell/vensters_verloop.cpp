@@ -8,7 +8,7 @@ namespace murvane {
 VerloopVlak::VerloopVlak(Verloopkleur van, Verloopkleur naar, QWidget* ouder)
     : QWidget(ouder), van_(van), naar_(naar) {
   QPalette palet = palette();
-  for (const auto rol : {QPalette::WindowText, QPalette::Text, QPalette::Link, QPalette::LinkVisited})
+  for (const auto rol : {QPalette::WindowText, QPalette::Link, QPalette::LinkVisited})
     palet.setColor(rol, Qt::white);
   setPalette(palet);
 }

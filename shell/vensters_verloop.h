@@ -7,8 +7,8 @@
 
 namespace murvane {
 
-/// A widget whose background runs from one colour at the top to another at the bottom. What stands on it is
-/// light, whatever the theme.
+/// A widget whose background runs from one colour at the top to another at the bottom. A label that stands on
+/// it is light, whatever the theme; a box keeps the theme's colours.
 class VerloopVlak : public QWidget {
   Q_OBJECT
 
