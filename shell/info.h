@@ -64,13 +64,8 @@ inline constexpr std::string_view LeveringBestand = "levering.txt";
 // ---- The tray icon ----
 
 inline constexpr int TrayTipLengte = 64;
-inline constexpr int BerichtDubbelklik = 515;  ///< left button; every other message is ignored
 
 /// The tip of the icon: the program's title, a NUL, and blanks up to 64 characters.
 [[nodiscard]] std::string TrayTip();
-/// Whether a message of the icon opens its menu.
-[[nodiscard]] constexpr bool OpentTaakmenu(int bericht) {
-  return bericht == BerichtDubbelklik;
-}
 
 }  // namespace murvane
