@@ -20,17 +20,9 @@ namespace murvane {
 
 namespace {
 
-QLabel* Regels(const char* naam, const std::string& tekst, QWidget* ouder) {
-  auto* const label = new QLabel(VanCp(tekst).remove('\r'), ouder);
-  label->setObjectName(naam);
-  label->setWordWrap(true);
-  return label;
-}
-
 /// The user's name is made for a label: its "&" is doubled.
-QLabel* Product(const std::string& tekst, QWidget* ouder) {
-  QLabel* const label = Regels("lblProduct", tekst, ouder);
-  label->setTextFormat(Qt::PlainText);
+QLabel* Product(const std::string& tekst, VerloopVlak* ouder) {
+  QLabel* const label = ouder->MaakLabel("lblProduct", tekst);
   QFont letter = label->font();
   letter.setBold(true);
   label->setFont(letter);
@@ -97,7 +89,7 @@ frmAbout::frmAbout(const Instellingen& instellingen, const std::filesystem::path
   kop->addWidget(Beeldmerk(vlak));
   kop->addWidget(Product(info.Product, vlak), 1);
   indeling->addLayout(kop);
-  indeling->addWidget(Regels("lblOmschrijving", info.Omschrijving, vlak));
+  indeling->addWidget(vlak->MaakLabel("lblOmschrijving", info.Omschrijving));
   indeling->addWidget(MailKnop(vlak), 0, Qt::AlignLeft);
   indeling->addWidget(Levering(levering, dialogen, vlak), 1);
   auto* const knoppen = new QDialogButtonBox(QDialogButtonBox::Ok, vlak);

@@ -14,11 +14,8 @@ namespace murvane {
 
 namespace {
 
-QLabel* Regel(const char* naam, const std::string& tekst, double factor, bool vet, QWidget* ouder) {
-  auto* const label = new QLabel(VanCp(tekst).remove('\r'), ouder);
-  label->setObjectName(naam);
-  label->setTextFormat(Qt::PlainText);
-  label->setWordWrap(true);
+QLabel* Regel(const char* naam, const std::string& tekst, double factor, bool vet, VerloopVlak* ouder) {
+  QLabel* const label = ouder->MaakLabel(naam, tekst);
   QFont letter = label->font();
   letter.setPointSizeF(letter.pointSizeF() * factor);
   letter.setBold(vet);

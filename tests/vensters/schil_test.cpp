@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QSystemTrayIcon>
 #include <QTest>
@@ -122,6 +123,7 @@ TEST_F(Schil, TheNotesKeepTheColoursOfTheTheme) {
   const auto& levering = *info.findChild<QPlainTextEdit*>("txtLevering");
   for (const auto rol : {QPalette::Text, QPalette::Base})
     EXPECT_EQ(levering.palette().color(rol), QApplication::palette().color(rol));
+  EXPECT_EQ(levering.verticalScrollBar()->palette(), QApplication::palette()) << "its arrows are drawn in it";
   for (const char* const naam : {"lblProduct", "lblOmschrijving"})
     EXPECT_EQ(info.findChild<QLabel*>(naam)->palette().color(QPalette::WindowText), QColor(Qt::white));
 }
