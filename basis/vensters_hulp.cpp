@@ -36,6 +36,8 @@ void ZetAchtergrond(QWidget& veld, std::uint32_t bgr) {
   palet.setColor(QPalette::Base, KleurVan(bgr));
   palet.setColor(QPalette::Text, Qt::black);
   palet.setColor(QPalette::PlaceholderText, QColor(90, 90, 90));
+  palet.setColor(QPalette::Highlight, QColor(31, 95, 168));
+  palet.setColor(QPalette::HighlightedText, Qt::white);
   veld.setPalette(palet);
 }
 
@@ -44,6 +46,14 @@ QLabel* MaakLabel(const QString& tekst, const QString& naam, QWidget* buddy, QWi
   label->setObjectName(naam);
   label->setBuddy(buddy);
   return label;
+}
+
+void ZetUitleg(QWidget& venster, std::span<const Uitleg> uitleg) {
+  for (const auto& [naam, tekst] : uitleg) {
+    auto* const vak = venster.findChild<QWidget*>(naam);
+    if (vak == nullptr) throw Fout(FoutNummer::OngeldigArgument);
+    vak->setAccessibleDescription(tekst);
+  }
 }
 
 void KleurVoortgang(QProgressBar& balk) {

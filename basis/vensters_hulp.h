@@ -4,6 +4,7 @@
 #include <QColor>
 #include <QString>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -22,7 +23,8 @@ namespace murvane {
 /// The colour of a blue-green-red number.
 [[nodiscard]] QColor KleurVan(std::uint32_t bgr);
 
-/// Gives a field a fixed light background with dark text on it, whatever the theme.
+/// Gives a field a fixed light background with dark text on it, and colours of a selection to match, whatever
+/// the theme.
 void ZetAchtergrond(QWidget& veld, std::uint32_t bgr);
 
 /// Pixels around the content of a window, and between its parts.
@@ -31,6 +33,15 @@ inline constexpr int Ruimte = 8;
 
 /// The label of a control, which is its buddy.
 [[nodiscard]] QLabel* MaakLabel(const QString& tekst, const QString& naam, QWidget* buddy, QWidget* ouder);
+
+/// What a control does, for a screen reader; in UTF-8.
+struct Uitleg {
+  const char* Naam;  ///< of the control, as the window names it
+  const char* Tekst;
+};
+
+/// Gives the controls of a window their accessible descriptions. Fout 5 for a name that the window lacks.
+void ZetUitleg(QWidget& venster, std::span<const Uitleg> uitleg);
 
 /// The colours of every progress bar: dark grey on light grey, whatever the theme.
 void KleurVoortgang(QProgressBar& balk);

@@ -35,6 +35,8 @@ class LuiIcoon final : public QIconEngine {
   QStyle::StandardPixmap welke_;
 };
 
+constexpr double RingZichtbaar = 1.5;  ///< contrast
+constexpr double ZwartWit = 20.5;      ///< nearly that of black and white, which is 21
 constexpr double LeesbaarVanaf = 4.0;  ///< somewhat under what WCAG 2.1 asks of text that is not disabled
 
 double Lineair(double deel) {
@@ -43,12 +45,6 @@ double Lineair(double deel) {
 
 double Helderheid(const QColor& kleur) {
   return 0.2126 * Lineair(kleur.redF()) + 0.7152 * Lineair(kleur.greenF()) + 0.0722 * Lineair(kleur.blueF());
-}
-
-QColor Meng(const QColor& voor, const QColor& achter, double deel) {
-  const auto meng = [deel](int a, int b) { return static_cast<int>(std::lround(a * deel + b * (1 - deel))); };
-  return {meng(voor.red(), achter.red()), meng(voor.green(), achter.green()),
-          meng(voor.blue(), achter.blue())};
 }
 
 /// The palest blend of two colours that can be read on the second.
@@ -72,6 +68,24 @@ void Ring(QPainter& schilder, const QRect& plek, const QColor& kleur, int dikte)
   const double half = dikte / 2.0;
   schilder.drawRect(QRectF(plek).adjusted(half, half, -half, -half));
   schilder.restore();
+}
+
+/// The ring of a field, whose ground may be of the ring's own colour.
+QColor Ringkleur(const QPalette& vak) {
+  const QColor ring = Ringkleur();
+  return Contrast(ring, vak.color(QPalette::Base)) >= RingZichtbaar ? ring : vak.color(QPalette::Text);
+}
+
+/// A theme of black and white, in which the style's own shades and outlines are lost.
+bool IsHoogContrast(const QPalette& palet) {
+  return Contrast(palet.color(QPalette::WindowText), palet.color(QPalette::Window)) >= ZwartWit;
+}
+
+/// What has no outline of its own in such a theme.
+bool HeeftOmtrek(QStyle::PrimitiveElement deel, const QStyleOption& optie) {
+  const bool knop = deel == QStyle::PE_PanelButtonTool && !(optie.state & QStyle::State_AutoRaise);
+  return knop || deel == QStyle::PE_PanelButtonCommand || deel == QStyle::PE_FrameTabWidget ||
+         deel == QStyle::PE_Frame;
 }
 
 /// A box to tick is as dark as its ground in a dark theme: its outline makes it seen.
@@ -113,6 +127,12 @@ class Themavolger : public QObject {
 
 }  // namespace
 
+QColor Meng(const QColor& voor, const QColor& achter, double deel) {
+  const auto meng = [deel](int a, int b) { return static_cast<int>(std::lround(a * deel + b * (1 - deel))); };
+  return {meng(voor.red(), achter.red()), meng(voor.green(), achter.green()),
+          meng(voor.blue(), achter.blue())};
+}
+
 double Contrast(const QColor& een, const QColor& ander) {
   const double a = Helderheid(een);
   const double b = Helderheid(ander);
@@ -128,6 +148,9 @@ QPalette Leesbaar(QPalette palet) {
     const QColor kleur = Flets(palet.color(QPalette::Active, tekst), palet.color(QPalette::Active, grond));
     palet.setColor(QPalette::Disabled, tekst, kleur);
   }
+  const QColor keuze = palet.color(QPalette::Disabled, QPalette::Highlight);
+  const bool opLicht = Contrast(Qt::black, keuze) > Contrast(Qt::white, keuze);
+  palet.setColor(QPalette::Disabled, QPalette::HighlightedText, opLicht ? Qt::black : Qt::white);
   return palet;
 }
 
@@ -145,7 +168,14 @@ void Stijl::drawPrimitive(PrimitiveElement deel, const QStyleOption* optie, QPai
                           const QWidget* vak) const {
   if (deel != PE_FrameFocusRect) {
     QProxyStyle::drawPrimitive(deel, optie, schilder, vak);
-    return Omtrek(*schilder, deel, *optie);
+    Omtrek(*schilder, deel, *optie);
+    const bool focus = optie->state & State_HasFocus;
+    const QPalette& palet = QApplication::palette();
+    if (HeeftOmtrek(deel, *optie) && IsHoogContrast(palet))
+      Ring(*schilder, optie->rect, focus ? Ringkleur() : palet.color(QPalette::WindowText), focus ? 2 : 1);
+    if (deel == PE_PanelLineEdit && focus && Ringkleur(optie->palette) != Ringkleur())
+      Ring(*schilder, optie->rect.adjusted(1, 1, -1, -1), Ringkleur(optie->palette), 2);
+    return;
   }
   const auto* const lijst = qobject_cast<const QAbstractItemView*>(vak);
   if (lijst != nullptr && lijst->frameShape() != QFrame::NoFrame) return;  // its frame shows the ring
@@ -157,8 +187,11 @@ void Stijl::drawControl(ControlElement deel, const QStyleOption* optie, QPainter
   QProxyStyle::drawControl(deel, optie, schilder, vak);
   if (deel == CE_TabBarTabLabel && (optie->state & State_HasFocus))
     return Ring(*schilder, optie->rect.adjusted(4, 4, -4, -3), Ringkleur(), 2);
+  constexpr State Toets = State_HasFocus | State_KeyboardFocusChange;
+  if (deel == CE_PushButton && (optie->state & Toets) == Toets)  // a default button looks focused always
+    return Ring(*schilder, optie->rect.adjusted(3, 3, -3, -3), Ringkleur(), 2);
   if (deel != CE_ShapedFrame || !IsSchuifvak(vak) || !(optie->state & State_HasFocus)) return;
-  Ring(*schilder, optie->rect, Ringkleur(), 1 + Ringruimte);
+  Ring(*schilder, optie->rect, Ringkleur(vak->palette()), 1 + Ringruimte);
 }
 
 QIcon Stijl::standardIcon(StandardPixmap welke, const QStyleOption* optie, const QWidget* vak) const {

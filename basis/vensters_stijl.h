@@ -37,6 +37,9 @@ class Stijl : public QProxyStyle {
 /// Room that a scrolling control leaves inside its frame for the ring.
 inline constexpr int Ringruimte = 1;
 
+/// A colour between two: `deel` (0 to 1) of the first.
+[[nodiscard]] QColor Meng(const QColor& voor, const QColor& achter, double deel);
+
 /// The contrast of two colours as the eye takes it: from 1 for the same ones to 21 for black on white.
 [[nodiscard]] double Contrast(const QColor& een, const QColor& ander);
 

@@ -29,6 +29,18 @@ namespace murvane {
 
 namespace {
 
+constexpr auto Uitleggen = std::to_array<Uitleg>({
+    {"lstSpectrum", "Een rij kiezen toont de waarden ernaast."},
+    {"txtSpectrum", "De naam in de lijst, van ten hoogste 80 tekens."},
+    {"cmdOK", "Neemt de invoer in de lijst op."},
+    {"cmdCancel", "Laat de lijst zoals hij was."},
+    {"cmdToevoegen", "Maakt een nieuwe rij in de lijst."},
+    {"cmdwijzig", "Wijzigt de gekozen rij."},
+    {"cmdWissen", "Wist de gekozen rij, na een vraag."},
+    {"cmdSluiten", "Slaat de lijst op in zijn bestand en sluit het venster."},
+    {"ProgressBar1", "Telt de rijen van het overzicht."},
+});
+
 Schatter SchatterVan(std::string_view venster) {
   for (const Schatter soort :
        {Schatter::Bekleed, Schatter::KwartLambda, Schatter::Plenum, Schatter::Kanaalwand})
@@ -70,6 +82,7 @@ frmOnderhoud::frmOnderhoud(CatalogusSoort soort, OnderhoudOmgeving omgeving, QWi
   indeling->addLayout(midden, 1);
   indeling->addWidget(BouwStatusbalk());
   resize(980, 520);
+  ZetUitleg(*this, Uitleggen);
   VulLijst();
   ToonVelden();
   ToonToestand();
@@ -268,7 +281,7 @@ void frmOnderhoud::ToonVelden() {
 void frmOnderhoud::ToonVak(InvoerVeld& vak) {
   const OnderhoudVak& veld = VakVan(vak.Veld());
   if (vak.text() != VanCp(veld.Tekst)) vak.setText(VanCp(veld.Tekst));
-  vak.setToolTip(VanCp(veld.ToolTip));
+  if (vak.toolTip() != VanCp(veld.ToolTip)) vak.setToolTip(VanCp(veld.ToolTip));
   vak.ZetKleur(veld.Achtergrond);
 }
 

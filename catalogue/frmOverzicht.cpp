@@ -50,6 +50,7 @@ frmOverzicht::frmOverzicht(OverzichtUitslag overzicht, Dialogen& dialogen, QWidg
   txtOverzicht = new QPlainTextEdit(this);
   txtOverzicht->setObjectName("txtOverzicht");
   txtOverzicht->setAccessibleName(windowTitle());
+  txtOverzicht->setAccessibleDescription("Alleen ter inzage; de tekst kan worden gekopieerd.");
   txtOverzicht->setReadOnly(true);
   txtOverzicht->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   txtOverzicht->setLineWrapMode(QPlainTextEdit::NoWrap);
@@ -76,6 +77,7 @@ QToolButton* frmOverzicht::MaakKnop(const char* sleutel, const QString& tekst, c
   knop->setText(tekst);
   knop->setAccessibleName(tekst);
   knop->setToolTip(toolTip);
+  knop->setAccessibleDescription(toolTip);
   knop->setIcon(Icoon(icoon, palette()));
   knop->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   knop->setFocusPolicy(Qt::TabFocus);

@@ -91,7 +91,7 @@ void Lees(SpectrumCatalogus& catalogus, const std::filesystem::path& pad) {
 }
 
 CatalogusInhoud LeesCatalogusJson(const std::string& naam) {
-  return OverBestand(naam, [&naam] { return CatalogusUitJson(LeesBestand(PadVan(naam))); });
+  return OverBestand(naam, [&naam] { return CatalogusUitJson(LeesJsonVan(naam)); });
 }
 
 std::string Bytes(const CatalogusInhoud& catalogus, const std::string& naam) {

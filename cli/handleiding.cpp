@@ -373,6 +373,10 @@ Hulpkop Eindstatus() {
           {{"0", "klaar"}, {"1", "fout"}, {"2", "afgekeurd door de controle"}, {"64", "verkeerd gebruik"}}};
 }
 
+Hulpregel EigenGegevensmap() {
+  return {"XDG_DATA_HOME", "waar de eigen gegevensmap murvane staat; zonder deze variabele ~/.local/share"};
+}
+
 Hulpkop Gegevensbestanden() {
   return {
       "BESTANDEN",
@@ -430,6 +434,7 @@ Hulpprogramma HulpVanCli() {
   for (const OpdrachtRegel& regel : Opdrachten)
     if (regel.Code == Opdracht::Programma || !regel.Naam.empty()) uit.Opdrachten.push_back(VanRegel(regel));
   uit.Koppen = {Eindstatus(),
+                {"OMGEVING", {EigenGegevensmap()}},
                 Gegevensbestanden(),
                 {"VOORBEELDEN",
                  {{"murvane-cli reken kantoor.mrv", "het rapport op de standaarduitvoer"},
@@ -444,7 +449,7 @@ Hulpprogramma HulpVanDruk() {
   Hulpprogramma uit{"murvane-druk",
                     "zet het berekeningsformulier van een project in een PDF-bestand",
                     {VanRegel(RegelVan(Opdracht::Druk))},
-                    {Eindstatus(), Gegevensbestanden()},
+                    {Eindstatus(), {"OMGEVING", {EigenGegevensmap()}}, Gegevensbestanden()},
                     {"murvane", "murvane-cli"}};
   return uit;
 }
@@ -468,7 +473,7 @@ Hulpprogramma HulpVanMurvane() {
         {"MURVANE_ROOKPROEF=1",
          "start het programma in zijn geheel, opent het project en eindigt: met status 0 als er niets "
          "te melden was, anders met 1"},
-        {"XDG_DATA_HOME", "waar de eigen gegevensmap murvane staat; zonder deze variabele ~/.local/share"}}},
+        EigenGegevensmap()}},
       Gegevensbestanden()};
   uit.ZieOok = {"murvane-cli", "murvane-druk"};
   return uit;

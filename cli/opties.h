@@ -215,9 +215,9 @@ inline constexpr std::array Opties = {
     OptieRegel{Optie::FanVermogen, Bij({Opdracht::SchatVentilator}), "--FanVermogen", "W", false,
                "asvermogen; bij 0 wordt het berekend met een rendement van 70 %"},
     OptieRegel{Optie::Data, BijAlle, "--data", "MAP", false,
-               "de map van murvane.set; zonder deze optie de huidige map als die er een heeft, anders de map "
-               "data van "
-               "het programma"},
+               "de map van murvane.set en de catalogi; zonder deze optie de huidige map als die een "
+               "murvane.set heeft, anders de "
+               "eigen gegevensmap van de gebruiker als die er is, anders de meegeleverde map data"},
     OptieRegel{Optie::Decimaal, BijAlle, "--decimaal", "punt|komma", false,
                "het decimaalteken in rapporten en schattingen; zonder deze optie dat van de landinstelling",
                "punt|komma"},

@@ -25,7 +25,7 @@ Uitslag Controleer(const std::string& naam, char decimaal, Kanalen& kanalen) {
 }
 
 Project LeesProjectJson(const std::string& naam) {
-  return OverBestand(naam, [&naam] { return ProjectUitJson(LeesBestand(PadVan(naam))); });
+  return OverBestand(naam, [&naam] { return ProjectUitJson(LeesJsonVan(naam)); });
 }
 
 }  // namespace

@@ -19,6 +19,13 @@ Project LeesProjectVan(const std::string& naam) {
   return LeesProject(PadVan(naam));
 }
 
+std::string LeesJsonVan(const std::string& naam) {
+  std::string json = LeesBestand(PadVan(naam), GrootsteJson + 1);
+  if (json.size() > GrootsteJson)
+    throw Fout(FoutNummer::PadToegang, "Het bestand is te groot voor een project of catalogus", {}, naam);
+  return json;
+}
+
 void SchrijfNaar(const std::string& naam, std::string_view bytes, Kanalen& kanalen) {
   if (naam == Standaarduitvoer) {
     kanalen.uit << bytes;

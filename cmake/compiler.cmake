@@ -17,6 +17,9 @@ else()
     target_compile_options(murvane-opties INTERFACE -Wno-restrict)
   endif()
 endif()
+if(WIN32)  # windows.h without its macros min and max, and without what is rarely used
+  target_compile_definitions(murvane-opties INTERFACE NOMINMAX=1 WIN32_LEAN_AND_MEAN)
+endif()
 if(MURVANE_SANITIZERS OR MURVANE_FUZZ)
   target_compile_options(murvane-opties INTERFACE
     -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)

@@ -18,6 +18,7 @@
 
 #include "basis/tekst.h"
 #include "basis/vensters_hulp.h"
+#include "basis/vensters_stijl.h"
 #include "editor/validate.h"
 #include "editor/vensters_tekening.h"
 #include "editor/vensters_veld.h"
@@ -70,10 +71,12 @@ void KleurLijst(Lijstvak& vak, bool actief) {
   QPalette palet;
   vak.setPalette(palet);
   if (actief) return ZetAchtergrond(vak, ActieveKleur);
-  palet.setColor(QPalette::Base, palet.color(QPalette::Button));
-  palet.setColor(QPalette::Text, palet.color(QPalette::ButtonText));
-  palet.setColor(QPalette::Highlight, palet.color(QPalette::Mid));  // its row is not what the buttons act on
-  palet.setColor(QPalette::HighlightedText, palet.color(QPalette::ButtonText));
+  const QColor letters = palet.color(QPalette::ButtonText);
+  const QColor grond = palet.color(QPalette::Button);
+  palet.setColor(QPalette::Base, grond);
+  palet.setColor(QPalette::Text, letters);
+  palet.setColor(QPalette::Highlight, Meng(letters, grond, 0.2));  // its row is not what the buttons act on
+  palet.setColor(QPalette::HighlightedText, letters);
   vak.setPalette(palet);
 }
 

@@ -42,6 +42,29 @@ constexpr auto KnopTeksten = std::to_array<KnopTekst>({
     {"Up", "Omhoog", "omhoog"},
 });
 
+/// What the controls do that are no input fields.
+constexpr auto Uitleggen = std::to_array<Uitleg>({
+    {"optInvoer", "Het geluidsvermogen komt uit de lijst ventilatoren."},
+    {"optPrognose", "Het geluidsvermogen wordt geschat uit debiet, drukverlies en type."},
+    {"lstFan", "Een rij kiezen neemt naam en geluidsvermogen van die ventilator over."},
+    {"optAxiaal", "Type ventilator van de prognose."},
+    {"optCentriVoor", "Type ventilator van de prognose."},
+    {"optCentriAchter", "Type ventilator van de prognose."},
+    {"cmdFanOK", "Berekent de prognose van het geluidsvermogen."},
+    {"cmdFanCancel", "Gaat terug naar de ventilator uit de lijst."},
+    {"lblLwA", "A-gewogen som van de banden."},
+    {"lstTotaal",
+     "Enter voegt het gekozen element achteraan het project toe, Insert voor het gekozen element."},
+    {"lstProject", "De keten van ventilator tot vertrek. Enter opent het gekozen element, Delete wist het."},
+    {"cmbKanaal", "Een wand uit de lijst luchtkanalen, met zijn isolatie tegen instraling."},
+    {"Tekening", "De maten van het element; die van het veld in bewerking is geaccentueerd."},
+    {"VrijVeld", "De bron staat in het vrije veld: afmetingen en nagalmtijd van het vertrek doen niet mee."},
+    {"cmbRkanaal", "Een wand uit de lijst luchtkanalen, met zijn geluidsisolatie."},
+    {"cmbRplafond", "Een plafond uit de lijst plafonds, met zijn geluidsisolatie."},
+    {"TekeningRuimte", "De maten van het vertrek; die van het veld in bewerking is geaccentueerd."},
+    {"Image1", "Kiest de datum met een kalender."},
+});
+
 const KnopTekst& TekstVanKnop(std::string_view sleutel) {
   for (const KnopTekst& knop : KnopTeksten) {
     if (knop.Sleutel == sleutel) return knop;
@@ -154,14 +177,17 @@ void frmMurvane::BouwOp() {
   SSTab1 = new QTabWidget(this);
   SSTab1->setObjectName("SSTab1");
   SSTab1->setAccessibleName("Invoer van het project");
+  SSTab1->tabBar()->setAccessibleDescription("Ctrl+Page Down en Ctrl+Page Up gaan van blad naar blad.");
   SSTab1->tabBar()->installEventFilter(this);
   indeling->addWidget(SSTab1, 1);
   leeg_ = new Tekening(this);
   leeg_->setObjectName("TekeningLeeg");
+  leeg_->setAccessibleDescription("Er is geen project open.");
   indeling->addWidget(leeg_, 1);
   ProgressBar1 = new QProgressBar(this);
   ProgressBar1->setObjectName("ProgressBar1");
   ProgressBar1->setAccessibleName("Voortgang van de berekening");
+  ProgressBar1->setAccessibleDescription("Telt de berekende kanaalelementen.");
   KleurVoortgang(*ProgressBar1);
   indeling->addWidget(ProgressBar1);
 }
@@ -178,6 +204,7 @@ void frmMurvane::BouwTabs() {
   VerbindLijsten();
   VerbindKeuzes();
   ZetIconen();
+  ZetUitleg(*this, Uitleggen);
 }
 
 QWidget* frmMurvane::BouwVentilator() {
@@ -418,7 +445,8 @@ QWidget* frmMurvane::BouwRuimte() {
   VoegVeld(maten, 2, {"txtRHoogte"}, "Hoogte vertrek", "m", "lblruimte");
   VoegVeld(maten, 3, {"txtRNagalm"}, "Nagalmtijd", "s", "lblruimte");
   VoegVeld(maten, 4, {"txtRNR"}, "Toelaatbaar geluidsniveau", "dB(A)", "lblruimte");
-  VoegVeld(maten, 5, {"txtRDI"}, "Richtingsfactor", "1, 2, 4 of 8", "lblruimte");
+  VoegVeld(maten, 5, {"txtRDI"}, "Richtingsfactor", "1, 2, 4 of 8", "lblruimte")
+      ->setAccessibleName("Richtingsfactor: 1, 2, 4 of 8");
   VoegVeld(maten, 6, {"txtRAantal"}, "Aantal roosters", "stuks", "lblruimte");
   ruimteTekening_ = new Tekening(blad);
   ruimteTekening_->setObjectName("TekeningRuimte");
@@ -469,6 +497,7 @@ void frmMurvane::BouwKalender() {
   MonthView = new Kalender(SSTab1->widget(static_cast<int>(Tab::Projectgegevens)));
   MonthView->setObjectName("MonthView");
   MonthView->setAccessibleName("Kalender");
+  MonthView->setAccessibleDescription("Enter neemt de dag over, Escape sluit de kalender.");
   MonthView->installEventFilter(this);
   MonthView->hide();
   connect(MonthView, &QCalendarWidget::clicked, this, &frmMurvane::MonthView_DateClick);

@@ -126,6 +126,13 @@ Validatie ValiDateDatum(std::string_view tekst, std::string_view vandaag) {
   return Geldig(std::string(werk));
 }
 
+std::string GetalUitleg(const VeldRegel& regel) {
+  const std::string bereik =
+      "etal van " + Opmaak(regel.Onder, Heel, ',') + " t/m " + Opmaak(regel.Boven, Heel, ',');
+  if (regel.Weergave == Heel) return "Geheel g" + bereik + ".";
+  return "G" + bereik + (regel.Weergave == Een ? " met 1 decimaal." : " met 2 decimalen.");
+}
+
 /// The name of a rule without the index that some have.
 constexpr std::string_view Reeksnaam(std::string_view naam) {
   return naam.substr(0, naam.find('('));
@@ -207,6 +214,15 @@ int MaxTekens(const VeldRegel& regel) {
   const bool tachtig = std::holds_alternative<murvane::Tekst<80> ProjectRec::*>(regel.Record) ||
                        std::holds_alternative<murvane::Tekst<80> FanRec::*>(regel.Record);
   return tachtig ? 80 : 0;
+}
+
+std::string RegelUitleg(const VeldRegel& regel) {
+  if (regel.AlleenLezen) return "Alleen ter inzage.";
+  if (regel.Soort == Datum) return "Datum als dd-mm-jjjj; leeg is vandaag.";
+  if (regel.Soort == Numeriek) return GetalUitleg(regel);
+  if (regel.Aantal > 0) return "Getal.";  // a band that is not clamped
+  const int tekens = MaxTekens(regel);
+  return tekens == 0 ? "Tekst." : "Tekst van ten hoogste " + std::to_string(tekens) + " tekens.";
 }
 
 Validatie ValiDate(std::string_view tekst, const VeldRegel& regel, std::string_view vandaag, char decimaal) {

@@ -81,6 +81,9 @@ struct Toets {
 /// The most characters that a text field's record holds; 0 for a field without such a limit.
 [[nodiscard]] int MaxTekens(const VeldRegel& regel);
 
+/// What may be typed in a field, in a sentence for who does not see its box; Windows-1252.
+[[nodiscard]] std::string RegelUitleg(const VeldRegel& regel);
+
 /// What became of a field's text.
 struct Validatie {
   bool Geldig = true;

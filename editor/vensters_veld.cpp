@@ -98,6 +98,7 @@ InvoerVeld::InvoerVeld(VeldId veld, const VeldRegel& regel, const QString& naam,
   if (const int meest = MaxTekens(regel_); meest > 0) setMaxLength(meest);
   if (regel_.Soort == VeldSoort::Numeriek || regel_.Aantal > 0) setAlignment(Qt::AlignRight);
   setReadOnly(regel_.AlleenLezen);
+  Beschrijf();
   ZetAchtergrond(*this, kleur_);
 }
 
@@ -105,6 +106,17 @@ void InvoerVeld::ZetKleur(std::uint32_t bgr) {
   if (bgr == kleur_) return;
   kleur_ = bgr;
   ZetAchtergrond(*this, bgr);
+}
+
+void InvoerVeld::Beschrijf() {
+  const QString wat = VanCp(RegelUitleg(regel_));
+  setAccessibleDescription(toolTip().isEmpty() ? wat : toolTip() + ". " + wat);
+}
+
+/// The tool tip says what is wrong with the text.
+bool InvoerVeld::event(QEvent* event) {
+  if (event->type() == QEvent::ToolTipChange) Beschrijf();
+  return QLineEdit::event(event);
 }
 
 void InvoerVeld::keyPressEvent(QKeyEvent* event) {

@@ -21,7 +21,8 @@ namespace murvane {
 /// The object name of a field: an element of an array adds its index.
 [[nodiscard]] QString ObjectNaam(VeldId veld);
 
-/// An input field: it swallows the characters that its rule refuses, and selects its text on entry.
+/// An input field: it swallows the characters that its rule refuses, and selects its text on entry. Its
+/// accessible description says what may be typed, behind what is wrong with the text that it holds.
 class InvoerVeld : public QLineEdit {
   Q_OBJECT
 
@@ -42,6 +43,7 @@ class InvoerVeld : public QLineEdit {
   void Escape();
 
  protected:
+  bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
@@ -52,6 +54,8 @@ class InvoerVeld : public QLineEdit {
   const VeldRegel& regel_;
   std::uint32_t kleur_ = VeldKleur;
   bool kiesAlles_ = false;
+
+  void Beschrijf();
 };
 
 /// Seven fields of an array, band 63 first, under the bands' captions.

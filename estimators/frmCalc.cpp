@@ -21,6 +21,13 @@ namespace murvane {
 
 namespace {
 
+constexpr auto Uitleggen = std::to_array<Uitleg>({
+    {"cmdOK", "Neemt de schatting over in de invoer van de lijst."},
+    {"cmdCancel", "Sluit het venster zonder schatting."},
+    {"Tekening", "De maten van de schatting; die van het veld in bewerking is geaccentueerd."},
+    {"Staven", "Verandert mee met de invoer."},
+});
+
 QPushButton* MaakKnop(const char* naam, const QString& tekst, QWidget* ouder) {
   auto* const knop = new QPushButton(tekst, ouder);
   knop->setObjectName(naam);
@@ -68,6 +75,7 @@ void frmCalc::BouwOp() {
   indeling->addLayout(boven, 1);
   indeling->addWidget(BouwVoorproef());
   indeling->addWidget(BouwKnoppen());
+  ZetUitleg(*this, Uitleggen);
 }
 
 QWidget* frmCalc::BouwInvoer() {
@@ -94,6 +102,7 @@ QWidget* frmCalc::BouwMaterialen() {
   for (const KanaalSoort& soort : KanaalSoorten) {
     auto* const optie = new Optieknop(VanCp(soort.Caption), vak);
     optie->setObjectName(VanCp(soort.Naam));
+    optie->setAccessibleDescription("Materiaal van de kanaalwand.");
     groep->addButton(optie, soort.KanaalType);
     indeling->addWidget(optie);
   }

@@ -33,7 +33,8 @@ else()
   set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
   # The toolkit's own texts are Dutch by these; the drawings are read by a library that the linker names.
   set(CPACK_DEBIAN_PACKAGE_DEPENDS qt6-translations-l10n)
-  set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-dejavu-core, qt6-wayland")
+  # The printed form is laid out for the first's metrics; the last opens the manual and a mail.
+  set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-liberation, qt6-wayland, xdg-utils")
   set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
 "An engineer describes one air path as a chain of duct elements between a
 fan and a room; MurVane works out, per octave band and in dB(A), what each

@@ -15,6 +15,17 @@ namespace murvane {
 
 namespace {
 
+constexpr auto Uitleggen = std::to_array<Uitleg>({
+    {"cboLtype", "Het lettertype van het berekeningsformulier."},
+    {"cboLgrootte", "De lettergrootte van het berekeningsformulier, in punten."},
+    {"cboKop", "Wat er boven elke bladzijde staat."},
+    {"cboBody1", "Wat er in het bovenste tekstblok staat."},
+    {"cboBody2", "Wat er in het onderste tekstblok staat."},
+    {"cmdOK", "Neemt de instelling over; het programma bewaart haar bij het afsluiten."},
+    {"cmdCancel", "Laat de instelling zoals zij was."},
+    {"cmdDefault", "Zet de standaardinstelling terug."},
+});
+
 /// A list that a wheel passing over it does not change.
 class VasteLijst : public QComboBox {
  public:
@@ -74,6 +85,7 @@ frmLettertype::frmLettertype(DrukInstelling& instelling, const Fonts& fonts, QWi
   auto* geheel = new QVBoxLayout(this);
   geheel->addLayout(rijen);
   geheel->addWidget(knoppen);
+  ZetUitleg(*this, Uitleggen);
   laadfout_ = LaadVenster(venster_, instelling_, fonts);
   Toon();
 }

@@ -37,6 +37,7 @@ void ZetBalk(QScrollBar& balk, const Schuifbalk& stand) {
 Documentvak::Documentvak(QWidget* ouder) : QWidget(ouder) {
   setObjectName("Document");
   setAccessibleName("Bladzijde van het berekeningsformulier");
+  setAccessibleDescription("De pijltoetsen en Page Up en Page Down schuiven de bladzijde.");
   setFocusPolicy(Qt::StrongFocus);
   setFixedSize(Pixels(VoorbeeldBreedte), Pixels(VoorbeeldHoogte));
 }
@@ -69,8 +70,10 @@ frmPreView::frmPreView(VoorbeeldStand& stand, QWidget* ouder)
   DocumentContainer->setAutoFillBackground(true);
   HScroll1->setObjectName("HScroll1");
   HScroll1->setAccessibleName("Bladzijde opzij schuiven");
+  HScroll1->setAccessibleDescription("Ook met de pijltoetsen links en rechts.");
   VScroll1->setObjectName("VScroll1");
   VScroll1->setAccessibleName("Bladzijde op en neer schuiven");
+  VScroll1->setAccessibleDescription("Ook met de pijltoetsen omhoog en omlaag.");
   VerbindBalk(*HScroll1);
   VerbindBalk(*VScroll1);
   connect(Toolbar1, &Werkbalk::ButtonClick, this, &frmPreView::ButtonClick);

@@ -38,6 +38,7 @@ frmResultaat::frmResultaat(const Rapport& rapport, QWidget* ouder)
   setWindowTitle("Berekeningsresultaten");
   tekst_->setObjectName("RichTextBox1");
   tekst_->setAccessibleName("Rapport van de berekening");
+  tekst_->setAccessibleDescription("Alleen ter inzage; de tekst kan worden gekopieerd.");
   tekst_->setReadOnly(true);
   tekst_->setTabChangesFocus(true);
   tekst_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);

@@ -5,8 +5,22 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
+#include <array>
+
+#include "basis/vensters_hulp.h"
 
 namespace murvane {
+
+namespace {
+
+constexpr auto Uitleggen = std::to_array<Uitleg>({
+    {"Option1", "De grafiek toont het geluidsdrukniveau op 1 meter."},
+    {"Option2", "De grafiek toont het geluidsdrukniveau in het galmveld."},
+    {"Command1", "Gaat verder met de gekozen grafiek."},
+    {"Command2", "Gaat verder zonder grafiek."},
+});
+
+}  // namespace
 
 frmSelGraf::frmSelGraf(QWidget* ouder) : QDialog(ouder) {
   setObjectName("frmSelGraf");
@@ -28,6 +42,7 @@ frmSelGraf::frmSelGraf(QWidget* ouder) : QDialog(ouder) {
   geheel->addWidget(kader);
   geheel->addWidget(knoppen);
   geheel->setSizeConstraint(QLayout::SetFixedSize);
+  ZetUitleg(*this, Uitleggen);
   eerste->setChecked(true);
   eerste->setFocus();
 }

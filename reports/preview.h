@@ -19,26 +19,27 @@ struct Werkknop {
   std::string_view Sleutel;
   std::string_view Tip;
   std::string_view Beeld;  ///< its icon
+  std::string_view Naam;   ///< in a word, for a screen reader
 };
 
 inline constexpr std::string_view PdfTip = "Berekeningsformulier opslaan als PDF";
 
 inline constexpr auto ResultaatKnoppen = std::to_array<Werkknop>({
-    {1, "Printen", "Berekeningsresultaten afdrukken op printer", "printen"},
-    {2, "Opslaan", "Berekeningsresultaten opslaan in bestand", "opslaan"},
-    {3, "Grafiek", "Grafische weergave berekeningsresultaten", "grafiek"},
-    {4, "preview", "Afdrukvoorbeeld berekeningsresultaten", "voorbeeld"},
-    {6, "PDF", PdfTip, "pdf"},
+    {1, "Printen", "Berekeningsresultaten afdrukken op printer", "printen", "Afdrukken"},
+    {2, "Opslaan", "Berekeningsresultaten opslaan in bestand", "opslaan", "Opslaan"},
+    {3, "Grafiek", "Grafische weergave berekeningsresultaten", "grafiek", "Grafiek"},
+    {4, "preview", "Afdrukvoorbeeld berekeningsresultaten", "voorbeeld", "Afdrukvoorbeeld"},
+    {6, "PDF", PdfTip, "pdf", "PDF"},
 });
 
 inline constexpr auto VoorbeeldKnoppen = std::to_array<Werkknop>({
-    {2, "printen", "Afdrukken op printer", "printen"},
-    {3, "save", "Afdrukvoorbeeld opslaan als bitmap-bestand", "opslaan"},
-    {5, "begin", "Naar beginpagina", "begin"},
-    {6, "terug", "Naar vorige pagina", "terug"},
-    {7, "volgende", "Naar volgende pagina", "volgende"},
-    {8, "eind", "Naar laatste pagina", "eind"},
-    {10, "PDF", PdfTip, "pdf"},
+    {2, "printen", "Afdrukken op printer", "printen", "Afdrukken"},
+    {3, "save", "Afdrukvoorbeeld opslaan als bitmap-bestand", "opslaan", "Opslaan"},
+    {5, "begin", "Naar beginpagina", "begin", "Eerste"},
+    {6, "terug", "Naar vorige pagina", "terug", "Vorige"},
+    {7, "volgende", "Naar volgende pagina", "volgende", "Volgende"},
+    {8, "eind", "Naar laatste pagina", "eind", "Laatste"},
+    {10, "PDF", PdfTip, "pdf", "PDF"},
 });
 
 /// The page of the preview: 21.0 by 29.1 cm, 1440 twips to the inch.

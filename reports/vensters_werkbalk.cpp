@@ -45,7 +45,8 @@ void Werkbalk::VoegToe(const Werkknop& knop) {
   auto* vak = new QToolButton(this);
   vak->setObjectName(KnopNaam(knop.Sleutel));
   vak->setToolTip(VanCp(knop.Tip));
-  vak->setAccessibleName(VanCp(knop.Tip));
+  vak->setAccessibleName(VanCp(knop.Naam));
+  vak->setAccessibleDescription(VanCp(knop.Tip));
   vak->setIconSize(QSize(20, 20));
   vak->setAutoRaise(true);
   vak->setFocusPolicy(Qt::TabFocus);

@@ -227,9 +227,13 @@ void MDIMurvane::MaakStatusbalk() {
   paneel3_ = new QLabel(this);
   beeld_->setObjectName("StatusBar1_1_beeld");
   beeld_->setAccessibleName("Berekend");
+  beeld_->setAccessibleDescription("De resultaten horen bij de invoer.");
   paneel1_->setObjectName("StatusBar1_1");
   paneel2_->setObjectName("StatusBar1_2");
   paneel3_->setObjectName("StatusBar1_3");
+  paneel1_->setAccessibleDescription("Het bestand van het project.");
+  paneel2_->setAccessibleDescription("De soort berekening.");
+  paneel3_->setAccessibleDescription("Het aantal kanaalelementen.");
   for (QLabel* paneel : {paneel1_, paneel2_, paneel3_}) paneel->setMargin(StatusMarge);
   statusBar()->addWidget(beeld_);
   statusBar()->addWidget(paneel1_, 2);

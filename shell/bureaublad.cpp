@@ -24,10 +24,6 @@ bool IsIn(const fs::path& map, const fs::path& boven) {
   return !rest.empty() && *rest.begin() != "..";
 }
 
-bool IsGeinstalleerd(const fs::path& programmaMap) {
-  return MeegeleverdeMap(programmaMap) != programmaMap;
-}
-
 fs::path GeleverdeData(const Startplaats& plaats) {
   return MeegeleverdeMap(plaats.ProgrammaMap) / "data";
 }
@@ -73,12 +69,6 @@ std::string VanUit(const fs::path& map, std::string_view opdrachtregel) {
 }
 
 }  // namespace
-
-fs::path GebruikersDataMap(const Gebruikersmappen& mappen) {
-  if (!mappen.AppData.empty()) return mappen.AppData / "MurVane";
-  if (mappen.XdgDataHome.is_absolute()) return mappen.XdgDataHome / "murvane";
-  return mappen.Thuis.empty() ? fs::path() : mappen.Thuis / ".local" / "share" / "murvane";
-}
 
 bool WerktInGebruikersmap(const Startplaats& plaats) {
   if (plaats.Bureaublad) return true;

@@ -18,21 +18,10 @@ inline constexpr const char* BureaubladVariabele = "MURVANE_BUREAUBLAD";
   return waarde == "1";
 }
 
-/// What the system tells of the user's directories; empty where it tells nothing.
-struct Gebruikersmappen {
-  std::filesystem::path AppData;      ///< of Windows
-  std::filesystem::path XdgDataHome;  ///< counts only when it is absolute
-  std::filesystem::path Thuis;
-};
-
-/// The user's own data directory: MurVane in AppData, else murvane in XdgDataHome or in ~/.local/share. Empty
-/// when the system tells of none.
-[[nodiscard]] std::filesystem::path GebruikersDataMap(const Gebruikersmappen& mappen);
-
 struct Startplaats {
   std::filesystem::path HuidigeMap;
   std::filesystem::path ProgrammaMap;
-  std::filesystem::path GebruikersMap;  ///< see GebruikersDataMap
+  std::filesystem::path GebruikersMap;  ///< see EigenDataMap
   bool Bureaublad = false;              ///< started from the desktop, as the environment tells
   /// Double-clicked files start the program in their own directory, and the environment can tell nothing: an
   /// installed program that finds no settings there was started from the desktop.

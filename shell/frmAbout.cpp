@@ -20,6 +20,8 @@ namespace murvane {
 
 namespace {
 
+constexpr int Kolommen = 88;  ///< letters beside each other in the window
+
 /// The user's name is made for a label: its "&" is doubled.
 QLabel* Product(const std::string& tekst, VerloopVlak* ouder) {
   QLabel* const label = ouder->MaakLabel("lblProduct", tekst);
@@ -32,8 +34,8 @@ QLabel* Product(const std::string& tekst, VerloopVlak* ouder) {
   return label;
 }
 
-QLabel* Beeldmerk(QWidget* ouder) {
-  auto* const label = new QLabel(ouder);
+QLabel* Beeldmerk(VerloopVlak* ouder) {
+  QLabel* const label = ouder->MaakLabel("lblBeeld", {});
   label->setAccessibleName("MurVane");
   label->setPixmap(Icoon("murvane").pixmap(64, 64));
   return label;
@@ -44,8 +46,8 @@ QPushButton* MailKnop(QWidget* ouder) {
   knop->setObjectName("lblMail");
   knop->setAccessibleName(QString("Mail naar ") + SteunAdres);
   knop->setToolTip("Stuur een bericht aan de makers");
+  knop->setAccessibleDescription(knop->toolTip());
   knop->setFlat(true);
-  knop->setAutoDefault(false);
   knop->setCursor(Qt::PointingHandCursor);
   QPalette palet = knop->palette();
   palet.setColor(QPalette::ButtonText, QColor(0x9c, 0xc8, 0xf5));
@@ -62,6 +64,7 @@ QPlainTextEdit* Levering(const std::filesystem::path& pad, Dialogen& dialogen, Q
   auto* const vak = new QPlainTextEdit(ouder);
   vak->setObjectName("txtLevering");
   vak->setAccessibleName("Over deze levering");
+  vak->setAccessibleDescription("Alleen ter inzage; de tekst kan worden gekopieerd.");
   vak->setReadOnly(true);
   vak->setTabChangesFocus(true);
   vak->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
@@ -93,13 +96,17 @@ frmAbout::frmAbout(const Instellingen& instellingen, const std::filesystem::path
   indeling->addWidget(MailKnop(vlak), 0, Qt::AlignLeft);
   indeling->addWidget(Levering(levering, dialogen, vlak), 1);
   auto* const knoppen = new QDialogButtonBox(QDialogButtonBox::Ok, vlak);
+  QPushButton* const cmdOK = knoppen->button(QDialogButtonBox::Ok);
+  cmdOK->setObjectName("cmdOK");
+  cmdOK->setAccessibleDescription("Sluit het venster.");
   connect(knoppen, &QDialogButtonBox::accepted, this, &QDialog::accept);
   indeling->addWidget(knoppen);
   auto* const geheel = new QVBoxLayout(this);
   geheel->setContentsMargins(0, 0, 0, 0);
   geheel->addWidget(vlak);
-  resize(600, 520);
-  knoppen->button(QDialogButtonBox::Ok)->setFocus();
+  const int breedte = Kolommen * fontMetrics().averageCharWidth();
+  resize(breedte, breedte * 5 / 6);
+  cmdOK->setFocus();
 }
 
 }  // namespace murvane

@@ -30,7 +30,7 @@ frmSplashII::frmSplashII() : VerloopVlak(SplashBegin, VerloopEinde, nullptr) {
   setWindowFlags(Qt::SplashScreen);
   const SplashTeksten teksten = SplashTekst();
   setWindowTitle(VanCp(teksten.Titel));
-  auto* const beeld = new QLabel(this);
+  QLabel* const beeld = MaakLabel("lblBeeld", {});
   beeld->setAccessibleName("MurVane");
   beeld->setPixmap(Icoon("murvane").pixmap(96, 96));
   auto* const kolom = new QVBoxLayout;
@@ -45,12 +45,12 @@ frmSplashII::frmSplashII() : VerloopVlak(SplashBegin, VerloopEinde, nullptr) {
   rij->setSpacing(28);
   rij->addWidget(beeld, 0, Qt::AlignVCenter);
   rij->addLayout(kolom, 1);
+  resize(sizeHint().expandedTo({520, 260}));
   Timer1.setSingleShot(true);
   connect(&Timer1, &QTimer::timeout, this, &frmSplashII::Beeindig);
 }
 
 void frmSplashII::Toon() {
-  resize(520, 260);
   if (const QScreen* const scherm = QGuiApplication::primaryScreen())
     move(scherm->availableGeometry().center() - rect().center());
   show();

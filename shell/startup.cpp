@@ -1,13 +1,13 @@
 #include "shell/startup.h"
 
 #include <array>
+#include <cstdlib>
 #include <system_error>
 
 #include "basis/bestand.h"
 #include "project/projectfile.h"
 
 #ifdef _WIN32
-#define WIN32_LEAN_AND_MEAN
 #include <windows.h>
 #else
 #include <langinfo.h>
@@ -39,13 +39,26 @@ fs::path MeegeleverdeMap(const fs::path& programmaMap) {
   return gedeeld;
 }
 
-fs::path DataMapVan(const fs::path& huidigeMap, const fs::path& programmaMap) {
-  return HeeftInstellingen(huidigeMap) ? huidigeMap : MeegeleverdeMap(programmaMap) / "data";
+bool IsGeinstalleerd(const fs::path& programmaMap) {
+  return MeegeleverdeMap(programmaMap) != programmaMap;
+}
+
+fs::path GebruikersDataMap(const Gebruikersmappen& mappen) {
+  if (!mappen.AppData.empty()) return mappen.AppData / "MurVane";
+  if (mappen.XdgDataHome.is_absolute()) return mappen.XdgDataHome / "murvane";
+  return mappen.Thuis.empty() ? fs::path() : mappen.Thuis / ".local" / "share" / "murvane";
+}
+
+fs::path DataMapVan(const fs::path& huidigeMap, const fs::path& programmaMap, const fs::path& gebruikersMap) {
+  if (HeeftInstellingen(huidigeMap)) return huidigeMap;
+  if (IsGeinstalleerd(programmaMap) && !gebruikersMap.empty() && HeeftInstellingen(gebruikersMap))
+    return gebruikersMap;
+  return MeegeleverdeMap(programmaMap) / "data";
 }
 
 fs::path StandaardDataMap() {
   std::error_code geen;
-  return DataMapVan(fs::current_path(geen), ProgrammaMap());
+  return DataMapVan(fs::current_path(geen), ProgrammaMap(), EigenDataMap());
 }
 
 std::string OpenBestandUit(std::string_view opdrachtregel) {
@@ -55,6 +68,11 @@ std::string OpenBestandUit(std::string_view opdrachtregel) {
 }
 
 #ifdef _WIN32
+
+fs::path EigenDataMap() {
+  const wchar_t* appData = _wgetenv(L"APPDATA");
+  return GebruikersDataMap({appData ? fs::path(appData) : fs::path(), {}, {}});
+}
 
 char RegionaalDecimaalteken() {
   std::array<wchar_t, 8> teken{};
@@ -67,6 +85,11 @@ char RegionaalDecimaalteken() {
 
 namespace {
 
+fs::path Omgeving(const char* naam) {
+  const char* waarde = std::getenv(naam);
+  return waarde ? PadVan(waarde) : fs::path();
+}
+
 /// The region of the environment's numbers; none when the environment names one that is not installed.
 locale_t OpenRegio() {
 #ifdef MURVANE_LEKZOEKER
@@ -76,6 +99,10 @@ locale_t OpenRegio() {
 }
 
 }  // namespace
+
+fs::path EigenDataMap() {
+  return GebruikersDataMap({{}, Omgeving("XDG_DATA_HOME"), Omgeving("HOME")});
+}
 
 char RegionaalDecimaalteken() {
   const locale_t regio = OpenRegio();

@@ -30,20 +30,14 @@ std::chrono::year_month_day Vandaag() {
           std::chrono::day(static_cast<unsigned>(datum.day()))};
 }
 
-std::filesystem::path Omgeving(const char* naam) {
-  return murvane::PadVan(qEnvironmentVariable(naam).toStdString());
-}
-
 murvane::Startplaats Plaats() {
   std::error_code geen;
   murvane::Startplaats plaats;
   plaats.HuidigeMap = std::filesystem::current_path(geen);
   plaats.ProgrammaMap = murvane::ProgrammaMap();
+  plaats.GebruikersMap = murvane::EigenDataMap();
 #ifdef Q_OS_WIN
-  plaats.GebruikersMap = murvane::GebruikersDataMap({Omgeving("APPDATA"), {}, {}});
   plaats.ZonderVariabele = true;
-#else
-  plaats.GebruikersMap = murvane::GebruikersDataMap({{}, Omgeving("XDG_DATA_HOME"), Omgeving("HOME")});
 #endif
   plaats.Bureaublad = murvane::IsBureaublad(qEnvironmentVariable(murvane::BureaubladVariabele).toStdString());
   qunsetenv(murvane::BureaubladVariabele);  // it says nothing of the programs that this one starts

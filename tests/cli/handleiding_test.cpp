@@ -106,6 +106,15 @@ TEST(ManPagina, TellsWhatTheExitStatusesOfTheHelpMean) {
                                 ".TP 64 verkeerd gebruik"));
 }
 
+TEST(ManPagina, OfEveryProgramTellsWhereTheUsersOwnDataStand) {
+  for (const Hulpprogramma& programma : Hulpprogrammas()) {
+    EXPECT_THAT(Gelezen(Tussen(ManPagina(programma), ".SH OMGEVING\n", "\n.SH")),
+                HasSubstr("XDG_DATA_HOME waar de eigen gegevensmap murvane staat; zonder deze variabele "
+                          "~/.local/share "))
+        << programma.Naam;
+  }
+}
+
 TEST(ManPagina, HidesNothingFromTheFormatter) {
   Hulpprogramma programma{"proef", ".kort", {{}}, {{"VOORBEELDEN", {{"a\\b", "'uitleg"}}}}, {}};
   programma.Opdrachten[0].Uitleg = ".SH geen kop";

@@ -474,6 +474,23 @@ TEST(VolgendVeld, GoesRoundAnArray) {
   }
 }
 
+TEST(RegelUitleg, SaysWhatMayBeTyped) {
+  const std::vector<std::pair<VeldId, std::string>> rijen = {
+      {{"txtBreedte"}, "Geheel getal van 0 t/m 5000."},
+      {{"txtRDI"}, "Geheel getal van 1 t/m 8."},
+      {{"txtLengte"}, "Getal van 0 t/m 100 met 1 decimaal."},
+      {{"txtRNagalm"}, "Getal van 0 t/m 10 met 2 decimalen."},
+      {{"txtdemp", 6}, "Getal van 0 t/m 150 met 1 decimaal."},
+      {{"txtLw", 0}, "Getal."},  // is not clamped
+      {{"txtRplafond", 3}, "Getal."},
+      {{"txtdemp", 7}, "Alleen ter inzage."},
+      {{"txtMyDate"}, "Datum als dd-mm-jjjj; leeg is vandaag."},
+      {{"txtProNum"}, "Tekst van ten hoogste 12 tekens."},
+      {{"txtSpectrum"}, "Tekst van ten hoogste 80 tekens."},
+  };
+  for (const auto& [veld, uitleg] : rijen) EXPECT_EQ(RegelUitleg(Regel(veld)), uitleg) << veld.Naam;
+}
+
 TEST(MaxTekens, IsTheLengthOfTheRecordsText) {
   for (const char* naam : {"txtProNaam", "txtOmschrijving", "txtToelichting1", "txtToelichting2",
                            "txtToelichting3", "txtSpectrum"})

@@ -39,7 +39,7 @@ TEST(Levering, TheDesktopOpensTheFileTypeOfProjects) {
   EXPECT_THAT(Lees("murvane.desktop"), HasSubstr("\nMimeType=application/x-murvane;\n"));
   EXPECT_THAT(Lees("murvane.xml"), HasSubstr("<mime-type type=\"application/x-murvane\">"));
   EXPECT_THAT(Lees("murvane.xml"), HasSubstr("<glob pattern=\"*.mrv\"/>"));
-  EXPECT_THAT(Lees("nl.murvane.MurVane.metainfo.xml.in"),
+  EXPECT_THAT(Lees("nl.murvane.murvane.metainfo.xml.in"),
               HasSubstr("<mediatype>application/x-murvane</mediatype>"));
 }
 

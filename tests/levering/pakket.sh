@@ -61,7 +61,7 @@ heeft usr/share/doc/murvane/changelog.gz
 stap "Wat het bureaublad leest"
 snelkoppeling="$root/usr/share/applications/murvane.desktop"
 desktop-file-validate "$snelkoppeling"
-appstreamcli validate --no-net --explain "$root/usr/share/metainfo/nl.murvane.MurVane.metainfo.xml" ||
+appstreamcli validate --no-net --pedantic --explain "$root/usr/share/metainfo/nl.murvane.murvane.metainfo.xml" ||
   mis "de metagegevens zijn niet in orde"
 update-mime-database "$root/usr/share/mime" 2>"$werk/mime.txt" || mis "$(cat "$werk/mime.txt")"
 grep -qx '50:application/x-murvane:\*.mrv' "$root/usr/share/mime/globs2" || mis "*.mrv is niet bekend"
@@ -74,18 +74,24 @@ if command -v lintian >/dev/null; then
 fi
 
 stap "Rekenen"
-export HOME="$werk/thuis"
-export XDG_DATA_HOME="$werk/thuis/mijn gegevens"
+export HOME="$werk/mijn thuis é"
 export QT_QPA_PLATFORM=offscreen MURVANE_ROOKPROEF=1
-unset MURVANE_BUREAUBLAD
+unset MURVANE_BUREAUBLAD XDG_DATA_HOME
 export XDG_RUNTIME_DIR="$werk/lopend"
 mkdir -p "$HOME" "$werk/mijn projecten é"
 mkdir -m 700 "$XDG_RUNTIME_DIR"
 PATH="$root/usr/bin:$PATH"
-cp "$root/usr/share/murvane/data/kantoor.mrv" "$werk/mijn projecten é/kantoor noord.mrv"
+project="kantoor & noord é.mrv"
+cp "$root/usr/share/murvane/data/kantoor.mrv" "$werk/mijn projecten é/$project"
 cd "$werk/mijn projecten é"
-murvane-cli reken "kantoor noord.mrv" >"$werk/rapport.txt"
+murvane-cli reken "$project" >"$werk/rapport.txt"
 grep -q 'GELUIDSDRUKNIVEAU:' "$werk/rapport.txt" || mis "geen rapport"
+op_formulier() {  # text
+  murvane-druk "$project" --pdf "$werk/formulier.pdf"
+  pdftotext "$werk/formulier.pdf" "$werk/formulier.txt"
+  grep -q "$1" "$werk/formulier.txt"
+}
+op_formulier '..Gebruikersnaam..' || mis "geen formulier"
 
 stap "Dubbelklikken"
 # The command of the desktop entry, its %f replaced by the file. Its words hold no quotes.
@@ -96,25 +102,56 @@ dubbelklik() {
   "${woorden[@]}" "$@"
 }
 [[ "$opdracht" == *' %f' && "$opdracht" != *[\"\\]* ]] || mis "Exec: $opdracht"
-dubbelklik "$PWD/kantoor noord.mrv" || mis "het project opent niet"
-eigen="$XDG_DATA_HOME/murvane"
+dubbelklik "$PWD/$project" || mis "het project opent niet"
+eigen="$HOME/.local/share/murvane"
 diff -r "$root/usr/share/murvane/data" "$eigen" || mis "de eigen gegevensmap is niet gevuld"
-[ "$(ls)" = "kantoor noord.mrv" ] || mis "er staat iets naast het project: $(ls)"
-cmp -s "kantoor noord.mrv" "$eigen/kantoor.mrv" || mis "het project is veranderd"
+[ "$(ls)" = "$project" ] || mis "er staat iets naast het project: $(ls)"
+cmp -s "$project" "$eigen/kantoor.mrv" || mis "het project is veranderd"
 
 stap "Nog eens: van de gebruiker blijft van de gebruiker"
 cp "$eigen/Fan.dat" "$eigen/Duct.dat.bewaard"
 sed -i 's/\.\.Gebruikersnaam\.\./Bureau Jansen     /' "$eigen/murvane.set"
 rm "$eigen/plafond.mrv"
 (cd "$eigen" && find . -type f -exec sha256sum {} + | sort) >"$werk/voor.txt"
-dubbelklik "kantoor noord.mrv" || mis "een naam vanuit de map van het project opent niet"
+dubbelklik "$project" || mis "een naam vanuit de map van het project opent niet"
 dubbelklik || mis "start niet zonder project"
-if dubbelklik "$PWD/weg.mrv" 2>/dev/null; then mis "een project dat er niet is, is niet gemeld"; fi
+
+stap "Wat er mis kan zijn, wordt gemeld of genegeerd, en het programma loopt"
+gemeld() {  # text, HOME, argument
+  if HOME=$2 dubbelklik "${@:3}" 2>"$werk/gemeld.txt"; then mis "niet gemeld: $1"; fi
+  grep -q "$1" "$werk/gemeld.txt" || mis "in plaats van $1: $(cat "$werk/gemeld.txt")"
+}
+mkdir "$werk/wat dan ook" "$werk/map.mrv"
+head -c 100 "$project" >"$werk/half é.mrv"
+gemeld 'Fout 53 ' "$HOME" "$PWD/weg.mrv"
+gemeld 'Fout 62 ' "$HOME" "$werk/half é.mrv"
+gemeld 'Fout 75 ' "$HOME" "$werk/map.mrv"
+gemeld 'De eigen gegevensmap kan niet worden gebruikt' /dev/null "$PWD/$project"
+dubbelklik "$werk/wat dan ook" || mis "een map is niet genegeerd"
+dubbelklik "$werk/dpkg.txt" || mis "een ander bestand is niet genegeerd"
+
+stap "Op de opdrachtregel gelden de eigen gegevens ook, na die van de huidige map en van --data"
+metNaam() { murvane-cli reken "$project" "$@" | grep -c 'Bureau Jansen' || true; }
+printf '\0\0' >"$werk/Fan.dat"
+cp "$eigen/Fan.dat" "$werk/Fan.dat.eigen"
+cp "$werk/Fan.dat" "$eigen/Fan.dat"
+murvane-cli overzicht ventilatoren >"$werk/geen.txt"
+murvane-cli overzicht ventilatoren --data "$root/usr/share/murvane/data" >"$werk/alle.txt"
+cp "$werk/Fan.dat.eigen" "$eigen/Fan.dat"
+murvane-cli overzicht ventilatoren >"$werk/weer.txt"
+cmp -s "$werk/alle.txt" "$werk/weer.txt" || mis "de eigen catalogus is niet gelezen"
+[ "$(wc -l <"$werk/geen.txt")" -lt "$(wc -l <"$werk/alle.txt")" ] || mis "de eigen catalogus is niet gelezen"
+[ "$(metNaam)" -gt 0 ] || mis "de eigen gebruikersnaam staat niet op het rapport"
+[ "$(metNaam --data "$root/usr/share/murvane/data")" -eq 0 ] || mis "--data gaat niet voor"
+cp "$root/usr/share/murvane/data/murvane.set" .
+[ "$(metNaam)" -eq 0 ] || mis "de huidige map gaat niet voor"
+rm murvane.set
+op_formulier 'Bureau Jansen' || mis "de eigen gebruikersnaam staat niet op het formulier"
 
 stap "In een eigen map blijft die de gegevensmap"
 mkdir "$werk/eigen map"
 cp "$root"/usr/share/murvane/data/* "$werk/eigen map"
-(cd "$werk/eigen map" && murvane "../mijn projecten é/kantoor noord.mrv") || mis "start niet in een eigen map"
+(cd "$werk/eigen map" && murvane "../mijn projecten é/$project") || mis "start niet in een eigen map"
 mkdir "$werk/leeg"
 if (cd "$werk/leeg" && murvane) 2>"$werk/gemeld.txt"; then mis "zonder gegevens is niets gemeld"; fi
 grep -q 'Opstartbestand(en) niet gevonden' "$werk/gemeld.txt" || mis "$(cat "$werk/gemeld.txt")"
@@ -125,5 +162,5 @@ over=$(find "$root/usr" -type f ! -path '*/share/mime/*' -o -path '*/mime/packag
 [ -z "$over" ] || mis "er bleef staan: $over"
 (cd "$eigen" && find . -type f -exec sha256sum {} + | sort) >"$werk/na.txt"
 cmp "$werk/voor.txt" "$werk/na.txt" || mis "de gegevens van de gebruiker zijn veranderd"
-[ -f "$werk/mijn projecten é/kantoor noord.mrv" ] || mis "het project is weg"
+[ -f "$werk/mijn projecten é/$project" ] || mis "het project is weg"
 echo "Het pakket $(basename "$pakket") is in orde."

@@ -14,31 +14,33 @@ namespace {
 TEST(Werkbalk, OfTheResultsHasItsKeysAndTips) {
   ASSERT_EQ(ResultaatKnoppen.size(), 5U);
   const struct {
-    const char *sleutel, *tip;
-  } rijen[] = {{"Printen", "Berekeningsresultaten afdrukken op printer"},
-               {"Opslaan", "Berekeningsresultaten opslaan in bestand"},
-               {"Grafiek", "Grafische weergave berekeningsresultaten"},
-               {"preview", "Afdrukvoorbeeld berekeningsresultaten"},
-               {"PDF", "Berekeningsformulier opslaan als PDF"}};
+    const char *sleutel, *tip, *naam;
+  } rijen[] = {{"Printen", "Berekeningsresultaten afdrukken op printer", "Afdrukken"},
+               {"Opslaan", "Berekeningsresultaten opslaan in bestand", "Opslaan"},
+               {"Grafiek", "Grafische weergave berekeningsresultaten", "Grafiek"},
+               {"preview", "Afdrukvoorbeeld berekeningsresultaten", "Afdrukvoorbeeld"},
+               {"PDF", "Berekeningsformulier opslaan als PDF", "PDF"}};
   for (std::size_t i = 0; i < 5; ++i) {
     EXPECT_EQ(ResultaatKnoppen[i].Sleutel, rijen[i].sleutel);
     EXPECT_EQ(ResultaatKnoppen[i].Tip, rijen[i].tip);
+    EXPECT_EQ(ResultaatKnoppen[i].Naam, rijen[i].naam);
   }
 }
 
 TEST(Werkbalk, OfThePreviewHasItsKeysTipsAndPositions) {
   ASSERT_EQ(VoorbeeldKnoppen.size(), 7U);
-  const Werkknop rijen[] = {{2, "printen", "Afdrukken op printer", "printen"},
-                            {3, "save", "Afdrukvoorbeeld opslaan als bitmap-bestand", "opslaan"},
-                            {5, "begin", "Naar beginpagina", "begin"},
-                            {6, "terug", "Naar vorige pagina", "terug"},
-                            {7, "volgende", "Naar volgende pagina", "volgende"},
-                            {8, "eind", "Naar laatste pagina", "eind"},
-                            {10, "PDF", "Berekeningsformulier opslaan als PDF", "pdf"}};
+  const Werkknop rijen[] = {{2, "printen", "Afdrukken op printer", "printen", "Afdrukken"},
+                            {3, "save", "Afdrukvoorbeeld opslaan als bitmap-bestand", "opslaan", "Opslaan"},
+                            {5, "begin", "Naar beginpagina", "begin", "Eerste"},
+                            {6, "terug", "Naar vorige pagina", "terug", "Vorige"},
+                            {7, "volgende", "Naar volgende pagina", "volgende", "Volgende"},
+                            {8, "eind", "Naar laatste pagina", "eind", "Laatste"},
+                            {10, "PDF", "Berekeningsformulier opslaan als PDF", "pdf", "PDF"}};
   for (std::size_t i = 0; i < 7; ++i) {
     EXPECT_EQ(VoorbeeldKnoppen[i].Positie, rijen[i].Positie);
     EXPECT_EQ(VoorbeeldKnoppen[i].Sleutel, rijen[i].Sleutel);
     EXPECT_EQ(VoorbeeldKnoppen[i].Tip, rijen[i].Tip);
+    EXPECT_EQ(VoorbeeldKnoppen[i].Naam, rijen[i].Naam);
   }
 }
 

@@ -22,21 +22,6 @@ TEST(Bureaublad, OnlyAOneInTheEnvironmentMeansTheDesktop) {
   for (const char* waarde : {"", "0", "ja", "11", " 1"}) EXPECT_FALSE(IsBureaublad(waarde)) << waarde;
 }
 
-TEST(GebruikersDataMap, IsWhereTheSystemKeepsAUsersData) {
-  const struct {
-    Gebruikersmappen Mappen;
-    const char* Map;
-  } rijen[] = {
-      {{"", "", "/home/jan"}, "/home/jan/.local/share/murvane"},
-      {{"", "/srv/mijn gegevens", "/home/jan"}, "/srv/mijn gegevens/murvane"},
-      {{"", "gegevens", "/home/jan"}, "/home/jan/.local/share/murvane"},  // relative: does not count
-      {{"", "/srv/gegevens", ""}, "/srv/gegevens/murvane"},
-      {{"/AppData/Roaming", "/srv/gegevens", "/home/jan"}, "/AppData/Roaming/MurVane"},
-      {{"", "", ""}, ""},
-  };
-  for (const auto& rij : rijen) EXPECT_EQ(GebruikersDataMap(rij.Mappen), rij.Map);
-}
-
 /// An installed program, a directory to start in and a user's own directory that does not exist yet.
 class Werkplekken : public testing::Test {
  protected:

@@ -17,29 +17,102 @@ namespace {
 
 namespace fs = std::filesystem;
 
+/// Sets environment variables and puts them back.
+class Omgeving {
+ public:
+  explicit Omgeving(const std::map<std::string, std::string>& waarden) {
+    for (const char* naam : {"LC_ALL", "LC_NUMERIC", "LANG", "LOCPATH", "XDG_DATA_HOME", "HOME"}) {
+      const char* oud = std::getenv(naam);
+      oud_[naam] = oud ? std::optional<std::string>(oud) : std::nullopt;
+      unsetenv(naam);
+    }
+    for (const auto& [naam, waarde] : waarden) setenv(naam.c_str(), waarde.c_str(), 1);
+  }
+  Omgeving(const Omgeving&) = delete;
+  Omgeving& operator=(const Omgeving&) = delete;
+  ~Omgeving() {
+    for (const auto& [naam, waarde] : oud_) {
+      if (waarde) {
+        setenv(naam.c_str(), waarde->c_str(), 1);
+      } else {
+        unsetenv(naam.c_str());
+      }
+    }
+  }
+
+ private:
+  std::map<std::string, std::optional<std::string>> oud_;
+};
+
 class Startmap : public testing::Test {
  protected:
   Startmap() {
-    for (const char* deel : {"werk", "usr/bin/data", "usr/share/murvane/data"})
+    for (const char* deel :
+         {"werk", "usr/bin/data", "usr/share/murvane/data", "thuis é/.local/share/murvane"})
       fs::create_directories(map_ / deel);
   }
   ~Startmap() override { fs::current_path(vorige_); }
   void ZetInstellingen(const char* map) const { proef::Schrijf(map_ / map / "murvane.set", ""); }
-  [[nodiscard]] fs::path DataMap() const { return DataMapVan(map_ / "werk", map_ / "usr/bin"); }
+  [[nodiscard]] fs::path DataMap() const { return DataMapVan(map_ / "werk", map_ / "usr/bin", Eigen()); }
+  [[nodiscard]] fs::path Eigen() const { return map_ / "thuis é/.local/share/murvane"; }
 
   fs::path vorige_ = fs::current_path();
   proef::TijdelijkeMap tijdelijk_;
   fs::path map_ = fs::canonical(tijdelijk_.Pad());  // as the system tells the current directory
 };
 
-TEST_F(Startmap, DataIsFirstSoughtHereThenByTheProgramThenInItsShare) {
+TEST_F(Startmap, DataIsFirstSoughtHereThenByTheProgramThenWithTheUserThenInTheShare) {
   EXPECT_EQ(DataMap(), map_ / "usr/bin/data");  // nowhere: where it should have been
   ZetInstellingen("usr/share/murvane/data");
   EXPECT_EQ(DataMap(), map_ / "usr/share/murvane/data");
+  ZetInstellingen("thuis é/.local/share/murvane");
+  EXPECT_EQ(DataMap(), Eigen());
   ZetInstellingen("usr/bin/data");
   EXPECT_EQ(DataMap(), map_ / "usr/bin/data");
   ZetInstellingen("werk");
   EXPECT_EQ(DataMap(), map_ / "werk");
+}
+
+TEST_F(Startmap, WithoutAnyDataOfItsOwnAProgramDoesNotTakeTheUsers) {
+  ZetInstellingen("thuis é/.local/share/murvane");
+  EXPECT_EQ(DataMap(), map_ / "usr/bin/data");
+}
+
+TEST_F(Startmap, AUserWithoutADirectoryIsNotTheCurrentDirectory) {
+  ZetInstellingen("usr/share/murvane/data");
+  ZetInstellingen("werk");
+  fs::current_path(map_ / "werk");  // "" / murvane.set would be found here
+  EXPECT_EQ(DataMapVan(map_, map_ / "usr/bin", {}), map_ / "usr/share/murvane/data");
+}
+
+TEST(GebruikersDataMap, IsWhereTheSystemKeepsAUsersData) {
+  const struct {
+    Gebruikersmappen Mappen;
+    const char* Map;
+  } rijen[] = {
+      {{"", "", "/home/jan"}, "/home/jan/.local/share/murvane"},
+      {{"", "/srv/mijn gegevens", "/home/jan"}, "/srv/mijn gegevens/murvane"},
+      {{"", "gegevens", "/home/jan"}, "/home/jan/.local/share/murvane"},  // relative: does not count
+      {{"", "/srv/gegevens", ""}, "/srv/gegevens/murvane"},
+      {{"/AppData/Roaming", "/srv/gegevens", "/home/jan"}, "/AppData/Roaming/MurVane"},
+      {{"", "", ""}, ""},
+  };
+  for (const auto& rij : rijen) EXPECT_EQ(GebruikersDataMap(rij.Mappen), rij.Map);
+}
+
+TEST(EigenDataMap, FollowsTheEnvironment) {
+  const struct {
+    std::map<std::string, std::string> omgeving;
+    const char* map;
+  } rijen[] = {
+      {{{"HOME", "/home/jan é"}}, "/home/jan é/.local/share/murvane"},
+      {{{"HOME", "/home/jan"}, {"XDG_DATA_HOME", "/srv/mijn gegevens"}}, "/srv/mijn gegevens/murvane"},
+      {{}, ""},
+  };
+  for (const auto& rij : rijen) {
+    const Omgeving omgeving(rij.omgeving);
+    EXPECT_EQ(EigenDataMap(), rij.map);
+  }
 }
 
 TEST_F(Startmap, WhatCameWithTheProgramStandsByItOrInItsShare) {
@@ -58,7 +131,7 @@ TEST_F(Startmap, ADirectoryOfThatNameIsNoSettingsFile) {
 
 TEST_F(Startmap, StandardDataDirectoryIsTheCurrentOneOnlyWithSettings) {
   fs::current_path(map_ / "werk");
-  EXPECT_EQ(StandaardDataMap(), DataMapVan({}, ProgrammaMap()));
+  EXPECT_EQ(StandaardDataMap(), DataMapVan({}, ProgrammaMap(), EigenDataMap()));
   ZetInstellingen("werk");
   EXPECT_EQ(StandaardDataMap(), map_ / "werk");
 }
@@ -66,7 +139,7 @@ TEST_F(Startmap, StandardDataDirectoryIsTheCurrentOneOnlyWithSettings) {
 TEST_F(Startmap, SurvivesACurrentDirectoryThatIsGone) {
   fs::current_path(map_ / "werk");
   fs::remove(map_ / "werk");
-  EXPECT_EQ(StandaardDataMap(), DataMapVan(map_ / "werk", ProgrammaMap()));
+  EXPECT_EQ(StandaardDataMap(), DataMapVan(map_ / "werk", ProgrammaMap(), EigenDataMap()));
 }
 
 TEST(OpenBestandUit, TakesTheWholeCommandLineAsOnePath) {
@@ -97,33 +170,6 @@ TEST(OpenBestandUit, TakesTheWholeCommandLineAsOnePath) {
   };
   for (const auto& rij : rijen) EXPECT_EQ(OpenBestandUit(rij.opdrachtregel), rij.pad) << rij.opdrachtregel;
 }
-
-/// Sets environment variables and puts them back.
-class Omgeving {
- public:
-  explicit Omgeving(const std::map<std::string, std::string>& waarden) {
-    for (const char* naam : {"LC_ALL", "LC_NUMERIC", "LANG", "LOCPATH"}) {
-      const char* oud = std::getenv(naam);
-      oud_[naam] = oud ? std::optional<std::string>(oud) : std::nullopt;
-      unsetenv(naam);
-    }
-    for (const auto& [naam, waarde] : waarden) setenv(naam.c_str(), waarde.c_str(), 1);
-  }
-  Omgeving(const Omgeving&) = delete;
-  Omgeving& operator=(const Omgeving&) = delete;
-  ~Omgeving() {
-    for (const auto& [naam, waarde] : oud_) {
-      if (waarde) {
-        setenv(naam.c_str(), waarde->c_str(), 1);
-      } else {
-        unsetenv(naam.c_str());
-      }
-    }
-  }
-
- private:
-  std::map<std::string, std::optional<std::string>> oud_;
-};
 
 TEST(RegionaalDecimaalteken, IsAPointWithoutARegionOrInOneThatIsNotInstalled) {
   const std::map<std::string, std::string> gevallen[] = {{},

@@ -17,6 +17,7 @@
 #include "editor/vensters_tekening.h"
 #include "estimators/vensters_staven.h"
 #include "tests/hulp/script.h"
+#include "tests/vensters/beeld.h"
 
 namespace murvane {
 namespace {
@@ -64,22 +65,6 @@ class SchatVensters : public testing::Test {
     if (!venster->Uitkomst()) return uit;
     for (const std::string& waarde : venster->Uitkomst()->Demping) uit += " " + waarde;
     return uit.substr(1);
-  }
-  /// Saves a picture in the directory that the environment names, if it does.
-  void Bewaar(const QString& naam) {
-    const QString map = qEnvironmentVariable("MURVANE_BEELDEN");
-    const QPixmap beeld = venster->grab();
-    EXPECT_FALSE(beeld.isNull());
-    for (const QWidget* const vak : venster->findChildren<QWidget*>()) {
-      const bool tekst =
-          qobject_cast<const QLabel*>(vak) != nullptr || qobject_cast<const QAbstractButton*>(vak) != nullptr;
-      if (!tekst || !vak->isVisible()) continue;
-      EXPECT_GE(vak->width(), vak->sizeHint().width()) << vak->objectName().toStdString();
-      EXPECT_GE(vak->height(), vak->sizeHint().height()) << vak->objectName().toStdString();
-    }
-    if (!map.isEmpty()) {
-      EXPECT_TRUE(beeld.save(map + "/" + naam + ".png"));
-    }
   }
 
   proef::Script script;
@@ -464,26 +449,21 @@ TEST_F(SchatVensters, PicturesOfAllFour) {
   invoer.Kanaalwand = {kanaaltype::Zink, 2, 5.5};
   for (const Schatter soort : Soorten) {
     Open(soort);
-    Bewaar(venster->objectName());
+    proef::Fotografeer(*venster, venster->objectName());
   }
   invoer = {};
   Open(Schatter::Bekleed);
-  Bewaar("frmCalc1-leeg");
+  proef::Fotografeer(*venster, "frmCalc1-leeg");
 }
 
 TEST_F(SchatVensters, PicturesInADarkTheme) {
-  const QPalette licht = QApplication::palette();
-  QPalette donker(QColor(45, 45, 48));
-  donker.setColor(QPalette::Base, QColor(30, 30, 30));
-  donker.setColor(QPalette::Highlight, QColor(70, 130, 200));
-  QApplication::setPalette(donker);
+  const proef::Thema donker(proef::Donker());
   invoer.Bekleed = {400, 600, 50, 2.5};
   invoer.Kanaalwand = {kanaaltype::Alu, 2, 5.5};
   Open(Schatter::Bekleed);
-  Bewaar("donker-frmCalc1");
+  proef::Fotografeer(*venster, "donker-frmCalc1");
   Open(Schatter::Kanaalwand);
-  Bewaar("donker-frmDuctCalc");
-  QApplication::setPalette(licht);
+  proef::Fotografeer(*venster, "donker-frmDuctCalc");
 }
 
 }  // namespace

@@ -26,6 +26,7 @@
 #include "editor/vensters_veld.h"
 #include "project/projectfile.h"
 #include "tests/hulp/script.h"
+#include "tests/vensters/beeld.h"
 #include "tests/vensters/opstelling.h"
 
 namespace murvane {
@@ -739,26 +740,20 @@ TEST_F(ProjectVenster, RefilledCataloguesKeepTheProject) {
 }
 
 TEST_F(ProjectVenster, StaysReadableInADarkTheme) {
-  const QPalette was = QApplication::palette();
-  QPalette donker(QColor(45, 45, 48));
-  donker.setColor(QPalette::Base, QColor(30, 30, 30));
-  donker.setColor(QPalette::Highlight, QColor(70, 130, 200));
-  QApplication::setPalette(donker);
-  QCoreApplication::processEvents();
+  const proef::Thema donker(proef::Donker());
   OpenVoorbeeld("kantoor.mrv");
   EXPECT_EQ(Veld("txtProNum")->palette().color(QPalette::Base), KleurVan(VeldKleur));
   EXPECT_EQ(Veld("txtProNum")->palette().color(QPalette::Text), QColor(Qt::black));
   EXPECT_EQ(Zoek<QComboBox>("cmbKanaal")->lineEdit()->palette().color(QPalette::Base), KleurVan(VeldKleur));
   KiesElement(1);
-  Bewaar("donker-element");
+  proef::Fotografeer(*venster, "donker-element");
   KiesTab(Tab::Ventilator);
-  Bewaar("donker-fan");
-  QApplication::setPalette(was);
+  proef::Fotografeer(*venster, "donker-fan");
 }
 
 /// Pictures to look at, where a directory for them is named.
 TEST_F(ProjectVenster, CanBePictured) {
-  const auto maak = [this](const QString& naam) { Bewaar(naam); };
+  const auto maak = [this](const QString& naam) { proef::Fotografeer(*venster, naam); };
   for (const char* const naam : VoorbeeldNamen) {
     OpenVoorbeeld(naam);
     maak(QString(naam) + "-project");

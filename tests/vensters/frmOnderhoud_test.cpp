@@ -29,6 +29,7 @@
 #include "shell/MDIMurvane.h"
 #include "tests/hulp/bestanden.h"
 #include "tests/hulp/script.h"
+#include "tests/vensters/beeld.h"
 
 namespace murvane {
 namespace {
@@ -72,23 +73,6 @@ void ZodraOpen(const std::function<void(QWidget*)>& stap) {
     stap(venster);
     if (venster->isVisible()) venster->close();
   });
-}
-
-/// A picture in the directory that the environment names, if it does; no text is cut.
-void Bewaar(QWidget* venster, const QString& naam) {
-  const QPixmap beeld = venster->grab();
-  EXPECT_FALSE(beeld.isNull());
-  for (const QWidget* const vak : venster->findChildren<QWidget*>()) {
-    const bool tekst =
-        qobject_cast<const QLabel*>(vak) != nullptr || qobject_cast<const QAbstractButton*>(vak) != nullptr;
-    if (!tekst || !vak->isVisible() || vak->window() != venster) continue;
-    EXPECT_GE(vak->width(), vak->sizeHint().width()) << vak->objectName().toStdString();
-    EXPECT_GE(vak->height(), vak->sizeHint().height()) << vak->objectName().toStdString();
-  }
-  const QString map = qEnvironmentVariable("MURVANE_BEELDEN");
-  if (!map.isEmpty()) {
-    EXPECT_TRUE(beeld.save(map + "/" + naam + ".png"));
-  }
 }
 
 class OnderhoudVensters : public testing::Test {
@@ -689,9 +673,8 @@ TEST_F(OnderhoudVensters, GiveTheirBarTheColoursOfEveryBar) {
 }
 
 TEST_F(OnderhoudVensters, AreReadableInBothThemes) {
-  const QPalette was = QApplication::palette();
   for (const bool donker : {false, true}) {
-    QApplication::setPalette(donker ? QPalette(QColor(45, 45, 48)) : was);
+    const proef::Thema palet(donker ? proef::Donker() : QApplication::palette());
     const QString thema = donker ? " donker" : "";
     for (const CatalogusSoort soort : Soorten) {
       Open(soort);
@@ -699,17 +682,16 @@ TEST_F(OnderhoudVensters, AreReadableInBothThemes) {
       EXPECT_LE(venster->height(), 728);
       Druk(Qt::Key_Down);
       Druk(Qt::Key_Down);
-      Bewaar(venster.get(), venster->objectName() + thema);
+      proef::Fotografeer(*venster, venster->objectName() + thema);
       Alt(Qt::Key_T);
       Typ("Coulissedemper 600×1200×1500 mm, coulissen 200 mm, spleet 100 mm nummer 1000");
-      Bewaar(venster.get(), venster->objectName() + " toevoegen" + thema);
+      proef::Fotografeer(*venster, venster->objectName() + " toevoegen" + thema);
       Zoek<QPushButton>("cmdCancel")->click();
     }
     Open(CatalogusSoort::Kanaalelementen);
-    ZodraOpen([&](QWidget* overzicht) { Bewaar(overzicht, "frmOverzicht" + thema); });
+    ZodraOpen([&](QWidget* overzicht) { proef::Fotografeer(*overzicht, "frmOverzicht" + thema); });
     Actie("mnuZoekAlles")->trigger();
   }
-  QApplication::setPalette(was);
 }
 
 // From the main window.

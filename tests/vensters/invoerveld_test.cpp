@@ -56,6 +56,19 @@ TEST_F(Invoerveld, EscapeTakesTheTipAwayAndSelectsTheText) {
   EXPECT_EQ(Veld("txtMyDate")->selectedText(), "02-03-2026");
 }
 
+TEST_F(Invoerveld, TellsWhatIsWrongInFrontOfWhatMayBeTyped) {
+  OpenVoorbeeld("kantoor.mrv");
+  const QString regel = "Datum als dd-mm-jjjj; leeg is vandaag.";
+  EXPECT_EQ(Veld("txtMyDate")->accessibleDescription(), regel);
+  NaarVeld("txtMyDate");
+  Typ("31-02-2026");
+  Druk(Qt::Key_Return);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(Veld("txtMyDate")->accessibleDescription(), "Voer geldige datum in (dd-mm-yyyy). " + regel);
+  Druk(Qt::Key_Escape);
+  EXPECT_EQ(Veld("txtMyDate")->accessibleDescription(), regel);
+}
+
 TEST_F(Invoerveld, EscapeInAFieldThatWasNotChangedChangesNothing) {
   OpenVoorbeeld("kantoor.mrv");
   KiesElement(1);

@@ -82,22 +82,6 @@ class ProjectVenster : public testing::Test {
     Druk(Qt::Key_Home);
     for (int n = 1; n < record; ++n) Druk(Qt::Key_Down);
   }
-  /// Saves a picture in the directory that the environment names, if it does.
-  void Bewaar(const QString& naam) {
-    const QString map = qEnvironmentVariable("MURVANE_BEELDEN");
-    const QPixmap beeld = venster->grab();
-    EXPECT_FALSE(beeld.isNull());
-    for (const QWidget* const vak : venster->findChildren<QWidget*>()) {
-      const bool tekst =
-          qobject_cast<const QLabel*>(vak) != nullptr || qobject_cast<const QAbstractButton*>(vak) != nullptr;
-      if (!tekst || !vak->isVisible()) continue;
-      EXPECT_GE(vak->width(), vak->sizeHint().width()) << vak->objectName().toStdString();
-      EXPECT_GE(vak->height(), vak->sizeHint().height()) << vak->objectName().toStdString();
-    }
-    if (!map.isEmpty()) {
-      EXPECT_TRUE(beeld.save(map + "/" + naam + ".png"));
-    }
-  }
   /// The texts of the labels that belong to a control, in the order in which they were made.
   QStringList Opschriften(const QString& naam) {
     QStringList uit;
