@@ -173,7 +173,7 @@ BandRij* frmMurvane::VoegBanden(std::string_view naam, int eerste, const QString
 void frmMurvane::BouwOp() {
   setObjectName("frmMurvane");
   setWindowTitle(VanCp(VensterTitel()));
-  auto* const indeling = Kolom(this, Ruimte);
+  auto* const indeling = Kolom(this, 0);
   SSTab1 = new QTabWidget(this);
   SSTab1->setObjectName("SSTab1");
   SSTab1->setAccessibleName("Invoer van het project");

@@ -49,7 +49,9 @@ void Blad::LegVast() {
   ontwerp_ = ResizeInit(venster);
 }
 
-/// A sheet that is larger than the design has the content in its middle; a smaller one is filled by it.
+/// A sheet that is larger than the design has the content in its middle; a smaller one is filled by it. What
+/// happened to its size while the window was minimised is made good when the window is restored, of which
+/// only the window is told.
 void Blad::Plaats() {
   ResizeVenster venster;
   venster.BinnenBreedte = Twips(width());
@@ -57,7 +59,7 @@ void Blad::Plaats() {
   venster.Geminimaliseerd = window()->isMinimized();
   venster.Vlakken = {VlakVan(maat_)};
   ResizeForm(ontwerp_, venster, -1);
-  if (venster.Geminimaliseerd) return;
+  if (venster.Geminimaliseerd) return window()->installEventFilter(this);
   const Stuurvlak& vlak = venster.Vlakken.front();
   const QSize maat = (size() - Randen).boundedTo(maat_).expandedTo(blok_->minimumSizeHint());
   blok_->setGeometry(QRect(QPoint(Pixels(*vlak.Left), Pixels(*vlak.Top)), maat));
@@ -86,6 +88,10 @@ void Blad::changeEvent(QEvent* event) {
 bool Blad::eventFilter(QObject* object, QEvent* event) {
   if (object == blok_ && event->type() == QEvent::LayoutRequest) {
     updateGeometry();
+    Plaats();
+  }
+  if (object == window() && event->type() == QEvent::WindowStateChange && !window()->isMinimized()) {
+    window()->removeEventFilter(this);
     Plaats();
   }
   return QWidget::eventFilter(object, event);

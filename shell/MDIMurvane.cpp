@@ -501,7 +501,7 @@ void MDIMurvane::mnuOverspraak() {
 
 /// The manual, in the desktop's own viewer; that it does not open is not told.
 void MDIMurvane::mnuHelpFile() {
-  const std::filesystem::path pad = HandleidingIn(programma_.ProgrammaBestanden, HeeftHelpProgramma());
+  const std::filesystem::path pad = HandleidingIn(programma_.ProgrammaBestanden, HeeftHelpProgramma);
   if (!pad.empty()) QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(PadTekst(pad))));
 }
 
@@ -522,6 +522,7 @@ void MDIMurvane::closeEvent(QCloseEvent* gebeurtenis) {
         Form_Unload(programma_, dialogen_, ProjectOpen(project_->DeSessie()), bewaarVeld) == Vervolg::Einde;
   }
   gebeurtenis->setAccepted(einde_);
+  if (einde_ && taakbalk_ != nullptr) taakbalk_->Icoontje()->hide();
 }
 
 }  // namespace murvane

@@ -2,6 +2,7 @@
 
 #include <QDesktopServices>
 #include <QDialogButtonBox>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -10,6 +11,7 @@
 
 #include "basis/bestand.h"
 #include "basis/vensters_hulp.h"
+#include "editor/vensters_tekening.h"
 #include "shell/info.h"
 #include "shell/vensters_verloop.h"
 #include "versie.h"
@@ -18,25 +20,24 @@ namespace murvane {
 
 namespace {
 
-constexpr int Kolommen = 84;  ///< letters beside each other in the window
-
-QLabel* Regels(const char* naam, const std::string& tekst, QWidget* ouder) {
-  auto* const label = new QLabel(VanCp(tekst).remove('\r'), ouder);
-  label->setObjectName(naam);
-  label->setWordWrap(true);
-  return label;
-}
+constexpr int Kolommen = 88;  ///< letters beside each other in the window
 
 /// The user's name is made for a label: its "&" is doubled.
-QLabel* Product(const std::string& tekst, QWidget* ouder) {
-  QLabel* const label = Regels("lblProduct", tekst, ouder);
-  label->setTextFormat(Qt::PlainText);
+QLabel* Product(const std::string& tekst, VerloopVlak* ouder) {
+  QLabel* const label = ouder->MaakLabel("lblProduct", tekst);
   QFont letter = label->font();
   letter.setBold(true);
   label->setFont(letter);
   auto* const knop = new QPushButton(ouder);  // a label turns "&&" into "&" only for a control of its own
   knop->hide();
   label->setBuddy(knop);
+  return label;
+}
+
+QLabel* Beeldmerk(VerloopVlak* ouder) {
+  QLabel* const label = ouder->MaakLabel("lblBeeld", {});
+  label->setAccessibleName("MurVane");
+  label->setPixmap(Icoon("murvane").pixmap(64, 64));
   return label;
 }
 
@@ -51,6 +52,9 @@ QPushButton* MailKnop(QWidget* ouder) {
   QPalette palet = knop->palette();
   palet.setColor(QPalette::ButtonText, QColor(0x9c, 0xc8, 0xf5));
   knop->setPalette(palet);
+  QFont letter = knop->font();
+  letter.setUnderline(true);
+  knop->setFont(letter);
   QObject::connect(knop, &QPushButton::clicked, knop,
                    [] { QDesktopServices::openUrl(QUrl(VanCp(MailAdres(SteunAdres)))); });
   return knop;
@@ -80,27 +84,26 @@ frmAbout::frmAbout(const Instellingen& instellingen, const std::filesystem::path
   const InfoTeksten info = InfoTekst(instellingen);
   setWindowTitle(VanCp(info.Titel));
   auto* const vlak = new VerloopVlak(InfoBegin, VerloopEinde, this);
-  auto* const boven = new QVBoxLayout(vlak);
-  boven->setContentsMargins(24, 20, 24, 16);
-  boven->setSpacing(12);
-  boven->addWidget(Product(info.Product, vlak));
-  boven->addWidget(Regels("lblOmschrijving", info.Omschrijving, vlak));
-  boven->addWidget(MailKnop(vlak), 0, Qt::AlignLeft);
-  QPlainTextEdit* const tekst = Levering(levering, dialogen, this);
-  auto* const knoppen = new QDialogButtonBox(QDialogButtonBox::Ok, this);
+  auto* const indeling = new QVBoxLayout(vlak);
+  indeling->setContentsMargins(24, 20, 24, 16);
+  indeling->setSpacing(Marge);
+  auto* const kop = new QHBoxLayout;
+  kop->setSpacing(2 * Marge);
+  kop->addWidget(Beeldmerk(vlak));
+  kop->addWidget(Product(info.Product, vlak), 1);
+  indeling->addLayout(kop);
+  indeling->addWidget(vlak->MaakLabel("lblOmschrijving", info.Omschrijving));
+  indeling->addWidget(MailKnop(vlak), 0, Qt::AlignLeft);
+  indeling->addWidget(Levering(levering, dialogen, vlak), 1);
+  auto* const knoppen = new QDialogButtonBox(QDialogButtonBox::Ok, vlak);
   QPushButton* const cmdOK = knoppen->button(QDialogButtonBox::Ok);
   cmdOK->setObjectName("cmdOK");
   cmdOK->setAccessibleDescription("Sluit het venster.");
   connect(knoppen, &QDialogButtonBox::accepted, this, &QDialog::accept);
-  auto* const indeling = new QVBoxLayout(this);
-  indeling->setContentsMargins(0, 0, 0, 0);
-  indeling->addWidget(vlak);
-  auto* const onder = new QVBoxLayout;
-  onder->setContentsMargins(16, 8, 16, 12);
-  onder->setSpacing(10);
-  onder->addWidget(tekst, 1);
-  onder->addWidget(knoppen);
-  indeling->addLayout(onder, 1);
+  indeling->addWidget(knoppen);
+  auto* const geheel = new QVBoxLayout(this);
+  geheel->setContentsMargins(0, 0, 0, 0);
+  geheel->addWidget(vlak);
   const int breedte = Kolommen * fontMetrics().averageCharWidth();
   resize(breedte, breedte * 5 / 6);
   cmdOK->setFocus();

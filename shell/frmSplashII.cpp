@@ -14,11 +14,8 @@ namespace murvane {
 
 namespace {
 
-QLabel* Regel(const char* naam, const std::string& tekst, double factor, bool vet, QWidget* ouder) {
-  auto* const label = new QLabel(VanCp(tekst).remove('\r'), ouder);
-  label->setObjectName(naam);
-  label->setTextFormat(Qt::PlainText);
-  label->setWordWrap(true);
+QLabel* Regel(const char* naam, const std::string& tekst, double factor, bool vet, VerloopVlak* ouder) {
+  QLabel* const label = ouder->MaakLabel(naam, tekst);
   QFont letter = label->font();
   letter.setPointSizeF(letter.pointSizeF() * factor);
   letter.setBold(vet);
@@ -33,8 +30,7 @@ frmSplashII::frmSplashII() : VerloopVlak(SplashBegin, VerloopEinde, nullptr) {
   setWindowFlags(Qt::SplashScreen);
   const SplashTeksten teksten = SplashTekst();
   setWindowTitle(VanCp(teksten.Titel));
-  auto* const beeld = new QLabel(this);
-  beeld->setObjectName("lblBeeld");
+  QLabel* const beeld = MaakLabel("lblBeeld", {});
   beeld->setAccessibleName("MurVane");
   beeld->setPixmap(Icoon("murvane").pixmap(96, 96));
   auto* const kolom = new QVBoxLayout;
@@ -58,8 +54,14 @@ void frmSplashII::Toon() {
   if (const QScreen* const scherm = QGuiApplication::primaryScreen())
     move(scherm->availableGeometry().center() - rect().center());
   show();
+  activateWindow();                   // the window system gives a splash no keys by itself
   QCoreApplication::processEvents();  // it is drawn before the slow loading starts
   Timer1.start(SplashMs);
+}
+
+void frmSplashII::Daarna(QObject& ontvanger, const std::function<void()>& stap) {
+  if (voorbij_) return stap();
+  connect(this, &frmSplashII::Voorbij, &ontvanger, stap);
 }
 
 void frmSplashII::mousePressEvent(QMouseEvent* /*event*/) {

@@ -2,6 +2,7 @@
 // The window that shows while the program starts.
 
 #include <QTimer>
+#include <functional>
 
 #include "shell/vensters_verloop.h"
 
@@ -15,7 +16,8 @@ class frmSplashII : public VerloopVlak {
 
   /// Shows the window, draws it, and starts its two seconds.
   void Toon();
-  [[nodiscard]] bool IsVoorbij() const { return voorbij_; }
+  /// Carries out a step for `ontvanger` once its time is over, or at once when it is over already.
+  void Daarna(QObject& ontvanger, const std::function<void()>& stap);
 
  signals:
   /// The time is over, or the user clicked or pressed a key; the window closes behind it.

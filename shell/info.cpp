@@ -73,10 +73,11 @@ std::string MailAdres(std::string_view adres) {
   return "mailto:" + std::string(adres) + "?subject= Feedback " + std::string(ProgrammaTitel);
 }
 
-std::filesystem::path HandleidingIn(const std::filesystem::path& map, bool helpProgramma) {
+std::filesystem::path HandleidingIn(const std::filesystem::path& map,
+                                    const std::function<bool()>& heeftHelpProgramma) {
   std::error_code geen;
   const std::filesystem::path hulp = map / "MurVane.chm";
-  if (helpProgramma && std::filesystem::is_regular_file(hulp, geen)) return hulp;
+  if (std::filesystem::is_regular_file(hulp, geen) && heeftHelpProgramma()) return hulp;
   const std::filesystem::path bladen = map / "help" / "index.html";
   return std::filesystem::is_regular_file(bladen, geen) ? bladen : std::filesystem::path();
 }

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -55,19 +56,16 @@ struct InfoTeksten {
 inline constexpr std::string_view LeveringBestand = "levering.txt";
 
 /// The manual in `map`: the help file or, where that is missing or cannot be shown, the manual's first page.
-/// Empty when neither is there.
-[[nodiscard]] std::filesystem::path HandleidingIn(const std::filesystem::path& map, bool helpProgramma);
+/// Empty when neither is there. `heeftHelpProgramma` tells whether help files can be shown; it is asked only
+/// when there is one, as the answer takes the desktop a while.
+[[nodiscard]] std::filesystem::path HandleidingIn(const std::filesystem::path& map,
+                                                  const std::function<bool()>& heeftHelpProgramma);
 
 // ---- The tray icon ----
 
 inline constexpr int TrayTipLengte = 64;
-inline constexpr int BerichtDubbelklik = 515;  ///< left button; every other message is ignored
 
 /// The tip of the icon: the program's title, a NUL, and blanks up to 64 characters.
 [[nodiscard]] std::string TrayTip();
-/// Whether a message of the icon opens its menu.
-[[nodiscard]] constexpr bool OpentTaakmenu(int bericht) {
-  return bericht == BerichtDubbelklik;
-}
 
 }  // namespace murvane

@@ -34,6 +34,11 @@ void Zet(std::optional<double>& eigenschap, double waarde) {
   if (eigenschap && std::isfinite(waarde)) eigenschap = waarde;
 }
 
+/// A factor of the scaling. One that cannot be worked out is 0, so that what it divides is skipped too.
+double Factor(double ontwerp, double nu) {
+  return nu == 0 ? 0 : ontwerp / nu;
+}
+
 /// A control of a hidden tab stays hidden.
 double MetTabVerschuiving(const Stuurvlak& vlak, double left) {
   return vlak.Left.value_or(0) < 0 ? left - TabVerschuiving : left;
@@ -94,8 +99,8 @@ void ResizeForm(Ontwerp& ontwerp, ResizeVenster& venster, std::int16_t verplaats
   if (venster.Geminimaliseerd) return;
   const double dY = std::floor((venster.BinnenHoogte - ontwerp.OrigHoogte) / 2);
   const double dX = std::floor((venster.BinnenBreedte - ontwerp.OrigBreedte) / 2);
-  const double sY = (ontwerp.OrigHoogte - Strook) / (venster.BinnenHoogte - Strook);
-  const double sX = ontwerp.OrigBreedte / venster.BinnenBreedte;
+  const double sY = Factor(ontwerp.OrigHoogte - Strook, venster.BinnenHoogte - Strook);
+  const double sX = Factor(ontwerp.OrigBreedte, venster.BinnenBreedte);
   const std::size_t bekend = ontwerp.OrigTop.size();
   for (std::size_t i = 0; i < venster.Vlakken.size() && i < bekend; ++i) {
     Stuurvlak& vlak = venster.Vlakken[i];

@@ -72,10 +72,10 @@ int Draai(murvane::Dialogen& dialogen, const murvane::StartGegevens& start, bool
     hoofdvenster.show();
     hoofdvenster.OpenVanOpdrachtregel();
   };
-  if (!splash || splash->IsVoorbij()) {
-    toon();
+  if (splash) {
+    splash->Daarna(hoofdvenster, toon);
   } else {
-    QObject::connect(&*splash, &murvane::frmSplashII::Voorbij, &hoofdvenster, toon);
+    toon();
   }
   return QApplication::exec();
 }

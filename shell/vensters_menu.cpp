@@ -60,9 +60,9 @@ Taakbalk::Taakbalk(QWidget* venster)
   menu_->setDefaultAction(exit_);
   icoon_->setObjectName("Picture1");
   icoon_->setIcon(Icoon("murvane"));
-  icoon_->setToolTip(VanCp(ProgrammaTitel));
+  icoon_->setToolTip(VanCp(TrayTip().c_str()));  // up to its NUL
   connect(icoon_, &QSystemTrayIcon::activated, this, &Taakbalk::Geactiveerd);
-  if (QSystemTrayIcon::isSystemTrayAvailable()) icoon_->show();
+  icoon_->show();  // where there is no place for it yet, it comes when there is
 }
 
 Taakbalk::~Taakbalk() {

@@ -1,16 +1,25 @@
 #include "shell/vensters_verloop.h"
 
+#include <QLabel>
 #include <QPainter>
 #include <algorithm>
+
+#include "basis/vensters_hulp.h"
 
 namespace murvane {
 
 VerloopVlak::VerloopVlak(Verloopkleur van, Verloopkleur naar, QWidget* ouder)
-    : QWidget(ouder), van_(van), naar_(naar) {
-  QPalette palet = palette();
-  for (const auto rol : {QPalette::WindowText, QPalette::Text, QPalette::Link, QPalette::LinkVisited})
-    palet.setColor(rol, Qt::white);
-  setPalette(palet);
+    : QWidget(ouder), van_(van), naar_(naar) {}
+
+QLabel* VerloopVlak::MaakLabel(const char* naam, const std::string& tekst) {
+  auto* const label = new QLabel(VanCp(tekst).remove('\r'), this);
+  label->setObjectName(naam);
+  label->setTextFormat(Qt::PlainText);
+  label->setWordWrap(true);
+  QPalette palet = label->palette();
+  palet.setColor(QPalette::WindowText, Qt::white);
+  label->setPalette(palet);
+  return label;
 }
 
 void VerloopVlak::paintEvent(QPaintEvent* /*event*/) {

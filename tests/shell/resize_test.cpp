@@ -99,13 +99,81 @@ TEST(ResizeForm, MovesByHalfTheDifference) {
   EXPECT_EQ(o.ResizeKlaar, -1);
 }
 
+TEST(ResizeForm, AControlOfAFrameStaysInItWhereverItStandsNow) {
+  ResizeVenster f = Voorbeeld();
+  f.Vlakken.push_back({"txtverborgen", false, Houder::Frame, 70, 80 - 75000, 285, 700, {}, {}});
+  Ontwerp o = ResizeInit(f);
+  f.BinnenBreedte = 9200;
+  f.BinnenHoogte = 6200;
+  for (const char* const naam : {"txtfan", "txtverborgen"}) Vlak(f, naam).Top = 9999;
+  ResizeForm(o, f, -1);
+  EXPECT_EQ(Vlak(f, "txtfan").Top, 50);
+  EXPECT_EQ(Vlak(f, "txtfan").Left, 60);
+  EXPECT_EQ(Vlak(f, "txtverborgen").Top, 70);
+  EXPECT_EQ(Vlak(f, "txtverborgen").Left, 80) << "the frame is hidden, not what stands in it";
+}
+
+TEST(ResizeForm, ALineOffTheFormIsNoHiddenControl) {
+  ResizeVenster f = Voorbeeld();
+  Vlak(f, "Line1").Left = -20;
+  Ontwerp o = ResizeInit(f);
+  f.BinnenBreedte = 9200;  // dX = 100
+  ResizeForm(o, f, -1);
+  EXPECT_EQ(Vlak(f, "Line1").Left, 80);
+  f.BinnenBreedte = 8000;  // dX = -500
+  ResizeForm(o, f, -1);
+  EXPECT_EQ(Vlak(f, "Line1").Left, -520);
+  ResizeForm(o, f, -1);
+  EXPECT_EQ(Vlak(f, "Line1").Left, -520);
+}
+
+TEST(ResizeForm, NeverTouchesSSTab1) {
+  ResizeVenster f = Voorbeeld();
+  Ontwerp o = ResizeInit(f);
+  o.ResizeKlaar = 0;
+  Stuurvlak& tab = Vlak(f, "SSTab1");
+  tab = {"SSTab1", false, Houder::Anders, 1, 2, 3, 4, 5, 6};
+  f.BinnenBreedte = 18000;
+  f.BinnenHoogte = 11600;
+  for (const std::int16_t verplaatsen : {std::int16_t{-1}, std::int16_t{0}}) {
+    ResizeForm(o, f, verplaatsen);
+    EXPECT_EQ(tab.Top, 1);
+    EXPECT_EQ(tab.Left, 2);
+    EXPECT_EQ(tab.Height, 3);
+    EXPECT_EQ(tab.Width, 4);
+    EXPECT_EQ(tab.FontSize, 5);
+    EXPECT_EQ(tab.RightMargin, 6);
+  }
+}
+
+TEST(ResizeForm, APropertyThatAControlLacksIsSkippedAlone) {
+  ResizeVenster f = Voorbeeld();
+  f.Vlakken.push_back({"zonderLeft", false, Houder::Anders, 100, {}, 200, {}, {}, {}});
+  Ontwerp o = ResizeInit(f);
+  f.BinnenHoogte = 6100;
+  ResizeForm(o, f, -1);
+  EXPECT_EQ(Vlak(f, "zonderLeft").Top, 150);
+  EXPECT_FALSE(Vlak(f, "zonderLeft").Left.has_value());
+  EXPECT_FALSE(Vlak(f, "zonderLeft").Width.has_value());
+}
+
 TEST(ResizeForm, CutsAnOddDifferenceTowardsMinusInfinity) {
-  for (const auto& [breedte, left] : {std::pair{9001, 1000}, {8999, 999}, {9002, 1001}, {8998, 999}}) {
+  // 1 twip more is Int(0.5) = 0, 1 less Int(-0.5) = -1, 3 more Int(1.5) = 1, 3 less Int(-1.5) = -2
+  for (const auto& [verschil, schuif] :
+       {std::pair{0, 0}, {1, 0}, {-1, -1}, {2, 1}, {-2, -1}, {3, 1}, {-3, -2}}) {
     ResizeVenster f = Voorbeeld();
     Ontwerp o = ResizeInit(f);
-    f.BinnenBreedte = breedte;
+    f.BinnenBreedte = 9000 + verschil;
     ResizeForm(o, f, -1);
-    EXPECT_EQ(Vlak(f, "txtProNum").Left, left) << breedte;
+    EXPECT_EQ(Vlak(f, "txtProNum").Left, 1000 + schuif) << verschil;
+    EXPECT_EQ(Vlak(f, "txtProNum").Top, 900) << verschil;
+    EXPECT_EQ(Vlak(f, "Line1").Width, 400 + schuif) << verschil;
+    f.BinnenBreedte = 9000;
+    f.BinnenHoogte = 6000 + verschil;
+    ResizeForm(o, f, -1);
+    EXPECT_EQ(Vlak(f, "txtProNum").Left, 1000) << verschil;
+    EXPECT_EQ(Vlak(f, "txtProNum").Top, 900 + schuif) << verschil;
+    EXPECT_EQ(Vlak(f, "Line1").Height, 300 + schuif) << verschil;
   }
 }
 
@@ -168,6 +236,44 @@ TEST(ResizeForm, TheFirstProportionalCallOnlyArms) {
   EXPECT_EQ(Vlak(f, "RichTextBox1").RightMargin, 10000);
 }
 
+TEST(ResizeForm, ScalesTheTwoDirectionsApartWhateverAControlStandsIn) {
+  ResizeVenster f = Voorbeeld();
+  Vlak(f, "Line1").Left = -30;
+  Ontwerp o = ResizeInit(f);
+  o.ResizeKlaar = 0;
+  f.BinnenBreedte = 18000;  // sX = 9000 / 18000 = 0.5
+  f.BinnenHoogte = 22800;   // sY = 5600 / 22400 = 0.25
+  ResizeForm(o, f, 0);
+  EXPECT_EQ(Vlak(f, "Line1").Top, 400);
+  EXPECT_EQ(Vlak(f, "Line1").Left, -60) << "a line is never hidden by its place";
+  EXPECT_EQ(Vlak(f, "Line1").Height, 1200);
+  EXPECT_EQ(Vlak(f, "Line1").Width, 800);
+  EXPECT_EQ(Vlak(f, "txtfan").Top, 200);
+  EXPECT_EQ(Vlak(f, "txtfan").Left, 120);
+  EXPECT_EQ(Vlak(f, "txtfan").Height, 1140);
+  EXPECT_EQ(Vlak(f, "txtfan").Width, 1400);
+  EXPECT_EQ(Vlak(f, "txtHoogte").Top, 2000);
+  EXPECT_EQ(Vlak(f, "txtHoogte").Left, 1200);
+  EXPECT_EQ(Vlak(f, "txtBAftak").Left, 1220 - 75000);
+  EXPECT_EQ(Vlak(f, "RichTextBox1").FontSize, 18) << "by the width";
+  EXPECT_EQ(Vlak(f, "RichTextBox1").RightMargin, 20000) << "by the height";
+  EXPECT_TRUE(f.HertekentZelf);
+}
+
+TEST(ResizeForm, TheFirstProportionalCallArmsAMinimisedFormToo) {
+  ResizeVenster f = Voorbeeld();
+  Ontwerp o = ResizeInit(f);
+  f.BinnenBreedte = 18000;
+  f.Geminimaliseerd = true;
+  ResizeForm(o, f, 0);
+  EXPECT_EQ(o.ResizeKlaar, 0);
+  ResizeForm(o, f, 0);
+  EXPECT_EQ(Vlak(f, "txtProNum").Left, 1000) << "a minimised form is not scaled";
+  f.Geminimaliseerd = false;
+  ResizeForm(o, f, 0);
+  EXPECT_EQ(Vlak(f, "txtProNum").Left, 2000);
+}
+
 TEST(ResizeForm, ScalingCutsToWholeTwips) {
   ResizeVenster f = Voorbeeld();
   Ontwerp o = ResizeInit(f);
@@ -189,6 +295,24 @@ TEST(ResizeForm, ADivisionByZeroIsSkipped) {
   EXPECT_EQ(Vlak(f, "txtProNum").Left, 1000);
   EXPECT_EQ(Vlak(f, "txtProNum").FontSize, 8);
   EXPECT_EQ(Vlak(f, "txtProNum").Top, 900) << "the height's factor is 1";
+}
+
+TEST(ResizeForm, AFactorThatCannotBeWorkedOutLeavesItsDirectionAsItWas) {
+  for (const double hoogte : {400.0, 6000.0}) {  // the strip alone, and the design
+    ResizeVenster f = Voorbeeld();
+    Ontwerp o = ResizeInit(f);
+    o.ResizeKlaar = 0;
+    f.BinnenHoogte = hoogte;
+    f.BinnenBreedte = hoogte == 400 ? 18000 : 0;
+    ResizeForm(o, f, 0);
+    const Stuurvlak& vlak = Vlak(f, "RichTextBox1");
+    EXPECT_EQ(vlak.Top, 10);
+    EXPECT_EQ(vlak.Height, 30);
+    EXPECT_EQ(vlak.RightMargin, 5000);
+    EXPECT_EQ(vlak.Left, hoogte == 400 ? 40 : 20);
+    EXPECT_EQ(vlak.Width, hoogte == 400 ? 80 : 40);
+    EXPECT_EQ(vlak.FontSize, hoogte == 400 ? 18 : 9);
+  }
 }
 
 }  // namespace

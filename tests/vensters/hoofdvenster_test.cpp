@@ -4,6 +4,8 @@
 
 #include <QAction>
 #include <QComboBox>
+#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QMenu>
 #include <QTextEdit>
 #include <QToolButton>
@@ -161,6 +163,23 @@ TEST_F(Hoofdvensters, ClosingTheProjectTakesItsResultsAlong) {
   EXPECT_EQ(Zoek<QLabel>("lblLwA")->text(), "");
   for (const std::string* const blok : Blokken()) EXPECT_EQ(*blok, "");
   EXPECT_TRUE(programma.DialoogNaam.empty());
+}
+
+TEST_F(Hoofdvensters, ClosingTheProjectClosesTheOtherWindowsLastOpenedFirst) {
+  Open("kantoor.mrv");
+  std::vector<std::string> gesloten;
+  for (const char* const naam : {"eerste", "tweede", "derde"}) {
+    QMdiSubWindow* const kader = Zoek<QMdiArea>("")->addSubWindow(new QWidget);
+    kader->setAttribute(Qt::WA_DeleteOnClose);
+    kader->show();
+    QObject::connect(kader, &QObject::destroyed, [&gesloten, naam] { gesloten.emplace_back(naam); });
+  }
+  script.Box(VraagSluiten, Antwoord::OK);
+  Kies("mnuSluiten");
+  QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_EQ(gesloten, (std::vector<std::string>{"derde", "tweede", "eerste"}));
+  EXPECT_TRUE(venster->isVisible());
+  EXPECT_TRUE(ProjectVenster()->isVisible());
 }
 
 TEST_F(Hoofdvensters, AsksForTheUsersName) {

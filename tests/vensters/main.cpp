@@ -8,9 +8,11 @@
 
 namespace {
 
-/// The off-screen platform tells at every pop-up what it cannot do.
+/// The off-screen platform tells at every pop-up and tray icon what it cannot do.
 void MeldBericht(QtMsgType, const QMessageLogContext&, const QString& bericht) {
-  if (!bericht.startsWith("This plugin does not support")) std::cerr << bericht.toStdString() << '\n';
+  const bool bekend =
+      bericht.startsWith("This plugin does not support") || bericht.contains("systemTrayWindowChanged");
+  if (!bekend) std::cerr << bericht.toStdString() << '\n';
 }
 
 }  // namespace

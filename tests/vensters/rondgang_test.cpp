@@ -913,9 +913,11 @@ std::vector<std::pair<QPalette::ColorRole, QPalette::ColorRole>> Kleurparen(cons
   return {};
 }
 
-/// A gradient is no colour of the palette; its lightest is where it begins.
+/// A gradient is no colour of the palette; its lightest is where it begins. A box on it has a ground of its
+/// own.
 QColor Grond(const QWidget& vak, QPalette::ColorRole rol) {
-  const bool verloop = qobject_cast<const VerloopVlak*>(vak.parentWidget()) != nullptr;
+  const bool eigen = rol == QPalette::Base || rol == QPalette::Highlight;
+  const bool verloop = !eigen && qobject_cast<const VerloopVlak*>(vak.parentWidget()) != nullptr;
   return verloop ? QColor(InfoBegin.Rood, InfoBegin.Groen, InfoBegin.Blauw) : vak.palette().color(rol);
 }
 
