@@ -102,6 +102,16 @@ void Omtrek(QPainter& schilder, QStyle::PrimitiveElement deel, const QStyleOptio
   schilder.restore();
 }
 
+/// The rim of a control where the style's own is lost.
+void Rand(QPainter& schilder, QStyle::PrimitiveElement deel, const QStyleOption& optie) {
+  const bool focus = optie.state & QStyle::State_HasFocus;
+  const QPalette& palet = QApplication::palette();
+  if (HeeftOmtrek(deel, optie) && IsHoogContrast(palet))
+    Ring(schilder, optie.rect, focus ? Ringkleur() : palet.color(QPalette::WindowText), focus ? 2 : 1);
+  if (deel == QStyle::PE_PanelLineEdit && focus && Ringkleur(optie.palette) != Ringkleur())
+    Ring(schilder, optie.rect.adjusted(1, 1, -1, -1), Ringkleur(optie.palette), 2);
+}
+
 bool IsSchuifvak(const QWidget* vak) {
   return qobject_cast<const QAbstractScrollArea*>(vak) != nullptr;
 }
@@ -169,13 +179,7 @@ void Stijl::drawPrimitive(PrimitiveElement deel, const QStyleOption* optie, QPai
   if (deel != PE_FrameFocusRect) {
     QProxyStyle::drawPrimitive(deel, optie, schilder, vak);
     Omtrek(*schilder, deel, *optie);
-    const bool focus = optie->state & State_HasFocus;
-    const QPalette& palet = QApplication::palette();
-    if (HeeftOmtrek(deel, *optie) && IsHoogContrast(palet))
-      Ring(*schilder, optie->rect, focus ? Ringkleur() : palet.color(QPalette::WindowText), focus ? 2 : 1);
-    if (deel == PE_PanelLineEdit && focus && Ringkleur(optie->palette) != Ringkleur())
-      Ring(*schilder, optie->rect.adjusted(1, 1, -1, -1), Ringkleur(optie->palette), 2);
-    return;
+    return Rand(*schilder, deel, *optie);
   }
   const auto* const lijst = qobject_cast<const QAbstractItemView*>(vak);
   if (lijst != nullptr && lijst->frameShape() != QFrame::NoFrame) return;  // its frame shows the ring
@@ -191,7 +195,7 @@ void Stijl::drawControl(ControlElement deel, const QStyleOption* optie, QPainter
   if (deel == CE_PushButton && (optie->state & Toets) == Toets)  // a default button looks focused always
     return Ring(*schilder, optie->rect.adjusted(3, 3, -3, -3), Ringkleur(), 2);
   if (deel != CE_ShapedFrame || !IsSchuifvak(vak) || !(optie->state & State_HasFocus)) return;
-  Ring(*schilder, optie->rect, Ringkleur(vak->palette()), 1 + Ringruimte);
+  Ring(*schilder, optie->rect, Ringkleur(), 1 + Ringruimte);
 }
 
 QIcon Stijl::standardIcon(StandardPixmap welke, const QStyleOption* optie, const QWidget* vak) const {

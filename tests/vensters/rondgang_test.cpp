@@ -893,6 +893,27 @@ TEST(Rondgang, TheFocusShowsAtHighContrast) {
   Bezoek([](Wereld&, QWidget& venster) { ControleerFocus(venster); }, EnkeleFotos());
 }
 
+/// What has a rim of its own, also where its ground is that of the window.
+bool HeeftRand(const QWidget& vak) {
+  const auto* const knop = qobject_cast<const QToolButton*>(&vak);
+  return qobject_cast<const QListWidget*>(&vak) != nullptr || (knop != nullptr && !knop->autoRaise()) ||
+         (qobject_cast<const QPushButton*>(&vak) != nullptr && vak.objectName() != "lblMail");
+}
+
+TEST(Rondgang, ControlsHaveARimAtHighContrast) {
+  const Thema contrast(HoogContrast());
+  Bezoek(
+      [](Wereld&, QWidget& venster) {
+        for (const QWidget* const vak : Zichtbaar(venster)) {
+          if (!HeeftRand(*vak) || !vak->isEnabled()) continue;
+          const QImage beeld = venster.grab(Plaats(*vak, venster)).toImage();
+          const QColor rand = beeld.pixelColor(0, beeld.height() / 2);
+          EXPECT_GE(Contrast(rand, vak->palette().color(QPalette::Window)), 3) << Naam(*vak);
+        }
+      },
+      EnkeleFotos());
+}
+
 // ---- Colours ----
 
 /// What stands on what in a control; nothing for one without text.
