@@ -120,6 +120,7 @@ class Afdrukvenster : public QPrintDialog {
     if (indeling == nullptr) return;
     vinkje_ = new QCheckBox("Afdrukken naar &bestand (tekstrapport, *.prn)", this);
     vinkje_->setObjectName("chkNaarBestand");
+    vinkje_->setAccessibleDescription("Bewaart het rapport als tekst en drukt niets af.");
     indeling->insertWidget(indeling->count() - 1, vinkje_);
   }
   [[nodiscard]] bool NaarBestand() const { return vinkje_ != nullptr && vinkje_->isChecked(); }
@@ -164,6 +165,10 @@ std::string SchermDialogen::Invoer(const InvoerVraag& vraag) {
   dialoog.setLabelText(VanCp(vraag.Tekst).replace('&', "&&"));  // the label takes one for a mnemonic
   if (auto* const label = dialoog.findChild<QLabel*>()) label->setTextFormat(Qt::PlainText);
   dialoog.setTextValue(VanCp(vraag.Standaard));
+  if (auto* const veld = dialoog.findChild<QLineEdit*>()) {
+    veld->setAccessibleName(VanCp(vraag.Titel));
+    veld->setAccessibleDescription(VanCp(vraag.Tekst) + "\nLeeg is hetzelfde als Annuleren.");
+  }
   return dialoog.exec() == QDialog::Accepted ? NaarCp(dialoog.textValue()) : std::string();
 }
 

@@ -192,6 +192,10 @@ TEST_F(Dialoogvensters, TheInputBoxOpensWithItsTextSelected) {
     auto* const vak = box.findChild<QLineEdit*>();
     EXPECT_EQ(box.windowTitle(), "Instelling gebruikersnaam");
     EXPECT_EQ(dynamic_cast<QInputDialog&>(box).labelText(), "Huidige naam:\nBureau één\n\nNieuwe naam");
+    const auto* const veld = box.findChild<QLineEdit*>();
+    EXPECT_EQ(veld->accessibleName(), "Instelling gebruikersnaam");
+    EXPECT_EQ(veld->accessibleDescription(),
+              "Huidige naam:\nBureau één\n\nNieuwe naam\nLeeg is hetzelfde als Annuleren.");
     EXPECT_EQ(Opschriften(box), (QStringList{"Annuleren", "OK"}));
     EXPECT_EQ(box.parentWidget(), &hoofd);
     EXPECT_TRUE(vak->hasFocus());

@@ -291,6 +291,8 @@ TEST(Afdrukdialoog, PrintsOnTheChosenPrinter) {
     ASSERT_NE(bestand, nullptr);
     bestand->setText(QString::fromStdString(PadTekst(pad)));
     EXPECT_FALSE(dialoog.findChild<QCheckBox*>("chkNaarBestand")->isChecked());
+    EXPECT_EQ(dialoog.findChild<QCheckBox*>("chkNaarBestand")->accessibleDescription(),
+              "Bewaart het rapport als tekst en drukt niets af.");
     dialoog.accept();
   });
   SchermDialogen dialogen;
