@@ -1,8 +1,11 @@
 #include "basis/vensters_hulp.h"
 
+#include <QFont>
+#include <QFontMetrics>
 #include <QLabel>
 #include <QPalette>
 #include <QProgressBar>
+#include <QScreen>
 #include <QWidget>
 
 #include "basis/fout.h"
@@ -54,6 +57,19 @@ void ZetUitleg(QWidget& venster, std::span<const Uitleg> uitleg) {
     if (vak == nullptr) throw Fout(FoutNummer::OngeldigArgument);
     vak->setAccessibleDescription(tekst);
   }
+}
+
+void PasTitel(QWidget& vak, const QString& titel) {
+  constexpr int Rand = 130;
+  QFont vet = vak.font();
+  vet.setBold(true);  // as most frames write it
+  vak.setMinimumWidth(QFontMetrics(vet).horizontalAdvance(titel) + Rand);
+}
+
+void ZetMaat(QWidget& venster, QSize maat) {
+  constexpr QSize Kader(16, 48);
+  const QSize vrij = venster.screen()->availableSize() - Kader;
+  venster.resize(maat.boundedTo(vrij));
 }
 
 void KleurVoortgang(QProgressBar& balk) {

@@ -2,6 +2,7 @@
 // What all windows share: text between Windows-1252 and the toolkit, colours, and boxes.
 
 #include <QColor>
+#include <QSize>
 #include <QString>
 #include <cstdint>
 #include <span>
@@ -42,6 +43,13 @@ struct Uitleg {
 
 /// Gives the controls of a window their accessible descriptions. Fout 5 for a name that the window lacks.
 void ZetUitleg(QWidget& venster, std::span<const Uitleg> uitleg);
+
+/// Makes a part of a small window, or the window itself, so wide that the frame has room for the title
+/// between its icon and its buttons.
+void PasTitel(QWidget& vak, const QString& titel);
+
+/// The size that a window opens with, or as much of it as its screen has room for beside the frame.
+void ZetMaat(QWidget& venster, QSize maat);
 
 /// The colours of every progress bar: dark grey on light grey, whatever the theme.
 void KleurVoortgang(QProgressBar& balk);

@@ -81,7 +81,7 @@ frmOnderhoud::frmOnderhoud(CatalogusSoort soort, OnderhoudOmgeving omgeving, QWi
   midden->addLayout(rechts);
   indeling->addLayout(midden, 1);
   indeling->addWidget(BouwStatusbalk());
-  resize(980, 520);
+  ZetMaat(*this, {980, 520});
   ZetUitleg(*this, Uitleggen);
   VulLijst();
   ToonVelden();
@@ -369,6 +369,7 @@ std::optional<OverzichtUitslag> frmOnderhoud::MaakOverzicht(std::string_view naa
 }
 
 void frmOnderhoud::ToonOverzicht(OverzichtUitslag overzicht) {
+  overzicht.Map = omgeving_.Map;
   frmOverzicht venster(std::move(overzicht), omgeving_.Dialogen, this);
   (void)venster.exec();
 }

@@ -65,7 +65,7 @@ frmOverzicht::frmOverzicht(OverzichtUitslag overzicht, Dialogen& dialogen, QWidg
   balk->addStretch();
   indeling->addLayout(balk);
   indeling->addWidget(txtOverzicht);
-  resize(1000, 640);
+  ZetMaat(*this, {1000, 640});
   PasLetterAan();
   txtOverzicht->setFocus();
 }

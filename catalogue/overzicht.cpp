@@ -262,6 +262,7 @@ void Opslaan(const OverzichtUitslag& overzicht, Dialogen& dialogen) {
     BestandVraag vraag;
     vraag.Titel = "Opslaan als";
     vraag.Filter = overzicht.OverzichtFilter;
+    vraag.BeginMap = overzicht.Map;
     vraag.OverschrijfVraag = true;
     vraag.Extensie = Achtervoegsel(overzicht.OverzichtFilter);
     const std::filesystem::path pad = dialogen.OpslaanDialoog(vraag);

@@ -3,6 +3,7 @@
 // holds a search text, as one text to show and save and as pages to print. Texts are Windows-1252.
 
 #include <cstddef>
+#include <filesystem>
 #include <functional>
 #include <optional>
 #include <string>
@@ -48,6 +49,7 @@ struct OverzichtUitslag {
   std::string OverzichtTekst;                ///< the whole listing; its last line has no end
   std::vector<std::string> OverzichtRegels;  ///< the entries, each with the end of its last line
   std::string OverzichtFilter;
+  std::filesystem::path Map{};  ///< where the save dialog opens
 
   /// The number of records listed.
   [[nodiscard]] std::size_t Aantal() const { return OverzichtRegels.size(); }

@@ -12,6 +12,7 @@
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QShowEvent>
 
 #include "basis/bestand.h"
 #include "basis/fout.h"
@@ -101,8 +102,8 @@ std::filesystem::path Vraag(QWidget* ouder, const BestandVraag& vraag, QFileDial
   dialoog.setNameFilter(FilterVan(vraag.Filter));
   dialoog.setFileMode(vraag.BestandMoetBestaan ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
   dialoog.setOption(QFileDialog::DontConfirmOverwrite, !vraag.OverschrijfVraag);
-  const bool eigenMap = vraag.Naam.has_parent_path();
-  dialoog.setDirectory(NaarQt(eigenMap ? vraag.Naam.parent_path() : vraag.BeginMap));
+  const std::filesystem::path map = vraag.Naam.has_parent_path() ? vraag.Naam.parent_path() : vraag.BeginMap;
+  if (!map.empty()) dialoog.setDirectory(NaarQt(map));  // an empty one would be the whole computer
   dialoog.setDefaultSuffix(VanCp(vraag.Extensie));
   if (vraag.Naam.has_filename()) dialoog.selectFile(NaarQt(vraag.Naam.filename()));
   if (dialoog.exec() != QDialog::Accepted || dialoog.selectedFiles().isEmpty())
@@ -132,6 +133,13 @@ class Afdrukvenster : public QPrintDialog {
     } else {
       QPrintDialog::accept();
     }
+  }
+
+ protected:
+  /// The toolkit shows the choice of pages each time, also without its option; all pages are printed.
+  void showEvent(QShowEvent* gebeurtenis) override {
+    if (auto* const keuze = findChild<QWidget*>("gbPrintRange")) keuze->hide();
+    QPrintDialog::showEvent(gebeurtenis);
   }
 
  private:
@@ -166,8 +174,9 @@ std::string SchermDialogen::Invoer(const InvoerVraag& vraag) {
   if (auto* const label = dialoog.findChild<QLabel*>()) label->setTextFormat(Qt::PlainText);
   dialoog.setTextValue(VanCp(vraag.Standaard));
   if (auto* const veld = dialoog.findChild<QLineEdit*>()) {
-    veld->setAccessibleName(VanCp(vraag.Titel));
+    veld->setAccessibleName(dialoog.windowTitle());
     veld->setAccessibleDescription(VanCp(vraag.Tekst) + "\nLeeg is hetzelfde als Annuleren.");
+    PasTitel(*veld, dialoog.windowTitle());
   }
   return dialoog.exec() == QDialog::Accepted ? NaarCp(dialoog.textValue()) : std::string();
 }

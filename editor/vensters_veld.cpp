@@ -54,6 +54,13 @@ char32_t Teken(const QKeyEvent& event) {
   return sneltoets ? 0 : tekens.front();
 }
 
+/// Alt and a letter belong to a button or a menu, also when that is disabled; AltGr types, and is Ctrl and
+/// Alt where it is no key of its own.
+bool IsMnemonic(const QKeyEvent& event) {
+  return (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == Qt::AltModifier &&
+         Teken(event) != 0;
+}
+
 int VakBreedte(const QWidget& vak) {
   return vak.fontMetrics().horizontalAdvance("0000,00") + 14;
 }
@@ -121,6 +128,7 @@ bool InvoerVeld::event(QEvent* event) {
 
 void InvoerVeld::keyPressEvent(QKeyEvent* event) {
   if (IsEnter(event->key())) return emit Enter();
+  if (IsMnemonic(*event)) return event->ignore();
   if (event->key() == Qt::Key_Escape) {
     ZetKleur(MagToets(regel_, 27).Achtergrond);
     return emit Escape();

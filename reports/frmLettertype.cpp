@@ -87,6 +87,7 @@ frmLettertype::frmLettertype(DrukInstelling& instelling, const Fonts& fonts, QWi
   geheel->addWidget(knoppen);
   ZetUitleg(*this, Uitleggen);
   laadfout_ = LaadVenster(venster_, instelling_, fonts);
+  PasTitel(*this, windowTitle());
   Toon();
 }
 

@@ -31,6 +31,7 @@ frmSelGraf::frmSelGraf(QWidget* ouder) : QDialog(ouder) {
   auto* eerste = Optie(1, "Lp, &1 meter");
   rijen->addWidget(eerste);
   rijen->addWidget(Optie(2, "Lp, &galmveld"));
+  PasTitel(*kader, windowTitle());
   auto* knoppen = new QDialogButtonBox(this);
   auto* accoord = knoppen->addButton("&OK", QDialogButtonBox::AcceptRole);
   accoord->setObjectName("Command1");

@@ -3,7 +3,6 @@
 #include <QDate>
 #include <QEvent>
 #include <QLocale>
-#include <QTranslator>
 #include <chrono>
 #include <filesystem>
 #include <iostream>
@@ -89,7 +88,7 @@ int main(int argc, char** argv) {
   QApplication::setDesktopFileName("murvane");
   murvane::ZetStijl(toepassing);
   QLocale::setDefault(QLocale(QLocale::Dutch, QLocale::Netherlands));
-  QTranslator vertaling;
+  murvane::Vertaling vertaling;
   if (murvane::LaadVertaling(vertaling)) QCoreApplication::installTranslator(&vertaling);
 
   const bool rookproef = murvane::IsRookproef(qgetenv(murvane::RookproefVariabele).toStdString());

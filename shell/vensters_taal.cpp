@@ -3,9 +3,33 @@
 #include <QCoreApplication>
 #include <QLibraryInfo>
 #include <QStringList>
-#include <QTranslator>
+#include <array>
+#include <string_view>
+#include <utility>
 
 namespace murvane {
+
+namespace {
+
+/// The kinds of the rows in a file dialog.
+constexpr auto Bestandssoorten = std::to_array<std::pair<std::string_view, const char*>>({
+    {"Drive", "Station"},
+    {"Folder", "Map"},
+    {"File Folder", "Map"},
+    {"Alias", "Snelkoppeling"},
+    {"Shortcut", "Snelkoppeling"},
+    {"Unknown", "Onbekend"},
+});
+
+}  // namespace
+
+QString Vertaling::translate(const char* context, const char* bron, const char* uitleg, int aantal) const {
+  QString tekst = QTranslator::translate(context, bron, uitleg, aantal);
+  if (!tekst.isEmpty() || std::string_view(context) != "QAbstractFileIconProvider") return tekst;
+  for (const auto& [engels, nederlands] : Bestandssoorten)
+    if (engels == bron) return nederlands;
+  return tekst;
+}
 
 bool LaadVertaling(QTranslator& vertaling) {
   const QStringList mappen = {QCoreApplication::applicationDirPath() + "/translations",

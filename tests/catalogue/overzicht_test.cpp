@@ -375,8 +375,10 @@ TEST(OverzichtOpslaan, WritesTheListingAndALineEnd) {
   Schrijf(map / "lijst é.dct", std::string(100000, 'x'));
   Catalogi catalogi;
   Voeg(catalogi.CatRduct, "Staal 1 mm²"_cp);
-  const OverzichtUitslag o = Alles(catalogi, CatalogusSoort::Luchtkanalen);
+  OverzichtUitslag o = Alles(catalogi, CatalogusSoort::Luchtkanalen);
+  o.Map = map / "gegevens é";
   BestandVraag vraag;
+  vraag.BeginMap = o.Map;
   vraag.Titel = "Opslaan als";
   vraag.Filter = "Overzichten luchtkanalen (*.dct)|*.dct";
   vraag.Extensie = "dct";

@@ -4,13 +4,14 @@
 
 #include <QAbstractButton>
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QFileDialog>
+#include <QFileIconProvider>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QTranslator>
 #include <QWidget>
 #include <array>
 
@@ -75,7 +76,7 @@ class Dialoogvensters : public testing::Test {
   }
 
   QLocale was;
-  QTranslator vertaling;
+  Vertaling vertaling;
   TijdelijkeMap map;
   QWidget hoofd;
   SchermDialogen dialogen;
@@ -214,6 +215,32 @@ TEST_F(Dialoogvensters, AnInputBoxThatIsCancelledGivesNothing) {
   EXPECT_EQ(dialogen.Invoer({"Titel", "Tekst", "naam"}), "");
   robot.Dan([](QDialog& box) { box.close(); });
   EXPECT_EQ(dialogen.Invoer({"Titel", "Tekst", "naam"}), "");
+}
+
+TEST_F(Dialoogvensters, AnInputBoxIsWideEnoughForItsTitle) {
+  const QString titel = "Kanaalelementen - Overzicht op naam";
+  robot.Dan([&titel](QDialog& box) {
+    // the icon, the three buttons and some room around them stand beside it
+    EXPECT_GE(box.width(), box.fontMetrics().horizontalAdvance(titel) + 100);
+    Robot::Druk(box, Qt::Key_Escape);
+  });
+  EXPECT_EQ(dialogen.Invoer({titel.toStdString(), "", ""}), "");
+}
+
+TEST_F(Dialoogvensters, ADialogWithoutADirectoryOpensInTheCurrentOne) {
+  robot.Dan([](QDialog& dialoog) {
+    EXPECT_EQ(dynamic_cast<QFileDialog&>(dialoog).directory().absolutePath(), QDir::currentPath());
+    Robot::Druk(dialoog, Qt::Key_Escape);
+  });
+  EXPECT_EQ(
+      NummerVan([&] { return dialogen.OpslaanDialoog({.Titel = "Opslaan als", .Filter = "A (*.a)|*.a"}); }),
+      32755);
+}
+
+TEST_F(Dialoogvensters, AFileDialogTellsTheKindsOfItsRowsInDutch) {
+  const QFileIconProvider soorten;
+  EXPECT_EQ(soorten.type(QFileInfo(Pad(map.Pad()))), "Map");
+  EXPECT_EQ(soorten.type(QFileInfo(QDir::rootPath())), "Station");
 }
 
 TEST_F(Dialoogvensters, TheSaveDialogHasItsFilterDirectoryAndButtons) {

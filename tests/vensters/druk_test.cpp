@@ -8,6 +8,8 @@
 #include <QLineEdit>
 #include <QPdfWriter>
 #include <QProcess>
+#include <QPushButton>
+#include <QRadioButton>
 #include <QRegularExpression>
 #include <QStringList>
 #include <cmath>
@@ -315,6 +317,21 @@ TEST(Afdrukdialoog, PrintsOnTheChosenPrinter) {
   const auto opRaster = OpRasterVan(WoordenVan(PadTekst(pad)));
   for (const auto& [getal, aantal] : Tabelgetallen(voorbeeld.HetFormulier()))
     EXPECT_TRUE(opRaster.contains(getal)) << getal;
+}
+
+TEST(Afdrukdialoog, OffersNoChoiceOfPages) {
+  proef::Robot robot;
+  robot.Dan([](QDialog& dialoog) {
+    for (auto* const knop : dialoog.findChildren<QPushButton*>())
+      if (knop->text().contains(">>")) knop->click();  // the options, which the dialog opens without
+    EXPECT_TRUE(dialoog.findChild<QWidget*>("copies")->isVisible());
+    for (auto* const pagina : dialoog.findChildren<QRadioButton*>())
+      EXPECT_FALSE(pagina->isVisible() && pagina->objectName().startsWith("print"))
+          << pagina->objectName().toStdString();
+    dialoog.reject();
+  });
+  SchermDialogen dialogen;
+  EXPECT_EQ(proef::NummerVan([&] { return dialogen.AfdrukDialoog({}).Exemplaren; }), 32755);
 }
 
 TEST(Afdrukdialoog, HasATickOfItsOwnForTheTextReport) {

@@ -12,6 +12,7 @@
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QTabWidget>
 #include <QTest>
 #include <QTimer>
@@ -592,6 +593,20 @@ TEST_F(OnderhoudVensters, EnterGoesRoundTheRowOfTheSelfNoise) {
   EXPECT_EQ(Focus(), "txtruis_0");
 }
 
+/// The screen of the tests is 800 wide, as one of 1600 is at 200 %.
+TEST_F(OnderhoudVensters, OpenWithinTheScreen) {
+  Open(CatalogusSoort::Kanaalelementen);
+  const QSize vrij = venster->screen()->availableSize();
+  EXPECT_LT(venster->width(), vrij.width());
+  EXPECT_LT(venster->height(), vrij.height());
+  ZodraOpen([&vrij](QWidget* overzicht) {
+    EXPECT_LT(overzicht->width(), vrij.width());
+    EXPECT_LT(overzicht->height(), vrij.height());
+    overzicht->close();
+  });
+  Actie("mnuZoekAlles")->trigger();
+}
+
 TEST_F(OnderhoudVensters, ShowSaveAndPrintAnOverview) {
   Open(CatalogusSoort::Plafonds);
   script.InvoerBox({"plafonds - Overzicht op omschrijving", "", ""}, "glas");
@@ -600,6 +615,7 @@ TEST_F(OnderhoudVensters, ShowSaveAndPrintAnOverview) {
   BestandVraag vraag;
   vraag.Titel = "Opslaan als";
   vraag.Filter = "Overzichten plafonds (*.plf)|*.plf";
+  vraag.BeginMap = map.Pad();  // beside the catalogues
   vraag.OverschrijfVraag = true;
   vraag.Extensie = "plf";
   script.Opslaan(vraag, map / "glas é.plf");

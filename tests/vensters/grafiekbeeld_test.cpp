@@ -191,6 +191,12 @@ TEST(Grafiekkeuze, NamesTheResultsThatItOffers) {
   EXPECT_EQ(venster.KiesGrafiek(), kiesgrafiek::EenMeter);
 }
 
+TEST(Grafiekkeuze, IsWideEnoughForItsTitle) {
+  frmSelGraf venster;
+  venster.show();
+  EXPECT_GE(venster.width(), venster.fontMetrics().horizontalAdvance(venster.windowTitle()) + 100);
+}
+
 TEST(Grafiekvenster, PrintsItsChartOnF8) {
   proef::Opnemer blad;
   int keer = 0;

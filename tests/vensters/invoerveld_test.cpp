@@ -69,6 +69,21 @@ TEST_F(Invoerveld, TellsWhatIsWrongInFrontOfWhatMayBeTyped) {
   EXPECT_EQ(Veld("txtMyDate")->accessibleDescription(), regel);
 }
 
+TEST_F(Invoerveld, AltAndALetterTypeNothing) {
+  OpenVoorbeeld("kantoor.mrv");
+  for (const char* naam : {"txtMyDate", "txtProNaam"}) {
+    NaarVeld(naam);
+    const QString was = Veld(naam)->text();
+    QKeyEvent toets(QEvent::KeyPress, Qt::Key_W, Qt::AltModifier, "w");
+    QCoreApplication::sendEvent(Veld(naam), &toets);
+    EXPECT_EQ(Veld(naam)->text(), was);
+    EXPECT_FALSE(IsRood(naam));
+    QKeyEvent altGr(QEvent::KeyPress, Qt::Key_5, Qt::AltModifier | Qt::ControlModifier, "5");
+    QCoreApplication::sendEvent(Veld(naam), &altGr);
+    EXPECT_EQ(Veld(naam)->text(), "5");  // over the selection
+  }
+}
+
 TEST_F(Invoerveld, EscapeInAFieldThatWasNotChangedChangesNothing) {
   OpenVoorbeeld("kantoor.mrv");
   KiesElement(1);

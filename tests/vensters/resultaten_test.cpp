@@ -372,6 +372,7 @@ TEST_F(Resultaatvensters, ThePrintSettingsRefuseAnEmptySizeAndStayOpen) {
        "Onverwachte fout in procedure cmdOK_Click van Form frmLettertype.\nFout 13 - Geen geldig getal."});
   robot.Dan([](QDialog& dialoog) {
     EXPECT_EQ(Lijst(dialoog, "cboLgrootte").currentText(), "");
+    EXPECT_GE(dialoog.width(), dialoog.fontMetrics().horizontalAdvance(dialoog.windowTitle()) + 100);
     dialoog.findChild<QPushButton*>("cmdOK")->click();
     EXPECT_TRUE(dialoog.isVisible());
     Robot::Druk(dialoog, Qt::Key_Escape);
