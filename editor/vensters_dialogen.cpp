@@ -5,6 +5,7 @@
 #include <QCheckBox>
 #include <QCloseEvent>
 #include <QFileDialog>
+#include <QFileIconProvider>
 #include <QInputDialog>
 #include <QKeyEvent>
 #include <QLabel>
@@ -93,10 +94,20 @@ QString FilterVan(const std::string& filter) {
   return tekst.left(tekst.indexOf(" (")) + " (" + tekst.mid(streep + 1) + ")";
 }
 
+/// What the toolkit's translation leaves in English.
+class Bestandsoorten : public QFileIconProvider {
+ public:
+  [[nodiscard]] QString type(const QFileInfo& bestand) const override {
+    return bestand.isDir() ? QString("Map") : QFileIconProvider::type(bestand);
+  }
+};
+
 std::filesystem::path Vraag(QWidget* ouder, const BestandVraag& vraag, QFileDialog::AcceptMode wijze) {
+  Bestandsoorten soorten;  // the dialog does not own it
   QFileDialog dialoog(ouder, VanCp(vraag.Titel));
   // The toolkit's own dialog: the system's would speak the system's language.
   dialoog.setOption(QFileDialog::DontUseNativeDialog);
+  dialoog.setIconProvider(&soorten);
   dialoog.setAcceptMode(wijze);
   dialoog.setNameFilter(FilterVan(vraag.Filter));
   dialoog.setFileMode(vraag.BestandMoetBestaan ? QFileDialog::ExistingFile : QFileDialog::AnyFile);

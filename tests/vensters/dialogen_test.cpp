@@ -11,6 +11,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTranslator>
+#include <QTreeView>
 #include <QWidget>
 #include <array>
 
@@ -102,6 +103,18 @@ TEST_F(Dialoogvensters, ABoxHasItsIconTitleAndText) {
                              std::string("Regel <b>1</b> & m³\nregel 2"_cp)}),
               Antwoord::OK);
   }
+}
+
+TEST_F(Dialoogvensters, AFolderIsCalledSoInDutch) {
+  fs::create_directory(map.Pad() / PadVan("Één map"));
+  robot.Dan([](QDialog& dialoog) {
+    const auto* const lijst = dialoog.findChild<QTreeView*>("treeView");
+    ASSERT_NE(lijst, nullptr);
+    const auto soort = [&] { return lijst->model()->index(0, 2, lijst->rootIndex()).data().toString(); };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return soort() == "Map"; })) << soort().toStdString();
+    dialoog.reject();
+  });
+  EXPECT_THROW((void)dialogen.OpenDialoog(Open()), Fout);
 }
 
 TEST_F(Dialoogvensters, TheButtonsAreDutchOnAnySystem) {
