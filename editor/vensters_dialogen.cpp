@@ -6,6 +6,8 @@
 #include <QCloseEvent>
 #include <QFileDialog>
 #include <QFileIconProvider>
+#include <QFontMetrics>
+#include <QGridLayout>
 #include <QInputDialog>
 #include <QKeyEvent>
 #include <QLabel>
@@ -76,6 +78,22 @@ class MeldingVenster : public QMessageBox {
   bool moetKiezen_ = false;
   bool weggeklikt_ = false;
 };
+
+/// The width at which a caption is whole: the frame around a dialog has an icon and three buttons beside it,
+/// and its letters may be bold.
+int TitelBreedte(const QWidget& dialoog) {
+  constexpr int RuimteErnaast = 140;
+  QFont vet = dialoog.font();
+  vet.setBold(true);
+  return QFontMetrics(vet).horizontalAdvance(dialoog.windowTitle()) + RuimteErnaast;
+}
+
+/// A box takes the width of what stands in it; a row of nothing keeps that from cutting its caption.
+void MaakBreedGenoeg(QMessageBox& box) {
+  if (auto* const indeling = qobject_cast<QGridLayout*>(box.layout()))
+    indeling->addItem(new QSpacerItem(TitelBreedte(box), 0), indeling->rowCount(), 0, 1,
+                      indeling->columnCount());
+}
 
 /// Paths go through as they are: a name that is not UTF-8 stays the same file.
 QString NaarQt(const std::filesystem::path& pad) {
@@ -164,6 +182,7 @@ Antwoord SchermDialogen::Toon(const Melding& melding) {
   MeldingVenster box(Icoon(melding.Soort), VanCp(melding.Titel), VanCp(melding.Tekst),
                      KnoppenVan(melding.Knoppen), Ouder());
   box.setTextFormat(Qt::PlainText);
+  MaakBreedGenoeg(box);
   if (melding.Knoppen == Knoppen::YesNo) box.MoetKiezen();
   const int knop = box.exec();
   return AntwoordVan(knop, melding.Knoppen, box.Weggeklikt());
@@ -175,6 +194,8 @@ std::string SchermDialogen::Invoer(const InvoerVraag& vraag) {
   dialoog.setLabelText(VanCp(vraag.Tekst).replace('&', "&&"));  // the label takes one for a mnemonic
   if (auto* const label = dialoog.findChild<QLabel*>()) label->setTextFormat(Qt::PlainText);
   dialoog.setTextValue(VanCp(vraag.Standaard));
+  // The dialog follows its layout: the width is that of the box, which has to hold a name anyway.
+  if (auto* const vak = dialoog.findChild<QLineEdit*>()) vak->setMinimumWidth(TitelBreedte(dialoog));
   return dialoog.exec() == QDialog::Accepted ? NaarCp(dialoog.textValue()) : std::string();
 }
 

@@ -105,6 +105,21 @@ TEST_F(Dialoogvensters, ABoxHasItsIconTitleAndText) {
   }
 }
 
+// Beside the caption of a window's frame stand an icon and three buttons, each as high as a line and its rim.
+TEST_F(Dialoogvensters, TheCaptionOfABoxIsNotCut) {
+  const auto past = [](QDialog& box) {
+    QFont vet = box.font();
+    vet.setBold(true);
+    EXPECT_GE(box.width(), QFontMetrics(vet).horizontalAdvance(box.windowTitle()) + 4 * 30);
+    box.reject();
+  };
+  robot.Dan(past);
+  (void)dialogen.Toon(
+      {MeldingSoort::Vraag, "Kanaalelementen wissen", "Kanaalelement 1 wissen?", Knoppen::OkCancel});
+  robot.Dan(past);
+  EXPECT_EQ(dialogen.Invoer({"Instelling gebruikersnaam", "Naam", "naam"}), "");
+}
+
 TEST_F(Dialoogvensters, AFolderIsCalledSoInDutch) {
   fs::create_directory(map.Pad() / PadVan("Één map"));
   robot.Dan([](QDialog& dialoog) {
