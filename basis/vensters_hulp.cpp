@@ -59,11 +59,15 @@ void ZetUitleg(QWidget& venster, std::span<const Uitleg> uitleg) {
   }
 }
 
-void PasTitel(QWidget& vak, const QString& titel) {
-  constexpr int Rand = 130;
+int TitelBreedte(const QWidget& vak, const QString& titel) {
+  constexpr int Ernaast = 140;
   QFont vet = vak.font();
   vet.setBold(true);  // as most frames write it
-  vak.setMinimumWidth(QFontMetrics(vet).horizontalAdvance(titel) + Rand);
+  return QFontMetrics(vet).horizontalAdvance(titel) + Ernaast;
+}
+
+void PasTitel(QWidget& vak, const QString& titel) {
+  vak.setMinimumWidth(TitelBreedte(vak, titel));
 }
 
 void ZetMaat(QWidget& venster, QSize maat) {

@@ -44,8 +44,9 @@ struct Uitleg {
 /// Gives the controls of a window their accessible descriptions. Fout 5 for a name that the window lacks.
 void ZetUitleg(QWidget& venster, std::span<const Uitleg> uitleg);
 
-/// Makes a part of a small window, or the window itself, so wide that the frame has room for the title
-/// between its icon and its buttons.
+/// The width of a frame in which a title is whole between the icon and three buttons.
+[[nodiscard]] int TitelBreedte(const QWidget& vak, const QString& titel);
+/// Makes a part of a small window, or the window itself, so wide.
 void PasTitel(QWidget& vak, const QString& titel);
 
 /// The size that a window opens with, or as much of it as its screen has room for beside the frame.

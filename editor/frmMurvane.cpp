@@ -115,7 +115,7 @@ void frmMurvane::ToonProject(bool isNieuwOfGeopend) {
   if (isNieuwOfGeopend) {
     laatsteFan_ = 0;  // a fan of the list that was chosen for another project
     SSTab1->setCurrentIndex(static_cast<int>(StartPagina));
-    Vak({"txtProNum"})->setFocus();
+    GaNaar("txtProNum");
   }
   emit ToestandGewijzigd();
 }

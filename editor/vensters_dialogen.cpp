@@ -4,7 +4,9 @@
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QCloseEvent>
+#include <QDir>
 #include <QFileDialog>
+#include <QGridLayout>
 #include <QInputDialog>
 #include <QKeyEvent>
 #include <QLabel>
@@ -77,6 +79,13 @@ class MeldingVenster : public QMessageBox {
   bool weggeklikt_ = false;
 };
 
+/// A box takes the width of what stands in it; a row of nothing keeps that from cutting its caption.
+void MaakBreedGenoeg(QMessageBox& box) {
+  if (auto* const indeling = qobject_cast<QGridLayout*>(box.layout()))
+    indeling->addItem(new QSpacerItem(TitelBreedte(box, box.windowTitle()), 0), indeling->rowCount(), 0, 1,
+                      indeling->columnCount());
+}
+
 /// Paths go through as they are: a name that is not UTF-8 stays the same file.
 QString NaarQt(const std::filesystem::path& pad) {
   return QString::fromStdString(PadTekst(pad));
@@ -103,7 +112,7 @@ std::filesystem::path Vraag(QWidget* ouder, const BestandVraag& vraag, QFileDial
   dialoog.setFileMode(vraag.BestandMoetBestaan ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
   dialoog.setOption(QFileDialog::DontConfirmOverwrite, !vraag.OverschrijfVraag);
   const std::filesystem::path map = vraag.Naam.has_parent_path() ? vraag.Naam.parent_path() : vraag.BeginMap;
-  if (!map.empty()) dialoog.setDirectory(NaarQt(map));  // an empty one would be the whole computer
+  dialoog.setDirectory(map.empty() ? QDir::currentPath() : NaarQt(map));
   dialoog.setDefaultSuffix(VanCp(vraag.Extensie));
   if (vraag.Naam.has_filename()) dialoog.selectFile(NaarQt(vraag.Naam.filename()));
   if (dialoog.exec() != QDialog::Accepted || dialoog.selectedFiles().isEmpty())
@@ -162,6 +171,7 @@ Antwoord SchermDialogen::Toon(const Melding& melding) {
   MeldingVenster box(Icoon(melding.Soort), VanCp(melding.Titel), VanCp(melding.Tekst),
                      KnoppenVan(melding.Knoppen), Ouder());
   box.setTextFormat(Qt::PlainText);
+  MaakBreedGenoeg(box);
   if (melding.Knoppen == Knoppen::YesNo) box.MoetKiezen();
   const int knop = box.exec();
   return AntwoordVan(knop, melding.Knoppen, box.Weggeklikt());

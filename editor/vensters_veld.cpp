@@ -187,7 +187,7 @@ BandRij::BandRij(std::string_view naam, int eerste, const VeldRegel& regel, cons
 
 void Optieknop::focusInEvent(QFocusEvent* event) {
   QRadioButton::focusInEvent(event);
-  const bool gewezen = event->reason() == Qt::MouseFocusReason || BlijftInVeld(event->reason());
+  const bool gewezen = event->reason() == Qt::MouseFocusReason;
   QAbstractButton* const gekozen = Gekozene(*this);
   if (!gewezen && gekozen != nullptr && gekozen != this && gekozen->isVisible())
     gekozen->setFocus(event->reason());

@@ -280,7 +280,10 @@ void MDIMurvane::Voer(const Gevolg& gevolg) {
 void MDIMurvane::SluitVensters() {
   const auto vensters = gebied_->subWindowList(QMdiArea::CreationOrder);
   for (auto venster = vensters.rbegin(); venster != vensters.rend(); ++venster) {
-    if ((*venster)->widget() != project_) (*venster)->close();
+    if ((*venster)->widget() == project_) continue;
+    // With the project in front already no window comes to the front, and its name is dropped all the same.
+    connect(*venster, &QObject::destroyed, this, &MDIMurvane::NoemProject, Qt::QueuedConnection);
+    (*venster)->close();
   }
 }
 

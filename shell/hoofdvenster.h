@@ -1,6 +1,7 @@
 #pragma once
 // The main window without the window: its menu bar as a table.
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <string_view>
@@ -95,5 +96,20 @@ inline constexpr auto TaakBalk = std::to_array<MenuItem>({
 inline constexpr int MinBreedte = 9600;
 inline constexpr int MinHoogte = 7200;
 inline constexpr int TwipsPerPixel = 15;
+
+/// A size in logical pixels.
+struct Maat {
+  int Breedte = 0;
+  int Hoogte = 0;
+};
+
+/// The size at which the main window opens where a screen leaves it so much room, its frame included: never
+/// past the screen, unless that is smaller than its least size.
+constexpr Maat OpenMaat(Maat vrij) {
+  constexpr Maat gewoon{1024, 740};
+  constexpr int titelbalk = 28;
+  return {std::clamp(vrij.Breedte, MinBreedte / TwipsPerPixel, gewoon.Breedte),
+          std::clamp(vrij.Hoogte - titelbalk, MinHoogte / TwipsPerPixel, gewoon.Hoogte)};
+}
 
 }  // namespace murvane

@@ -3,6 +3,7 @@
 #include <QDate>
 #include <QEvent>
 #include <QLocale>
+#include <QScreen>
 #include <chrono>
 #include <filesystem>
 #include <iostream>
@@ -15,6 +16,7 @@
 #include "shell/MDIMurvane.h"
 #include "shell/bureaublad.h"
 #include "shell/frmSplashII.h"
+#include "shell/hoofdvenster.h"
 #include "shell/opstart.h"
 #include "shell/rookproef.h"
 #include "shell/startup.h"
@@ -66,7 +68,9 @@ int Draai(murvane::Dialogen& dialogen, const murvane::StartGegevens& start, bool
   murvane::MDIMurvane hoofdvenster(programma, dialogen);
   NaEersteBeeld naEersteBeeld;
   if (rookproef) hoofdvenster.installEventFilter(&naEersteBeeld);
-  hoofdvenster.resize(1024, 740);
+  const QSize vrij = hoofdvenster.screen()->availableSize();
+  const murvane::Maat maat = murvane::OpenMaat({vrij.width(), vrij.height()});
+  hoofdvenster.resize(maat.Breedte, maat.Hoogte);
   const auto toon = [&] {
     hoofdvenster.show();
     hoofdvenster.OpenVanOpdrachtregel();

@@ -86,6 +86,19 @@ TEST_F(Hoofdvenster, OpensTheProjectOfTheCommandLineOnce) {
   EXPECT_FALSE(Actie("mnuAfdrukken")->isEnabled());
 }
 
+// What is typed next replaces the number, also where the focus only comes once the dialog has gone.
+TEST_F(Hoofdvenster, AProjectThatOpensHasItsNumberSelected) {
+  QWidget dialoog;
+  dialoog.show();
+  QApplication::setActiveWindow(&dialoog);
+  Open("kantoor.mrv");
+  dialoog.close();
+  QApplication::setActiveWindow(venster.get());
+  auto* const nummer = ProjectVenster()->findChild<QLineEdit*>("txtProNum");
+  EXPECT_EQ(QApplication::focusWidget(), nummer);
+  EXPECT_EQ(nummer->selectedText(), "VB-1");
+}
+
 class Voorbeelden : public Hoofdvenster, public testing::WithParamInterface<const char*> {};
 
 // The window's fields and those without a window are the same, so the reports are too.

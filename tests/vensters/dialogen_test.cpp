@@ -12,6 +12,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTreeView>
 #include <QWidget>
 #include <array>
 
@@ -103,6 +104,33 @@ TEST_F(Dialoogvensters, ABoxHasItsIconTitleAndText) {
                              std::string("Regel <b>1</b> & m³\nregel 2"_cp)}),
               Antwoord::OK);
   }
+}
+
+// Beside the caption of a window's frame stand an icon and three buttons, each as high as a line and its rim.
+TEST_F(Dialoogvensters, TheCaptionOfABoxIsNotCut) {
+  const auto past = [](QDialog& box) {
+    QFont vet = box.font();
+    vet.setBold(true);
+    EXPECT_GE(box.width(), QFontMetrics(vet).horizontalAdvance(box.windowTitle()) + 4 * 30);
+    box.reject();
+  };
+  robot.Dan(past);
+  (void)dialogen.Toon(
+      {MeldingSoort::Vraag, "Kanaalelementen wissen", "Kanaalelement 1 wissen?", Knoppen::OkCancel});
+  robot.Dan(past);
+  EXPECT_EQ(dialogen.Invoer({"Instelling gebruikersnaam", "Naam", "naam"}), "");
+}
+
+TEST_F(Dialoogvensters, AFolderIsCalledSoInDutch) {
+  fs::create_directory(map.Pad() / PadVan("Één map"));
+  robot.Dan([](QDialog& dialoog) {
+    const auto* const lijst = dialoog.findChild<QTreeView*>("treeView");
+    ASSERT_NE(lijst, nullptr);
+    const auto soort = [&] { return lijst->model()->index(0, 2, lijst->rootIndex()).data().toString(); };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return soort() == "Map"; })) << soort().toStdString();
+    dialoog.reject();
+  });
+  EXPECT_THROW((void)dialogen.OpenDialoog(Open()), Fout);
 }
 
 TEST_F(Dialoogvensters, TheButtonsAreDutchOnAnySystem) {

@@ -104,6 +104,20 @@ TEST_F(Fantab, ThePrognosisHandsItsFlowToTheFirstElement) {
   EXPECT_EQ(Zoek<QTabWidget>("SSTab1")->currentIndex(), 0);
 }
 
+// The focus of the tab only comes when the message box before the window has gone.
+TEST_F(Fantab, TheChosenSourceHasTheFocusBehindAMessage) {
+  OpenPrognose("plafond.mrv");
+  Zoek<QRadioButton>("optPrognose")->setFocus(Qt::TabFocusReason);
+  Nieuw();
+  QWidget melding;
+  melding.show();
+  QApplication::setActiveWindow(&melding);
+  KiesTab(Tab::Ventilator);
+  melding.close();
+  QApplication::setActiveWindow(venster.get());
+  EXPECT_EQ(Focus(), "optInvoer");
+}
+
 TEST_F(Fantab, WithoutAChainThePrognosisOpensNothing) {
   Nieuw();
   KiesTab(Tab::Ventilator);

@@ -8,6 +8,7 @@
 #include <QGraphicsView>
 #include <QImage>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPushButton>
@@ -113,6 +114,20 @@ TEST_F(Resultaatvensters, TheTitleNamesTheProjectAgainWhenTheResultsAreClosed) {
     QCoreApplication::processEvents();
     EXPECT_EQ(venster->windowTitle(), project);
   }
+}
+
+TEST_F(Resultaatvensters, TheTitleNamesTheProjectAgainWhenAChangeClosesTheResults) {
+  const QString project = "MurVane - [versie 6.7 - MurVane]";
+  Bereken("kantoor.mrv");
+  auto* const gebied = venster->findChild<QMdiArea*>();
+  gebied->setActiveSubWindow(gebied->subWindowList(QMdiArea::CreationOrder).front());
+  EXPECT_EQ(venster->windowTitle(), project);
+  Zoek<QLineEdit>("txtProNaam")->setText("Gewijzigd");
+  QCoreApplication::processEvents();
+  QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(Zoek<frmResultaat>("frmResultaat"), nullptr);
+  EXPECT_EQ(venster->windowTitle(), project);
 }
 
 TEST_F(Resultaatvensters, TheResultWindowHasItsToolbarAboveTheText) {
