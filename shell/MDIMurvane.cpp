@@ -89,7 +89,7 @@ MDIMurvane::MDIMurvane(Programma& programma, Dialogen& dialogen)
   MaakStatusbalk();
   connect(project_, &frmMurvane::ToestandGewijzigd, this, &MDIMurvane::ToonToestand);
   connect(project_, &frmMurvane::SluitVensters, this, &MDIMurvane::SluitVensters);
-  connect(gebied_, &QMdiArea::subWindowActivated, this, &MDIMurvane::NoemProject, Qt::QueuedConnection);
+  connect(this, &QWidget::windowTitleChanged, this, &MDIMurvane::NoemVenster, Qt::QueuedConnection);
   project_->ToonGeenProject();
   ToonToestand();
 }
@@ -211,14 +211,14 @@ void MDIMurvane::VulVensterMenu(QMenu& menu) {
   }
 }
 
-/// The project's frame has no buttons in the menu bar, and the toolkit then drops its name from the main
-/// window's title once a window in front of it has closed. A name that changes is put into it again.
-void MDIMurvane::NoemProject() {
-  const QMdiSubWindow* const voor = gebied_->activeSubWindow();
-  if (voor == nullptr || voor->widget() != project_) return;
-  const QString naam = project_->windowTitle();
-  project_->setWindowTitle(" ");
-  project_->setWindowTitle(naam);
+/// The project's frame has no buttons in the menu bar, and the toolkit then drops the name of the window in
+/// front from the main window's title once another has closed. A name that changes is put into it again.
+void MDIMurvane::NoemVenster() {
+  const QMdiSubWindow* const voor = gebied_->currentSubWindow();
+  if (windowTitle().contains('[') || voor == nullptr) return;
+  const QString naam = voor->widget()->windowTitle();
+  voor->widget()->setWindowTitle(" ");
+  voor->widget()->setWindowTitle(naam);
 }
 
 /// Starts the desktop's own calculator: the first one there is. That there is none is no matter.
@@ -280,10 +280,7 @@ void MDIMurvane::Voer(const Gevolg& gevolg) {
 void MDIMurvane::SluitVensters() {
   const auto vensters = gebied_->subWindowList(QMdiArea::CreationOrder);
   for (auto venster = vensters.rbegin(); venster != vensters.rend(); ++venster) {
-    if ((*venster)->widget() == project_) continue;
-    // With the project in front already no window comes to the front, and its name is dropped all the same.
-    connect(*venster, &QObject::destroyed, this, &MDIMurvane::NoemProject, Qt::QueuedConnection);
-    (*venster)->close();
+    if ((*venster)->widget() != project_) (*venster)->close();
   }
 }
 

@@ -50,7 +50,7 @@ class MDIMurvane : public QMainWindow {
   void Verbind(std::string_view naam, void (MDIMurvane::*opdracht)());
   void Voer(const std::string& naam, void (MDIMurvane::*opdracht)());
   void VulVensterMenu(QMenu& menu);
-  void NoemProject();
+  void NoemVenster();
 
   void mnuNieuw();
   void mnuOpen();
