@@ -200,6 +200,7 @@ void frmMurvane::ToonRuimte(const RuimteZicht& zicht) {
   ZetZichtbaar({"txtRkanaal", 0}, zicht.cmbRkanaal);
   ZetZichtbaar({"txtRplafond", 0}, zicht.cmbRplafond);
   VrijVeld->setVisible(zicht.VrijVeld);
+  ruimteTekening_->ZetRuimte(zicht.cmbRplafond);
 }
 
 void frmMurvane::ToonType() {

@@ -450,7 +450,7 @@ QWidget* frmMurvane::BouwRuimte() {
   VoegVeld(maten, 6, {"txtRAantal"}, "Aantal roosters", "stuks", "lblruimte");
   ruimteTekening_ = new Tekening(blad);
   ruimteTekening_->setObjectName("TekeningRuimte");
-  ruimteTekening_->ZetRuimte();
+  ruimteTekening_->ZetRuimte(false);
   maten->addWidget(ruimteTekening_, 0, 3, 7, 1);
   mee_[{"txtRLengte", -1}].push_back(ruimteTekening_);
   const auto voeg = [&](int rij, Keuzevak* vak, const char* naam, const char* tekst) {

@@ -141,7 +141,8 @@ void Tekening::ZetType(std::int16_t elementType) {
   ZetBeeld(QString(":/editor/beelden/") + beeld->Naam + ".svg", beeld->Omschrijving);
 }
 
-void Tekening::ZetRuimte() {
+void Tekening::ZetRuimte(bool onderKanaal) {
+  if (onderKanaal) return ZetBeeld(":/editor/beelden/ruimte-kanaal.svg", "Vertrek onder een kanaal");
   ZetBeeld(":/editor/beelden/ruimte.svg", "Vertrek");
 }
 

@@ -22,7 +22,8 @@ class Tekening : public QWidget {
 
   /// The drawing of an element type; for a number that is none that of a chain of elements.
   void ZetType(std::int16_t elementType);
-  void ZetRuimte();
+  /// The room, with outlets in its ceiling or under a duct that radiates through it.
+  void ZetRuimte(bool onderKanaal);
   /// Another drawing of the same family, out of the program's resources.
   void ZetBeeld(const QString& pad, const QString& omschrijving);
   /// Lights the dimension of a field; one that the drawing does not show lights nothing.

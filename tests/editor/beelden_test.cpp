@@ -67,6 +67,7 @@ const std::vector<Tekening>& Tekeningen() {
       {"keten", {}},
       {"regelklep", {{"txtWeerstand", "Δp"}}},
       {"rooster", {{"txtSnetto", "S"}, {"txtWeerstand", "Δp"}}},
+      {"ruimte-kanaal", {{"txtRLengte", "l"}, {"txtRBreedte", "b"}, {"txtRHoogte", "h"}}},
       {"ruimte", {{"txtRLengte", "l"}, {"txtRBreedte", "b"}, {"txtRHoogte", "h"}}},
       {"bekleed-kanaal", {{"Text1", "h"}, {"Text2", "b"}, {"Text3", "d"}, {"Text4", "l"}}, "estimators"},
       {"kanaalwand", {{"txtDikte", "d"}, {"txtMassa", "m"}}, "estimators"},

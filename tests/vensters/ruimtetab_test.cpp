@@ -43,6 +43,8 @@ class Ruimtetab : public ProjectVenster {
       Toont("txtRplafond_" + QString::number(band), zicht.cmbRplafond);
     }
     EXPECT_EQ(Zoek<QCheckBox>("VrijVeld")->isVisible(), zicht.VrijVeld);
+    EXPECT_EQ(Zoek<QWidget>("TekeningRuimte")->accessibleName(),
+              zicht.cmbRplafond ? "Tekening: Vertrek onder een kanaal" : "Tekening: Vertrek");
   }
   QStringList Banden7(const QString& naam) {
     QStringList uit;
