@@ -36,7 +36,9 @@ bool LaadVertaling(QTranslator& vertaling) {
                               QCoreApplication::applicationDirPath(),
                               QLibraryInfo::path(QLibraryInfo::TranslationsPath)};
   for (const QString& map : mappen) {
-    for (const auto* naam : {"qt_nl", "qtbase_nl"}) {
+    // What the toolkit's own packages call qt_nl only leads to this and to texts of parts that the program
+    // does not use.
+    for (const auto* naam : {"qtbase_nl", "qt_nl"}) {
       if (vertaling.load(naam, map) && !vertaling.isEmpty()) return true;
     }
   }
