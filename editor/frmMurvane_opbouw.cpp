@@ -521,7 +521,6 @@ QWidget* frmMurvane::BouwDatum() {
   return vak;
 }
 
-/// An option that is chosen already is not chosen again: its click would clear what it brought.
 /// Ctrl+PageDown and Ctrl+PageUp walk through the tabs from any field.
 void frmMurvane::VerbindTabs() {
   for (const auto& [toets, stap] : {std::pair{Qt::Key_PageDown, 1}, std::pair{Qt::Key_PageUp, -1}}) {
@@ -531,6 +530,7 @@ void frmMurvane::VerbindTabs() {
   }
 }
 
+/// An option that is chosen already is not chosen again: its click would clear what it brought.
 void frmMurvane::VerbindFan() {
   connect(optInvoer, &QRadioButton::clicked, this, [this] {
     if (Houdt() || FanZichtVan(project_).optInvoer) return ToonFan(FanZichtVan(project_));

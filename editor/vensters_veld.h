@@ -51,12 +51,12 @@ class InvoerVeld : public QLineEdit {
   void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
+  void Beschrijf();
+
   VeldId veld_;
   const VeldRegel& regel_;
   std::uint32_t kleur_ = VeldKleur;
   bool kiesAlles_ = false;
-
-  void Beschrijf();
 };
 
 /// Seven fields of an array, band 63 first, under the bands' captions.
