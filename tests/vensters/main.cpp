@@ -21,7 +21,7 @@ void MeldBericht(QtMsgType, const QMessageLogContext&, const QString& bericht) {
 /// the print system asks for the locale. Own code has no such exception.
 extern "C" const char* __lsan_default_suppressions();
 extern "C" const char* __lsan_default_suppressions() {
-  return "leak:libfontconfig\nleak:libQt6Gui\nleak:libQt6XcbQpa\nleak:libglib\nleak:__argz_add_sep\n";
+  return "leak:libfontconfig\nleak:libQt6Gui\nleak:libQt6XcbQpa\nleak:libglib\nleak:argz_add_sep\n";
 }
 extern "C" const char* __lsan_default_options();
 extern "C" const char* __lsan_default_options() {
