@@ -9,13 +9,15 @@
 #include <cstdlib>
 
 #include "tests/cli/hulp.h"
+#include "tests/hulp/paden.h"
 
 namespace murvane::clitest {
 namespace {
 
 /// Runs a shell line in which $CLI is the program; the exit status.
 int Shell(const Proefmap& map, const std::string& regel) {
-  const std::string heel = "CLI='" MURVANE_CLI "'; cd '" + map.Naam() + "' && " + regel;
+  const std::string heel =
+      "CLI='" + proef::Programma("murvane-cli").string() + "'; cd '" + map.Naam() + "' && " + regel;
   const int status = std::system(heel.c_str());  // NOLINT(cert-env33-c)
   return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }

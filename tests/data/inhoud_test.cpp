@@ -20,6 +20,7 @@
 #include "cli/databouw.h"
 #include "editor/validate.h"
 #include "project/projectfile.h"
+#include "tests/hulp/paden.h"
 
 namespace murvane {
 namespace {
@@ -27,7 +28,7 @@ namespace {
 namespace fs = std::filesystem;
 
 fs::path Map() {
-  return fs::path(MURVANE_BRON) / "data";
+  return proef::BronMap() / "data";
 }
 
 const Catalogi& Mee() {

@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "tests/hulp/bestanden.h"
+#include "tests/hulp/paden.h"
 
 namespace murvane {
 namespace {
@@ -22,7 +23,7 @@ using testing::Contains;
 using testing::ElementsAreArray;
 using testing::Key;
 
-const std::filesystem::path Bron = MURVANE_BRON;
+const std::filesystem::path Bron = proef::BronMap();
 const std::set<std::string> Kleuren = {"#111111", "#888888", "#3a6ea5"};
 
 /// A drawing, and of each field of its page or window that has a place in it the letters that stand there.

@@ -5,6 +5,7 @@
 #include <sstream>
 
 #include "tests/hulp/bestanden.h"
+#include "tests/hulp/paden.h"
 
 namespace murvane::proef {
 
@@ -54,8 +55,7 @@ Merk LeesMerk(const std::string& html, std::size_t begin) {
 
 std::vector<Blad> LeesBladen() {
   std::vector<Blad> uit;
-  for (const auto& bestand :
-       std::filesystem::directory_iterator(std::filesystem::path(MURVANE_BRON) / "help")) {
+  for (const auto& bestand : std::filesystem::directory_iterator(proef::BronMap() / "help")) {
     if (bestand.path().extension() != ".html") continue;
     const std::string html = Lees(bestand.path());
     uit.push_back({bestand.path().filename().string(), html, Merken(html)});

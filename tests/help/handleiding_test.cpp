@@ -32,6 +32,7 @@
 #include "shell/startup.h"
 #include "tests/cli/hulp.h"
 #include "tests/help/bladen.h"
+#include "tests/hulp/paden.h"
 
 namespace murvane {
 namespace {
@@ -46,8 +47,8 @@ using proef::ZoekBlad;
 using proef::ZonderMerken;
 using testing::HasSubstr;
 
-const fs::path Help = fs::path(MURVANE_BRON) / "help";
-const fs::path Data = fs::path(MURVANE_BRON) / "data";
+const fs::path Help = proef::BronMap() / "help";
+const fs::path Data = proef::BronMap() / "data";
 
 /// A file of the help compiler, as UTF-8 with plain line ends.
 std::string HulpBestand(const char* naam) {

@@ -9,6 +9,7 @@
 
 #include "shell/bureaublad.h"
 #include "tests/hulp/bestanden.h"
+#include "tests/hulp/paden.h"
 #include "versie.h"
 
 namespace murvane {
@@ -17,7 +18,7 @@ namespace {
 using testing::HasSubstr;
 
 std::string Lees(const char* naam) {
-  return proef::Lees(std::filesystem::path(MURVANE_BRON) / "levering" / naam);
+  return proef::Lees(proef::BronMap() / "levering" / naam);
 }
 
 TEST(Levering, TheNotesAreThoseOfThisVersion) {

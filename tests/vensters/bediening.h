@@ -20,11 +20,12 @@
 #include "shell/MDIMurvane.h"
 #include "shell/programma.h"
 #include "tests/hulp/bestanden.h"
+#include "tests/hulp/paden.h"
 #include "tests/hulp/script.h"
 
 namespace murvane::proef {
 
-inline const std::filesystem::path BronData = std::filesystem::path(MURVANE_BRON) / "data";
+inline const std::filesystem::path BronData = proef::BronMap() / "data";
 
 /// Copies the settings and the four catalogues that come with the program.
 void KopieerData(const std::filesystem::path& naar);

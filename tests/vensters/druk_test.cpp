@@ -29,6 +29,7 @@
 #include "shell/run.h"
 #include "tests/cli/hulp.h"
 #include "tests/hulp/opnemer.h"
+#include "tests/hulp/paden.h"
 #include "tests/vensters/robot.h"
 
 namespace murvane::clitest {
@@ -82,7 +83,7 @@ struct Voorbeeldproject {
   DrukInstelling instelling = StandaardDrukInstelling();
 
   explicit Voorbeeldproject(const std::string& naam)
-      : project(LeesProject(std::filesystem::path(MURVANE_BRON) / "data" / naam)) {
+      : project(LeesProject(proef::BronMap() / "data" / naam)) {
     const auto bevinding = VoerUit(project, InvoerVan(project, ','), gebruiker, ',', resultaten, rapport);
     EXPECT_FALSE(bevinding.has_value());
   }
@@ -547,7 +548,7 @@ TEST_F(Drukprogramma, RunsWithoutAScreenAndInSilence) {
   proces.setProcessEnvironment(omgeving);
   QStringList argumenten;
   for (const std::string& woord : Regel(goed)) argumenten << QString::fromStdString(woord);
-  proces.start(MURVANE_DRUK, argumenten);
+  proces.start(QString::fromStdString(proef::Programma("murvane-druk").string()), argumenten);
   ASSERT_TRUE(proces.waitForFinished(60000));
   EXPECT_EQ(proces.exitCode(), 0);
   EXPECT_EQ(proces.readAllStandardError().toStdString(), "");

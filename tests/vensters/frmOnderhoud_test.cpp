@@ -29,13 +29,14 @@
 #include "project/projectfile.h"
 #include "shell/MDIMurvane.h"
 #include "tests/hulp/bestanden.h"
+#include "tests/hulp/paden.h"
 #include "tests/hulp/script.h"
 #include "tests/vensters/beeld.h"
 
 namespace murvane {
 namespace {
 
-const std::filesystem::path Data = std::filesystem::path(MURVANE_BRON) / "data";
+const std::filesystem::path Data = proef::BronMap() / "data";
 constexpr std::array<CatalogusSoort, 4> Soorten = {CatalogusSoort::Kanaalelementen,
                                                    CatalogusSoort::Ventilatoren, CatalogusSoort::Luchtkanalen,
                                                    CatalogusSoort::Plafonds};

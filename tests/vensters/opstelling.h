@@ -25,11 +25,12 @@
 #include "shell/MDIMurvane.h"
 #include "shell/programma.h"
 #include "tests/hulp/bestanden.h"
+#include "tests/hulp/paden.h"
 #include "tests/hulp/script.h"
 
 namespace murvane {
 
-inline const std::filesystem::path Data = std::filesystem::path(MURVANE_BRON) / "data";
+inline const std::filesystem::path Data = proef::BronMap() / "data";
 inline constexpr std::array<const char*, 3> VoorbeeldNamen = {"kantoor.mrv", "plafond.mrv", "overspraak.mrv"};
 
 /// The project window with the program's own catalogues, at the size that a 1024x768 screen leaves it.

@@ -30,6 +30,7 @@
 #include "shell/MDIMurvane.h"
 #include "tests/hulp/bestanden.h"
 #include "tests/hulp/opnemer.h"
+#include "tests/hulp/paden.h"
 #include "tests/hulp/script.h"
 #include "tests/vensters/robot.h"
 
@@ -38,7 +39,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const fs::path Data = fs::path(MURVANE_BRON) / "data";
+const fs::path Data = proef::BronMap() / "data";
 const Melding GrafiekVraag{MeldingSoort::Vraag, "Afdrukinstelling", "Afdrukken met grafiek?", Knoppen::YesNo};
 const Melding F8Vraag{MeldingSoort::Vraag, "Afdrukken", "Grafiek afdrukken op printer?", Knoppen::YesNo};
 

@@ -54,6 +54,7 @@
 #include "shell/frmAbout.h"
 #include "shell/frmSplashII.h"
 #include "tests/hulp/bestanden.h"
+#include "tests/hulp/paden.h"
 #include "tests/hulp/script.h"
 #include "tests/vensters/beeld.h"
 
@@ -64,7 +65,7 @@ using proef::Donker;
 using proef::HoogContrast;
 using proef::Thema;
 
-const std::filesystem::path Data = std::filesystem::path(MURVANE_BRON) / "data";
+const std::filesystem::path Data = proef::BronMap() / "data";
 
 /// The size of the letters that the user has, against the system's own.
 double Letters() {

@@ -7,11 +7,12 @@
 #include <filesystem>
 
 #include "tests/hulp/bestanden.h"
+#include "tests/hulp/paden.h"
 
 namespace murvane {
 namespace {
 
-const std::filesystem::path Data = std::filesystem::path(MURVANE_BRON) / "data";
+const std::filesystem::path Data = proef::BronMap() / "data";
 
 struct Afloop {
   int Status = -1;
@@ -22,12 +23,12 @@ Afloop Start(const std::filesystem::path& map, const QStringList& argumenten = {
              QProcessEnvironment omgeving = QProcessEnvironment::systemEnvironment()) {
   omgeving.insert("MURVANE_ROOKPROEF", "1");
   omgeving.insert("QT_QPA_PLATFORM", "offscreen");
-  omgeving.insert("LSAN_OPTIONS",
-                  "suppressions=" MURVANE_BRON "/tests/vensters/lsan.txt:print_suppressions=0");
+  omgeving.insert("LSAN_OPTIONS", QString::fromStdString("suppressions=" + proef::BronMap().string() +
+                                                         "/tests/vensters/lsan.txt:print_suppressions=0"));
   QProcess proces;
   proces.setProcessEnvironment(omgeving);
   proces.setWorkingDirectory(QString::fromStdString(map.string()));
-  proces.start(MURVANE_PROGRAMMA, argumenten);
+  proces.start(QString::fromStdString(proef::Programma("murvane").string()), argumenten);
   if (!proces.waitForFinished(60000) || proces.exitStatus() != QProcess::NormalExit) return {};
   return {proces.exitCode(), QString::fromUtf8(proces.readAllStandardError())};
 }
