@@ -262,10 +262,16 @@ std::optional<std::string> cmbKanaal_Change(std::string_view tekst) {
   return {};
 }
 
-std::optional<std::string> cmbKanaal_LostFocus(Project& project, int n, std::string_view tekst) {
-  if (!Trim(tekst).empty()) return {};
-  if (n != 0) Element(project, n).Kanaal = GeenKanaalwandTekst();
-  return GeenKanaalwandTekst();
+KeuzeUitslag cmbKanaal_LostFocus(Project& project, int n, std::string_view tekst) {
+  KeuzeUitslag uit;
+  if (Trim(tekst).empty()) uit.Tekst = GeenKanaalwandTekst();
+  if (n == 0) return uit;
+  Tekst<80>& bewaard = Element(project, n).Kanaal;
+  const Tekst<80> wand = uit.Tekst ? std::string_view(*uit.Tekst) : Trim(tekst);
+  if (wand.Getrimd() == bewaard.Getrimd()) return uit;
+  bewaard = wand;
+  uit.Berekend = WandBerekend;
+  return uit;
 }
 
 }  // namespace murvane

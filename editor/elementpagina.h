@@ -92,7 +92,8 @@ inline constexpr std::string_view WandBerekend = "50";
 /// The text that replaces an edited one: the placeholder when it has become empty.
 [[nodiscard]] std::optional<std::string> cmbKanaal_Change(std::string_view tekst);
 
-/// The text that replaces the one the box is left with: the placeholder, in element n too, when it is blank.
-[[nodiscard]] std::optional<std::string> cmbKanaal_LostFocus(Project& project, int n, std::string_view tekst);
+/// The box is left: its text is the wall of element n from now on; a blank one the placeholder, on screen
+/// too. A name typed over another one is a change. n = 0 stores nothing. Fout 9 for an n outside 0 to 500.
+[[nodiscard]] KeuzeUitslag cmbKanaal_LostFocus(Project& project, int n, std::string_view tekst);
 
 }  // namespace murvane

@@ -24,6 +24,15 @@ FanUitslag Begin(const Project& project) {
   return uit;
 }
 
+/// Another source gives another run, also where no text on screen changes.
+FanUitslag KiesBron(Project& project, std::int16_t bron) {
+  const bool anders = project.FanPrognose != bron;
+  project.FanPrognose = bron;
+  FanUitslag uit = Begin(project);
+  uit.Gewijzigd = anders;
+  return uit;
+}
+
 void MaakLeeg(FanUitslag& uit) {
   uit.Zet.push_back({{"txtSpectrum"}, ""});
   for (int band = 0; band < Banden; ++band) uit.Zet.push_back({{"txtLw", band}, "0"});
@@ -167,8 +176,7 @@ FanUitslag lstFan_Click(Project& project, int rij, const SpectrumCatalogus& CatF
 
 FanUitslag optInvoer_Click(Project& project, const SpectrumCatalogus& CatFans, int& laatsteRij,
                            char decimaal) {
-  project.FanPrognose = fanbron::Lijst;
-  FanUitslag uit = Begin(project);
+  FanUitslag uit = KiesBron(project, fanbron::Lijst);
   MaakLeeg(uit);
   if (laatsteRij < 1 || laatsteRij > CatFans.Aantal) return uit;
   FanUitslag keuze = lstFan_Click(project, laatsteRij - 1, CatFans, laatsteRij, decimaal);
@@ -179,8 +187,7 @@ FanUitslag optInvoer_Click(Project& project, const SpectrumCatalogus& CatFans, i
 }
 
 FanUitslag optPrognose_Click(Project& project, int tab) {
-  project.FanPrognose = fanbron::Prognose;
-  FanUitslag uit = Begin(project);
+  FanUitslag uit = KiesBron(project, fanbron::Prognose);
   if (tab == PrognoseFocusTab) uit.Focus = VeldId{"txtfan", 0};
   return uit;
 }

@@ -40,6 +40,7 @@ struct FanUitslag {
   std::optional<Melding> Box;      ///< a refusal
   std::optional<VeldId> Focus;     ///< behind the box
   bool OpenEersteElement = false;  ///< select the first row of lstProject, with its click handling
+  bool Gewijzigd = false;          ///< last: Berekend with false, as another source gives another run
 };
 
 /// The prognosis: reads and checks the five boxes in order, stores them, names the fan after its data and

@@ -100,6 +100,8 @@ frmMurvane::frmMurvane(Project& project, const Catalogi& catalogi, Dialogen& dia
 
 void frmMurvane::ToonProject(bool isNieuwOfGeopend) {
   BouwTabs();
+  setFocusPolicy(Qt::NoFocus);
+  LaatLos();
   const QScopedValueRollback<bool> vult(vult_, true);
   const VensterBeeld beeld = TabSettings(project_, catalogi_, decimaal_);
   VulVelden(beeld);
@@ -113,14 +115,17 @@ void frmMurvane::ToonProject(bool isNieuwOfGeopend) {
   leeg_->hide();
   SSTab1->show();
   if (isNieuwOfGeopend) {
-    laatsteFan_ = 0;  // a fan of the list that was chosen for another project
     SSTab1->setCurrentIndex(static_cast<int>(StartPagina));
     GaNaar("txtProNum");
   }
   emit ToestandGewijzigd();
 }
 
+/// The window itself has the keyboard meanwhile: without a control that could have it the frame would give it
+/// to one of those that are hidden.
 void frmMurvane::ToonGeenProject() {
+  setFocusPolicy(Qt::ClickFocus);
+  LaatLos();
   const QScopedValueRollback<bool> vult(vult_, true);
   SSTab1->hide();
   leeg_->show();
@@ -147,7 +152,7 @@ void frmMurvane::VulVelden(const VensterBeeld& beeld) {
 }
 
 void frmMurvane::VulLijsten(const VensterBeeld& beeld) {
-  lstFan->ZetRijen(Rijen(beeld.lstFan));
+  VulFanLijst(beeld.lstFan);
   lstTotaal->ZetRijen(Rijen(beeld.lstTotaal));
   lstProject->ZetRijen(Rijen(beeld.lstProject));
   cmbKanaal->ZetRijen(Rijen(beeld.cmbKanaal));
@@ -169,7 +174,12 @@ void frmMurvane::VulElementen() {
 void frmMurvane::VulFans() {
   BouwTabs();
   const QScopedValueRollback<bool> vult(vult_, true);
-  lstFan->ZetRijen(Rijen(CatalogusRijen(catalogi_.CatFans)));
+  VulFanLijst(CatalogusRijen(catalogi_.CatFans));
+}
+
+void frmMurvane::VulFanLijst(const std::vector<std::string>& rijen) {
+  lstFan->ZetRijen(Rijen(rijen));
+  fanRij_ = -1;
 }
 
 void frmMurvane::ToonFan(const FanZicht& zicht) {
@@ -296,18 +306,6 @@ void frmMurvane::PasToe(const VeldUitslag& uitslag) {
   if (!uitslag.Geldig) GaTerug(Vak(uitslag.Veld));
 }
 
-/// The focus can only be given back once the control that is getting it has it. Until then other fields are
-/// not checked: two invalid ones would pass it to each other for ever.
-void frmMurvane::GaTerug(InvoerVeld* veld) {
-  if (terugNaar_ != nullptr) return;
-  terugNaar_ = veld;
-  const auto terug = [this] {
-    GaNaar(terugNaar_->objectName());
-    terugNaar_ = nullptr;
-  };
-  QMetaObject::invokeMethod(this, terug, Qt::QueuedConnection);
-}
-
 void frmMurvane::NaarVolgende(const InvoerVeld& veld) {
   const auto beschikbaar = [this](VeldId id) {
     const auto vak = velden_.find({id.Naam, id.Index});
@@ -325,40 +323,13 @@ void frmMurvane::Herstel(InvoerVeld& veld) {
   veld.selectAll();
 }
 
-/// Gives a control the focus, and brings its tab into view; one that does not show does not get it.
-bool frmMurvane::GaNaar(const QString& naam) {
-  auto* const doel = naam.isEmpty() ? nullptr : findChild<QWidget*>(naam);
-  if (doel == nullptr) return false;
-  for (int blad = 0; blad < SSTab1->count(); ++blad) {
-    if (!SSTab1->widget(blad)->isAncestorOf(doel)) continue;
-    if (!SSTab1->isTabEnabled(blad)) return false;  // the fan's boxes between two rooms
-    SSTab1->setCurrentIndex(blad);
-  }
-  if (!doel->isVisibleTo(SSTab1) || !doel->isEnabled()) return false;
-  doel->setFocus(Qt::OtherFocusReason);
-  // Whole also where the focus only comes once a message box has gone, or was here and a menu took the
-  // selection.
-  if (auto* const veld = qobject_cast<InvoerVeld*>(doel)) veld->selectAll();
-  return true;
-}
-
 bool frmMurvane::IsGeldig(const InvoerVeld& veld) const {
   return ValiDate(NaarCp(veld.text()), Regel(veld.Veld()), vandaag_, decimaal_).Geldig;
 }
 
-/// To the next tab that is enabled, round and round. The field in hand is left first.
-void frmMurvane::WandelTab(int richting) {
-  if (!SSTab1->isVisible()) return;
-  SSTab1->tabBar()->setFocus(Qt::TabFocusReason);
-  int blad = SSTab1->currentIndex();
-  do {
-    blad = (blad + richting + SSTab1->count()) % SSTab1->count();
-  } while (!SSTab1->isTabEnabled(blad));
-  SSTab1->setCurrentIndex(blad);
-}
-
+/// A run may have shown a message about another field than the one that it refused, which then waits too.
 bool frmMurvane::BewaarVeld() {
-  return Bewaar(true);
+  return Bewaar(true) && !NaarOngeldig();
 }
 
 /// A run takes the directivity factor as it was typed; only leaving its box snaps it.
@@ -367,6 +338,7 @@ bool frmMurvane::Bewaar(bool ookRDI) {
   if (focus == nullptr || !focus->isVisibleTo(this)) return true;
   if (auto* const veld = qobject_cast<InvoerVeld*>(focus)) {
     const bool zoAls = !ookRDI && veld->Veld().Naam == "txtRDI" && IsGeldig(*veld);
+    if (zoAls) veld->setToolTip({});  // of a text before this one
     if (!zoAls) Verlaat(*veld);
   }
   if (auto* const keuze = qobject_cast<Keuzevak*>(focus)) emit keuze->Verlaten();
@@ -385,7 +357,7 @@ void frmMurvane::VoerUit(const Gevolg& gevolg) {
 }
 
 void frmMurvane::VoerUit(const LijstUitkomst& uitkomst) {
-  if (uitkomst.Accepteer > 0) (void)Accepteer(uitkomst.Accepteer);
+  if (uitkomst.Accepteer > 0) Accepteer(uitkomst.Accepteer);
   if (uitkomst.Melding) dialogen_.Toon(*uitkomst.Melding);
   if (uitkomst.lstProject == Vulling::RijErbij)
     lstProject->VoegRij(VanCp(TrimRechts(RijProject(project_, project_.ElementCount))));
@@ -397,17 +369,12 @@ void frmMurvane::VoerUit(const LijstUitkomst& uitkomst) {
   emit ToestandGewijzigd();
 }
 
-bool frmMurvane::Accepteer(int n) {
+void frmMurvane::Accepteer(int n) {
   ElementInvoer invoer;
   invoer.cmbKanaal = NaarCp(cmbKanaal->currentText());
   for (const VeldId& veld : AcceptVelden(project_.Elementen[static_cast<std::size_t>(n)].ElementType))
     invoer.Teksten.push_back({veld, TekstVan(veld)});
-  bool geldig = true;
-  for (const VeldUitslag& uitslag : Accept(project_, n, invoer, decimaal_)) {
-    PasToe(uitslag);
-    geldig = geldig && uitslag.Geldig;
-  }
-  return geldig;
+  for (const VeldUitslag& uitslag : Accept(project_, n, invoer, decimaal_)) PasToe(uitslag);
 }
 
 /// Fills and shows the page of element n. The field that loses the focus by it was stored before; what it
@@ -435,6 +402,7 @@ void frmMurvane::Open(int n) {
 }
 
 void frmMurvane::VoerUit(const FanUitslag& uitslag) {
+  if (uitslag.Gewijzigd) LaatLos();
   for (const VeldUitslag& veld : uitslag.Velden) {
     Toon(veld);
     if (!veld.Geldig && !uitslag.Focus) GaTerug(Vak(veld.Veld));
@@ -444,9 +412,11 @@ void frmMurvane::VoerUit(const FanUitslag& uitslag) {
   ToonFan(uitslag.Zicht);
   VormPagina();
   if (uitslag.KiesRij) lstFan->ZetRij(*uitslag.KiesRij);
+  fanRij_ = lstFan->currentRow();
   if (uitslag.Box) dialogen_.Toon(*uitslag.Box);
   if (uitslag.Focus) GaNaar(ObjectNaam(*uitslag.Focus));
   if (uitslag.OpenEersteElement) VoerUit(lstProject_Click(lijst_, project_, 0));
+  if (uitslag.Gewijzigd) RoepBerekend({});
   emit ToestandGewijzigd();
 }
 
@@ -545,8 +515,9 @@ void frmMurvane::KiesType(std::int16_t rekenType) {
   if (!BewaarVeld()) return;
   BouwTabs();
   VoerUit(KiesRekenType(sessie_, project_, rekenType));
-  ToonType();
+  LaatLos();
   SSTab1->setCurrentIndex(static_cast<int>(StartPagina));
+  ToonType();
   VoerUit(VrVldSet(project_));
   VormPagina();
 }
@@ -559,40 +530,52 @@ ProjectInvoer frmMurvane::LeesInvoer() const {
   return invoer;
 }
 
+/// What was refused counts as 0 and stays red, a date as it was before: a rule that fails by it tells so, and
+/// without one the run stops at the field.
 bool frmMurvane::NeemOverEnBeoordeel() {
   std::optional<Bevinding> bevinding;
   {
     const Zandloper wacht(dialogen_);
-    if (!Bewaar(false)) return false;
-    if (lijst_.HuidigElement > 0 && !Accepteer(lijst_.HuidigElement)) return false;
-    const ProjectInvoer invoer = LeesInvoer();
-    const bool fanTab = SSTab1->isTabEnabled(static_cast<int>(Tab::Ventilator));
-    if (const auto ongeldig = OngeldigeLw(invoer); ongeldig && fanTab) {
-      PasToe(*ongeldig);
-      return false;
-    }
+    (void)Bewaar(false);
+    if (lijst_.HuidigElement > 0) Accepteer(lijst_.HuidigElement);
+    terugNaar_ = nullptr;  // where to go is told below
+    ProjectInvoer invoer = LeesInvoer();
+    WeegOngeldige(invoer);
     NeemOver(project_, invoer, decimaal_);
     ToonOvergenomen();
     bevinding = Beoordeel(project_);
   }
   if (bevinding) NaarRegel(*bevinding);
-  return !bevinding;
+  return !bevinding && !NaarOngeldig();
+}
+
+/// The bands of a fan between two rooms cannot be mended, so that their texts stay as they are.
+void frmMurvane::WeegOngeldige(ProjectInvoer& invoer) {
+  if (!IsGeldig(*Vak({"txtMyDate"}))) invoer.txtMyDate = project_.Kop.MyDate.Heel();
+  if (!SSTab1->isTabEnabled(static_cast<int>(Tab::Ventilator))) return;
+  while (const auto ongeldig = OngeldigeLw(invoer)) {
+    Toon(*ongeldig);
+    invoer.txtLw[static_cast<std::size_t>(ongeldig->Veld.Index)] = "0";
+  }
 }
 
 /// What a run took over as the records have it: the room's boxes, and the open element's page, where what the
-/// element inherited stands in place of what was typed.
+/// element inherited stands in place of what was typed. A text that was refused stays as it was typed.
 void frmMurvane::ToonOvergenomen() {
-  for (std::size_t i = EersteRuimte; i < Plaatsen.size(); ++i)
-    ZetTekst({{Plaatsen[i].Naam}, HerstelTekst(project_, 0, {Plaatsen[i].Naam}, decimaal_)});
+  for (std::size_t i = EersteRuimte; i < Plaatsen.size(); ++i) {
+    const VeldId veld = {Plaatsen[i].Naam};
+    if (!Vak(veld)->IsOngeldig()) ZetTekst({veld, HerstelTekst(project_, 0, veld, decimaal_)});
+  }
   const QScopedValueRollback<bool> vult(vult_, true);
   for (const VeldTekst& tekst : ProjectSettings(project_, lijst_.HuidigElement, decimaal_).Teksten) {
-    if (TekstVan(tekst.Veld) != tekst.Tekst) ZetTekst(tekst);
+    if (!Vak(tekst.Veld)->IsOngeldig() && TekstVan(tekst.Veld) != tekst.Tekst) ZetTekst(tekst);
   }
 }
 
 void frmMurvane::NaarRegel(const Bevinding& bevinding) {
   dialogen_.Toon({MeldingSoort::Uitroep, "Waarschuwing", bevinding.Melding});
   SSTab1->setCurrentIndex(static_cast<int>(bevinding.OpTab));
+  terugNaar_ = nullptr;  // a field that was refused is left for what the message is about
   if (bevinding.Element > 0) VoerUit(lstProject_Click(lijst_, project_, bevinding.Element - 1));
   const QScopedValueRollback<bool> vult(vult_, true);
   if (!bevinding.Veld.empty()) GaNaar(VanCp(bevinding.Veld));
@@ -604,17 +587,6 @@ void frmMurvane::changeEvent(QEvent* event) {
     ToonLijsten();
   }
   QWidget::changeEvent(event);
-}
-
-/// The wheel changes no tab; Escape closes the calendar.
-bool frmMurvane::eventFilter(QObject* object, QEvent* event) {
-  if (object == SSTab1->tabBar()) return event->type() == QEvent::Wheel;
-  const bool escape =
-      event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
-  if (object != MonthView || !escape) return QWidget::eventFilter(object, event);
-  GaNaar("txtMyDate");
-  MonthView->hide();
-  return true;
 }
 
 }  // namespace murvane

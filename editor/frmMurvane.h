@@ -120,6 +120,9 @@ class frmMurvane : public QWidget {
   void NaarVolgende(const InvoerVeld& veld);
   void Herstel(InvoerVeld& veld);
   void GaTerug(InvoerVeld* veld);
+  void LaatLos();
+  void LaatLos(const InvoerVeld& veld);
+  [[nodiscard]] bool NaarOngeldig();
   void ZetLwA(const std::optional<std::string>& tekst);
   void ZetTekst(const VeldTekst& tekst);
   void ZetTeksten(const std::vector<VeldTekst>& teksten);
@@ -127,6 +130,7 @@ class frmMurvane : public QWidget {
   void PasToe(const VeldUitslag& uitslag);  ///< shows it; an invalid field gets the focus back
   void ZetZichtbaar(VeldId veld, bool zichtbaar);
   bool GaNaar(const QString& naam);
+  void VergeetFocus(QWidget& vak);
   void WandelTab(int richting);
   [[nodiscard]] bool Bewaar(bool ookRDI);
   [[nodiscard]] bool IsGeldig(const InvoerVeld& veld) const;
@@ -134,12 +138,14 @@ class frmMurvane : public QWidget {
   // the records on screen
   void VulVelden(const VensterBeeld& beeld);
   void VulLijsten(const VensterBeeld& beeld);
+  void VulFanLijst(const std::vector<std::string>& rijen);
   void ToonFan(const FanZicht& zicht);
   void ToonRuimte(const RuimteZicht& zicht);
   void ToonType();
   void ToonLijsten();
   void VormPagina();
   [[nodiscard]] ProjectInvoer LeesInvoer() const;
+  void WeegOngeldige(ProjectInvoer& invoer);
 
   // what procedures return
   void RoepBerekend(std::string_view nummer);
@@ -148,7 +154,7 @@ class frmMurvane : public QWidget {
   void VoerUit(const FanUitslag& uitslag);
   void VoerUit(const RuimteUitslag& uitslag);
   void VoerUit(Keuzevak& vak, const KeuzeUitslag& uitslag);
-  bool Accepteer(int n);
+  void Accepteer(int n);
   void Open(int n);
 
   // events
@@ -181,6 +187,7 @@ class frmMurvane : public QWidget {
   Sessie sessie_;
   Elementlijst lijst_;
   int laatsteFan_ = 0;               ///< the row of the fan catalogue chosen last, from 1; 0 for none
+  int fanRij_ = -1;                  ///< the row that lstFan shows as chosen in this project, from 0
   bool vult_ = false;                ///< the window is being filled from the records
   InvoerVeld* terugNaar_ = nullptr;  ///< an invalid field that is about to have the focus again
 

@@ -205,6 +205,7 @@ void frmMurvane::BouwTabs() {
   VerbindKeuzes();
   ZetIconen();
   ZetUitleg(*this, Uitleggen);
+  for (QWidget* const vak : findChildren<QWidget*>()) vak->installEventFilter(this);
 }
 
 QWidget* frmMurvane::BouwVentilator() {
@@ -558,7 +559,7 @@ void frmMurvane::VerbindFan() {
            [this] { VoerUit(cmdFanCancel_Click(project_, catalogi_.CatFans, laatsteFan_, decimaal_)); });
   });
   connect(lstFan, &Lijstvak::Geklikt, this, [this](int rij) {
-    if (Houdt()) return lstFan->ZetRij(laatsteFan_ - 1);
+    if (Houdt()) return lstFan->ZetRij(fanRij_);
     Veilig("lstFan_Click",
            [&] { VoerUit(lstFan_Click(project_, rij, catalogi_.CatFans, laatsteFan_, decimaal_)); });
   });
@@ -603,10 +604,10 @@ void frmMurvane::VerbindKeuzes() {
     if (Houdt()) return;
     Veilig("cmbKanaal_LostFocus", [this] {
       const std::string tekst = NaarCp(cmbKanaal->currentText());
-      const auto nieuw = cmbKanaal_LostFocus(project_, lijst_.HuidigElement, tekst);
-      if (nieuw) cmbKanaal->ZetTekst(VanCp(*nieuw));
+      VoerUit(*cmbKanaal, cmbKanaal_LostFocus(project_, lijst_.HuidigElement, tekst));
     });
   });
+  connect(cmbKanaal->lineEdit(), &QLineEdit::returnPressed, cmbKanaal, &Keuzevak::Verlaten);
   const auto verbind = [this](Keuzevak* vak, const SpectrumCatalogus& catalogus, auto klik, auto wijzig,
                               auto verlaat) {
     const std::string naam = vak->objectName().toStdString();

@@ -70,18 +70,26 @@ KeuzeUitslag Wijzig(const Keuze& keuze, std::string_view tekst) {
   return uit;
 }
 
-KeuzeUitslag Verlaat(Project& project, const Keuze& keuze, std::string_view tekst, char decimaal) {
+std::string KeuzeTekst(const RuimteRec& ruimte, const Keuze& keuze) {
+  const std::string& naam = ruimte.*keuze.Naam;
+  return Trim(naam).empty() ? keuze.Geen() : naam;
+}
+
+/// Only a choice gives a wall or a ceiling its name, as only a choice gives it its bands.
+KeuzeUitslag ZetTerug(const RuimteRec& ruimte, const Keuze& keuze, std::string_view tekst) {
   KeuzeUitslag uit;
-  if (!Trim(tekst).empty()) return uit;
+  const std::string bewaard = KeuzeTekst(ruimte, keuze);
+  if (Trim(tekst) != Trim(bewaard)) uit.Tekst = bewaard;
+  return uit;
+}
+
+KeuzeUitslag Verlaat(Project& project, const Keuze& keuze, std::string_view tekst, char decimaal) {
+  if (!Trim(tekst).empty()) return ZetTerug(project.Ruimte, keuze, tekst);
+  KeuzeUitslag uit;
   uit.Tekst = project.Ruimte.*keuze.Naam = keuze.Geen();
   std::fill_n((project.Ruimte.*keuze.Waarden).begin(), Banden, 0);
   uit.Zet = BandTeksten(project, keuze, decimaal);
   return uit;
-}
-
-std::string KeuzeTekst(const RuimteRec& ruimte, const Keuze& keuze) {
-  const std::string& naam = ruimte.*keuze.Naam;
-  return Trim(naam).empty() ? keuze.Geen() : naam;
 }
 
 }  // namespace

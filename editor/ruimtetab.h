@@ -1,7 +1,6 @@
 #pragma once
 // The room tab: which fields show, and the choices of duct wall and ceiling. Texts are Windows-1252.
 
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -43,13 +42,6 @@ struct RuimteUitslag {
 /// A click on the check box: stores it, then VrVldSet.
 [[nodiscard]] RuimteUitslag VrijVeld_Click(Project& project, bool aan);
 
-/// What a combo box of the room tab brings about.
-struct KeuzeUitslag {
-  std::optional<std::string> Tekst;  ///< the combo box's new text
-  std::vector<VeldTekst> Zet;        ///< the band boxes, with their change events
-  std::string_view Berekend;         ///< the caller's number for Berekend with false; empty: not called
-};
-
 /// The choice of a row (from 0): name and seven bands go into the room; slot 7 stays. No row (-1) changes
 /// nothing; Fout 9 for a row that the catalogue does not have.
 [[nodiscard]] KeuzeUitslag cmbRkanaal_Click(Project& project, int rij, const SpectrumCatalogus& CatRduct,
@@ -61,7 +53,8 @@ struct KeuzeUitslag {
 [[nodiscard]] KeuzeUitslag cmbRkanaal_Change(std::string_view tekst);
 [[nodiscard]] KeuzeUitslag cmbRplafond_Change(std::string_view tekst);
 
-/// A box that is left blank: the placeholder becomes text and name, all seven bands 0.
+/// A box that is left blank: the placeholder becomes text and name, all seven bands 0. A name that was typed
+/// and not chosen goes back to the stored one, or its placeholder.
 [[nodiscard]] KeuzeUitslag cmbRkanaal_LostFocus(Project& project, std::string_view tekst, char decimaal);
 [[nodiscard]] KeuzeUitslag cmbRplafond_LostFocus(Project& project, std::string_view tekst, char decimaal);
 

@@ -39,6 +39,13 @@ struct VeldGevolg {
   std::optional<std::string> lblLwA;
 };
 
+/// What a combo box brings about.
+struct KeuzeUitslag {
+  std::optional<std::string> Tekst;  ///< the combo box's new text
+  std::vector<VeldTekst> Zet;        ///< the band boxes, with their change events
+  std::string_view Berekend;         ///< the caller's number for Berekend with false; empty: not called
+};
+
 /// The text of lblLwA: the fan's sound power in dB(A).
 [[nodiscard]] std::string LwATekst(const FanRec& fan, char decimaal);
 
@@ -60,8 +67,7 @@ struct VeldGevolg {
 [[nodiscard]] VeldUitslag VerlaatVeld(Project& project, int element, VeldId veld, std::string_view tekst,
                                       std::string_view vandaag, char decimaal);
 
-/// The first txtLw whose text a run cannot take over, turned red and to get the focus; nothing when all seven
-/// are numbers.
+/// The first txtLw whose text a run cannot take over, turned red; nothing when all seven are numbers.
 [[nodiscard]] std::optional<VeldUitslag> OngeldigeLw(const ProjectInvoer& invoer);
 
 }  // namespace murvane

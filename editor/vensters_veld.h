@@ -35,6 +35,9 @@ class InvoerVeld : public QLineEdit {
   [[nodiscard]] VeldId Veld() const { return veld_; }
   [[nodiscard]] const VeldRegel& DeRegel() const { return regel_; }
   void ZetKleur(std::uint32_t bgr);
+  [[nodiscard]] bool IsRood() const { return kleur_ == FoutKleur; }
+  /// Whether the check refused its text, which stands there still.
+  [[nodiscard]] bool IsOngeldig() const { return IsRood() && !toolTip().isEmpty(); }
 
  signals:
   void Gekregen();

@@ -464,7 +464,7 @@ void MDIMurvane::Onderhoud(CatalogusSoort soort) {
     if (vult == Ververs::lstTotaal) project_->VulElementen();
     if (vult == Ververs::lstFan) project_->VulFans();
   }
-  if (focus != nullptr) focus->setFocus();
+  if (focus != nullptr && focus->isVisible()) focus->setFocus();
 }
 
 void MDIMurvane::mnuElementen() {

@@ -457,11 +457,35 @@ TEST(KanaalKeuze, PutsThePlaceholderBack) {
 
   Project project = MetElement(KanaalRecht);
   project.Elementen[2].Kanaal = "Staal";
-  EXPECT_EQ(cmbKanaal_LostFocus(project, 2, " S "), std::nullopt);
-  EXPECT_EQ(project.Elementen[2].Kanaal.Getrimd(), "Staal");
-  EXPECT_EQ(cmbKanaal_LostFocus(project, 2, "  "), plaatshouder);
+  EXPECT_EQ(cmbKanaal_LostFocus(project, 2, "  ").Tekst, plaatshouder);
   EXPECT_EQ(project.Elementen[2].Kanaal.Heel(), plaatshouder);
-  EXPECT_EQ(cmbKanaal_LostFocus(project, 0, ""), plaatshouder);
+  EXPECT_EQ(cmbKanaal_LostFocus(project, 0, "").Tekst, plaatshouder);
+  EXPECT_EQ(project.Elementen[0].Kanaal.Getrimd(), "");
+}
+
+TEST(KanaalKeuze, ANameThatWasTypedIsTheWall) {
+  Project project = MetElement(KanaalRecht);
+  project.Elementen[2].Kanaal = "Staal";
+  project.Elementen[2].Rkanaalwand = {1, 2, 3, 4, 5, 6, 7, 8};
+  const KeuzeUitslag uit = cmbKanaal_LostFocus(project, 2, " Eigen wand  ");
+  EXPECT_EQ(uit.Tekst, std::nullopt);
+  EXPECT_TRUE(uit.Zet.empty());
+  EXPECT_EQ(uit.Berekend, "50");
+  EXPECT_EQ(project.Elementen[2].Kanaal.Heel(), "Eigen wand" + std::string(70, ' '));
+  EXPECT_EQ(project.Elementen[2].Rkanaalwand, (Spectrum{1, 2, 3, 4, 5, 6, 7, 8}));
+  EXPECT_EQ(cmbKanaal_LostFocus(project, 2, "   ").Berekend, "50");
+  EXPECT_EQ(cmbKanaal_LostFocus(project, 2, "   ").Berekend, "");
+  const std::string lang(90, 'w');  // what does not fit is cut off, and is no other name the next time
+  EXPECT_EQ(cmbKanaal_LostFocus(project, 2, lang).Berekend, "50");
+  EXPECT_EQ(cmbKanaal_LostFocus(project, 2, lang).Berekend, "");
+}
+
+TEST(KanaalKeuze, LeavingTheStoredNameChangesNoByte) {
+  Project project = MetElement(KanaalRecht);
+  project.Elementen[2].Kanaal = " Staal";
+  EXPECT_EQ(cmbKanaal_LostFocus(project, 2, "Staal   ").Berekend, "");
+  EXPECT_EQ(project.Elementen[2].Kanaal.Heel(), " Staal" + std::string(74, ' '));
+  EXPECT_EQ(cmbKanaal_LostFocus(project, 0, "Staal").Berekend, "");
   EXPECT_EQ(project.Elementen[0].Kanaal.Getrimd(), "");
 }
 

@@ -326,6 +326,18 @@ TEST(FanBron, TheListTakesTheLastChoiceAgain) {
   }
 }
 
+TEST(FanBron, AnotherSourceIsAChangeAlsoWhereNoTextChanges) {
+  Project project;
+  int laatste = 0;
+  EXPECT_TRUE(optPrognose_Click(project, 0).Gewijzigd);
+  EXPECT_FALSE(optPrognose_Click(project, 0).Gewijzigd);
+  EXPECT_TRUE(optInvoer_Click(project, Fans(), laatste, ',').Gewijzigd);
+  EXPECT_FALSE(optInvoer_Click(project, Fans(), laatste, ',').Gewijzigd);
+  project.FanPrognose = fanbron::Prognose;
+  EXPECT_TRUE(cmdFanCancel_Click(project, Fans(), laatste, ',').Gewijzigd);
+  EXPECT_FALSE(lstFan_Click(project, 0, Fans(), laatste, ',').Gewijzigd);
+}
+
 TEST(FanBron, CancellingAPrognosisBlanksTheSum) {
   Project project = MetFan(fantype::Geen);
   int laatste = 0;

@@ -166,15 +166,29 @@ TEST(RuimteKeuze, ForgetsTheChoiceWhenTheBoxIsLeftBlank) {
     Project project;
     (void)doos.kies(project, 0, Lijst());
     doos.waarden(project)[7] = 42;
-    EXPECT_EQ(doos.verlaat(project, " G ").Tekst, std::nullopt);
-    EXPECT_TRUE(doos.verlaat(project, "G").Zet.empty());
-    EXPECT_EQ(doos.waarden(project)[1], 2);
-
     const KeuzeUitslag uit = doos.verlaat(project, "   ");
     EXPECT_EQ(uit.Tekst, doos.geen);
     EXPECT_EQ(uit.Zet, Banden7(doos.veld, std::vector<std::string>(7, "0,0")));
     EXPECT_EQ(doos.naam(project), doos.geen);
     EXPECT_EQ(doos.waarden(project), (Spectrum{0, 0, 0, 0, 0, 0, 0, 42}));
+  }
+}
+
+TEST(RuimteKeuze, ANameThatWasTypedGoesBackToTheStoredOne) {
+  for (const Doos& doos : Dozen()) {
+    SCOPED_TRACE(doos.veld);
+    Project project;
+    EXPECT_EQ(doos.verlaat(project, "G").Tekst, doos.geen);
+    EXPECT_EQ(doos.naam(project), "");
+    (void)doos.kies(project, 0, Lijst());
+    const std::string gips = doos.naam(project);
+    const KeuzeUitslag uit = doos.verlaat(project, " G ");
+    EXPECT_EQ(uit.Tekst, gips);
+    EXPECT_TRUE(uit.Zet.empty());
+    EXPECT_EQ(uit.Berekend, "");
+    EXPECT_EQ(doos.verlaat(project, " Gips").Tekst, std::nullopt);
+    EXPECT_EQ(doos.naam(project), gips);
+    EXPECT_EQ(doos.waarden(project)[1], 2);
   }
 }
 

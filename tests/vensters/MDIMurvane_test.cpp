@@ -274,6 +274,7 @@ TEST_F(Hoofdvenster, ADirectivityThatIsNoNumberStopsTheRun) {
   auto* veld = venster->findChild<QLineEdit*>("txtRDI");
   veld->setFocus();
   QTest::keyClicks(veld, "1,2,3");
+  script.Box({MeldingSoort::Uitroep, "Waarschuwing", "Richtingsfactor niet ingevuld"});
   Kies("mnuReken");
   EXPECT_EQ(Resultaat(), nullptr);
   EXPECT_EQ(veld->text(), "1,2,3");

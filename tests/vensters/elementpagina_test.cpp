@@ -6,6 +6,8 @@
 
 #include <QComboBox>
 #include <QLabel>
+#include <QTabBar>
+#include <functional>
 
 #include "editor/vensters_veld.h"
 #include "tests/vensters/opstelling.h"
@@ -98,6 +100,53 @@ TEST_F(Elementpagina, AWallThatIsLeftBlankIsCleared) {
   NaarVeld("txtHoogte");
   EXPECT_EQ(Wand()->currentText(), geen);
   EXPECT_EQ(Element(1).Kanaal.Heel(), NaarCp(geen));
+}
+
+TEST_F(Elementpagina, ATypedWallIsStoredWhicheverWayItsBoxIsLeft) {
+  const auto klik = [](QWidget* vak, QPoint waar) { QTest::mouseClick(vak, Qt::LeftButton, {}, waar); };
+  const std::vector<std::pair<const char*, std::function<void()>>> wegen = {
+      {"Enter", [&] { Druk(Qt::Key_Return); }},
+      {"Tab", [&] { Druk(Qt::Key_Tab); }},
+      {"Shift+Tab", [&] { Druk(Qt::Key_Backtab); }},
+      {"the mouse", [&] { klik(Veld("txtHoogte"), QPoint(5, 5)); }},
+      {"another tab",
+       [&] {
+         QTabBar* const balk = Zoek<QTabWidget>("SSTab1")->tabBar();
+         klik(balk, balk->tabRect(2).center());
+       }},
+      {"a key to another tab",
+       [&] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_PageDown, Qt::ControlModifier); }},
+      {"another element", [&] { KiesElement(2); }},
+      {"the catalogue", [&] { klik(Zoek<QListWidget>("lstTotaal")->viewport(), QPoint(20, 5)); }},
+      {"a button of the chain", [&] { klik(Zoek<QWidget>("Toolbar2_Up"), QPoint(5, 5)); }},
+      {"a run", [&] { EXPECT_TRUE(venster->NeemOverEnBeoordeel()); }},
+      {"a save", [&] { EXPECT_TRUE(venster->BewaarVeld()); }},
+      {"another type", [&] { venster->KiesType(rekentype::Overspraak); }},
+  };
+  for (const auto& [naam, verlaat] : wegen) {
+    OpenVoorbeeld("kantoor.mrv");
+    KiesElement(1);
+    Wand()->setFocus(Qt::TabFocusReason);
+    Wand()->lineEdit()->selectAll();
+    Typ("Eigen wand");
+    verlaat();
+    EXPECT_EQ(Element(1).Kanaal.Getrimd(), "Eigen wand") << naam;
+  }
+}
+
+TEST_F(Elementpagina, ATypedWallIsAChangeAndLeavingTheStoredOneIsNone) {
+  OpenVoorbeeld("kantoor.mrv");
+  KiesElement(1);
+  Wand()->setFocus(Qt::TabFocusReason);
+  MaakBerekend();
+  NaarVeld("txtHoogte");
+  EXPECT_EQ(venster->DeSessie().Toestand, Toestand::Berekend);
+  Wand()->setFocus(Qt::TabFocusReason);
+  Wand()->lineEdit()->selectAll();
+  Typ("Eigen wand");
+  NaarVeld("txtHoogte");
+  EXPECT_EQ(venster->DeSessie().Toestand, Toestand::Open);
+  EXPECT_EQ(venster->DeSessie().Aanroep, "50");
 }
 
 TEST_F(Elementpagina, ShowsTheWallThatWasStored) {

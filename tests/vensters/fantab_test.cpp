@@ -167,6 +167,96 @@ TEST_F(Fantab, BackFromThePrognosisWithoutAFanOfTheListNothingShows) {
   EXPECT_EQ(Zoek<QListWidget>("lstFan")->currentRow(), -1);
 }
 
+TEST_F(Fantab, TheLastFanOfTheListIsTakenInTheNextProjectToo) {
+  for (const bool nieuw : {true, false}) {
+    Nieuw();
+    KiesFan(2);
+    const QString naam = Veld("txtSpectrum")->text();
+    const QStringList lw = Lw();
+    if (nieuw) {
+      Nieuw();
+      KiesTab(Tab::Ventilator);
+      Zoek<QRadioButton>("optPrognose")->click();
+    } else {
+      OpenPrognose("plafond.mrv");
+    }
+    EXPECT_EQ(Zoek<QListWidget>("lstFan")->currentRow(), -1);
+    Zoek<QRadioButton>("optInvoer")->click();
+    EXPECT_EQ(Zoek<QListWidget>("lstFan")->currentRow(), 2);
+    EXPECT_EQ(Veld("txtSpectrum")->text(), naam);
+    EXPECT_EQ(Lw(), lw);
+  }
+}
+
+TEST_F(Fantab, TheLastFanOfALongerListIsNotTaken) {
+  Nieuw();
+  KiesFan(catalogi.CatFans.Aantal - 1);
+  Nieuw();
+  --catalogi.CatFans.Aantal;
+  venster->VulFans();
+  KiesTab(Tab::Ventilator);
+  Zoek<QRadioButton>("optPrognose")->click();
+  Zoek<QRadioButton>("optInvoer")->click();
+  EXPECT_EQ(Zoek<QListWidget>("lstFan")->currentRow(), -1);
+  EXPECT_EQ(Veld("txtSpectrum")->text(), "");
+  EXPECT_EQ(Lw(), nullen);
+}
+
+TEST_F(Fantab, AClickThatARedFieldHoldsLeavesTheListAsThisProjectHasIt) {
+  Nieuw();
+  KiesFan(2);
+  Nieuw();
+  KiesTab(Tab::Ventilator);
+  NaarVeld("txtLw_0");
+  Typ("1,2,3");
+  auto* const lijst = Zoek<QListWidget>("lstFan");
+  const auto klik = [lijst](int rij) {
+    QTest::mouseClick(lijst->viewport(), Qt::LeftButton, {},
+                      lijst->visualItemRect(lijst->item(rij)).center());
+    QCoreApplication::processEvents();
+  };
+  klik(1);
+  EXPECT_EQ(lijst->currentRow(), -1);
+  Druk(Qt::Key_Escape);
+  klik(1);
+  ASSERT_EQ(lijst->currentRow(), 1);
+  NaarVeld("txtLw_0");
+  Typ("1,2,3");
+  klik(0);
+  EXPECT_EQ(lijst->currentRow(), 1);
+}
+
+TEST_F(Fantab, AnotherSourceAfterARunIsAChange) {
+  OpenVoorbeeld("kantoor.mrv");
+  KiesTab(Tab::Ventilator);
+  const auto klik = [this](const char* naam) {
+    MaakBerekend();
+    Klik(naam);
+    return venster->DeSessie().Toestand;
+  };
+  EXPECT_EQ(klik("optInvoer"), Toestand::Berekend) << "it was the source already";
+  EXPECT_EQ(klik("optPrognose"), Toestand::Open);
+  EXPECT_EQ(klik("optPrognose"), Toestand::Berekend);
+  Klik("optAxiaal");  // nothing is left on screen that the list could clear
+  EXPECT_EQ(klik("optInvoer"), Toestand::Open);
+  Klik("optPrognose");
+  EXPECT_EQ(klik("cmdFanCancel"), Toestand::Open);
+}
+
+TEST_F(Fantab, AnotherSourceLeavesNoRedField) {
+  OpenPrognose("plafond.mrv");
+  Veld("txtfan_0")->setText("0");
+  Veld("txtfan_4")->setText("1,2,3");
+  script.Box(Waarschuwing("Geen geldende waarde ingevuld"));
+  Klik("cmdFanOK");
+  ASSERT_TRUE(IsRood("txtfan_4"));
+  Klik("optInvoer");
+  EXPECT_EQ(project.FanPrognose, fanbron::Lijst);
+  EXPECT_FALSE(IsRood("txtfan_4"));
+  EXPECT_EQ(Veld("txtfan_4")->toolTip(), "");
+  EXPECT_EQ(Veld("txtfan_4")->text(), "2000");
+}
+
 TEST_F(Fantab, AFlowOrPressureOfZeroGetsTheFocus) {
   for (const char* naam : {"txtfan_0", "txtfan_1"}) {
     OpenPrognose("plafond.mrv");

@@ -18,6 +18,7 @@
 #include <QTabWidget>
 #include <QTest>
 #include <QToolButton>
+#include <QToolTip>
 #include <QWheelEvent>
 
 #include "basis/tekst.h"
@@ -418,11 +419,97 @@ TEST_F(ProjectVenster, TakesOverTheFieldThatHasTheFocus) {
   EXPECT_EQ(Focus(), "txtRNagalm");
 }
 
-TEST_F(ProjectVenster, StopsAtABandThatIsNoNumber) {
+/// Whether the tip of a field shows, once the menu that started the run has gone.
+bool ToontTip(const QString& tip) {
+  return QTest::qWaitFor([&tip] { return QToolTip::isVisible() && QToolTip::text() == tip; });
+}
+
+TEST_F(ProjectVenster, ARunStopsAtANumberThatIsInvalidWithItsTipInView) {
+  struct Rij {
+    Tab OpTab;
+    const char* Veld;
+    const char* Tekst;
+    const char* Tip;
+  };
+  for (const Rij& rij :
+       {Rij{Tab::Ruimtegegevens, "txtRNR", "1,2,3", "Voer geldig getal in"},
+        Rij{Tab::Kanaalelementen, "txtdemp_3", ",", "Voer geldig getal in"},
+        Rij{Tab::Projectgegevens, "txtMyDate", "31-02-2026", "Voer geldige datum in (dd-mm-yyyy)"}}) {
+    SCOPED_TRACE(rij.Veld);
+    OpenVoorbeeld("kantoor.mrv");
+    if (rij.OpTab == Tab::Kanaalelementen) KiesElement(1);
+    KiesTab(rij.OpTab);
+    NaarVeld(rij.Veld);
+    Typ(rij.Tekst);
+    QToolTip::hideText();
+    EXPECT_FALSE(venster->NeemOverEnBeoordeel());
+    EXPECT_TRUE(ToontTip(rij.Tip));
+    EXPECT_EQ(Zoek<QTabWidget>("SSTab1")->currentIndex(), static_cast<int>(rij.OpTab));
+    EXPECT_EQ(Focus(), rij.Veld);
+    EXPECT_TRUE(IsRood(rij.Veld));
+    EXPECT_EQ(Veld(rij.Veld)->text(), rij.Tekst);
+    EXPECT_FALSE(venster->NeemOverEnBeoordeel()) << "as long as it stands there";
+    Druk(Qt::Key_Escape);
+    EXPECT_TRUE(venster->NeemOverEnBeoordeel());
+  }
+  EXPECT_EQ(project.Kop.MyDate.Heel(), "02-03-2026") << "a date that is none is not taken over";
+}
+
+TEST_F(ProjectVenster, ANumberThatIsInvalidCountsAsZeroForTheRules) {
+  struct Rij {
+    Tab OpTab;
+    const char* Veld;
+    const char* Melding;
+  };
+  for (const Rij& rij :
+       {Rij{Tab::Ruimtegegevens, "txtRLengte", "Vertreklengte niet ingevuld"},
+        Rij{Tab::Ruimtegegevens, "txtRDI", "Richtingsfactor niet ingevuld"},
+        Rij{Tab::Kanaalelementen, "txtLengte", "Kanaalelement 1 niet correct gedimensioneerd"}}) {
+    SCOPED_TRACE(rij.Veld);
+    OpenVoorbeeld("kantoor.mrv");
+    if (rij.OpTab == Tab::Kanaalelementen) KiesElement(1);
+    KiesTab(rij.OpTab);
+    NaarVeld(rij.Veld);
+    Typ("1,2,3");
+    script.Box(Waarschuwing(rij.Melding), Antwoord::OK, [&] { EXPECT_TRUE(IsRood(rij.Veld)); });
+    EXPECT_FALSE(venster->NeemOverEnBeoordeel());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Zoek<QTabWidget>("SSTab1")->currentIndex(), static_cast<int>(rij.OpTab));
+    EXPECT_EQ(Focus(), rij.Veld);
+  }
+  EXPECT_EQ(project.Elementen[1].Lengte, 0);
+}
+
+TEST_F(ProjectVenster, AFieldThatWasRefusedWaitsBehindTheMessageAboutAnother) {
   OpenVoorbeeld("kantoor.mrv");
-  Veld("txtLw_3")->setText("1,2,3");
+  project.Elementen[1].Lengte = 0;
+  KiesTab(Tab::Ruimtegegevens);
+  NaarVeld("txtRNR");
+  Typ("1,2,3");
+  script.Box(Waarschuwing("Kanaalelement 1 niet correct gedimensioneerd"));
   EXPECT_FALSE(venster->NeemOverEnBeoordeel());
   QCoreApplication::processEvents();
+  EXPECT_EQ(Focus(), "txtLengte");
+  EXPECT_TRUE(IsRood("txtRNR"));
+  EXPECT_EQ(project.Ruimte.RNR, 0);
+  Typ("5");
+  EXPECT_FALSE(venster->BewaarVeld()) << "saving waits for it";
+  EXPECT_EQ(project.Elementen[1].Lengte, 5);
+  EXPECT_EQ(Focus(), "txtRNR");
+  Typ("35");
+  EXPECT_TRUE(venster->NeemOverEnBeoordeel());
+  EXPECT_EQ(project.Ruimte.RNR, 35);
+}
+
+TEST_F(ProjectVenster, StopsAtABandThatIsNoNumber) {
+  OpenVoorbeeld("kantoor.mrv");
+  KiesTab(Tab::Ventilator);
+  NaarVeld("txtLw_3");
+  Typ("1,2,3");
+  script.Box(Waarschuwing("Geluidsspectrum ventilator niet (volledig) ingevuld"));
+  EXPECT_FALSE(venster->NeemOverEnBeoordeel());
+  QCoreApplication::processEvents();
+  EXPECT_EQ(Zoek<QTabWidget>("SSTab1")->currentIndex(), 0);
   EXPECT_EQ(Focus(), "txtLw_3");
   EXPECT_TRUE(IsRood("txtLw_3"));
 }

@@ -6,6 +6,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <functional>
 
 #include "editor/vensters_veld.h"
 #include "tests/vensters/opstelling.h"
@@ -180,6 +181,62 @@ TEST_F(Ruimtetab, AChoiceThatIsLeftBlankIsCleared) {
     EXPECT_EQ(project.Ruimte.*geval.Naam, NaarCp(geval.Geen));
     EXPECT_EQ(project.Ruimte.*geval.Waarden, (Spectrum{0, 0, 0, 0, 0, 0, 0, 8}));
     EXPECT_EQ(Banden7(geval.Banden), QStringList(Banden, "0,0"));
+  }
+}
+
+TEST_F(Ruimtetab, ATypedNameThatIsNotTakenOverGoesBackOnLeaving) {
+  const std::vector<std::pair<const char*, std::function<void()>>> wegen = {
+      {"Tab", [&] { Druk(Qt::Key_Tab); }},
+      {"the mouse", [&] { QTest::mouseClick(Veld("txtRDI"), Qt::LeftButton, {}, QPoint(5, 5)); }},
+      {"another tab",
+       [&] { QTest::keyClick(QApplication::focusWidget(), Qt::Key_PageDown, Qt::ControlModifier); }},
+      {"a run", [&] { EXPECT_TRUE(venster->NeemOverEnBeoordeel()); }},
+      {"a save", [&] { EXPECT_TRUE(venster->BewaarVeld()); }},
+  };
+  for (const KeuzeGeval& geval : Keuzes) {
+    for (const auto& [naam, verlaat] : wegen) {
+      SCOPED_TRACE(std::string(geval.Vak) + ", " + naam);
+      OpenVoorbeeld("plafond.mrv");
+      KiesTab(Tab::Ruimtegegevens);
+      const RuimteRec was = project.Ruimte;
+      Keuze(geval.Vak)->setFocus(Qt::TabFocusReason);
+      Keuze(geval.Vak)->lineEdit()->selectAll();
+      Typ("zelf bedacht");
+      ASSERT_EQ(Keuze(geval.Vak)->currentText(), "zelf bedacht");
+      verlaat();
+      EXPECT_EQ(NaarCp(Keuze(geval.Vak)->currentText()), was.*geval.Naam);
+      EXPECT_EQ(project.Ruimte.*geval.Naam, was.*geval.Naam);
+      EXPECT_EQ(project.Ruimte.*geval.Waarden, was.*geval.Waarden);
+    }
+  }
+}
+
+TEST_F(Ruimtetab, ATypedNameGivesThePlaceholderBackWhereNothingWasChosen) {
+  for (const KeuzeGeval& geval : Keuzes) {
+    Nieuw();
+    venster->KiesType(rekentype::Geluidsuitstraling);
+    KiesTab(Tab::Ruimtegegevens);
+    Keuze(geval.Vak)->setFocus(Qt::TabFocusReason);
+    Keuze(geval.Vak)->lineEdit()->selectAll();
+    Typ("zelf bedacht");
+    Druk(Qt::Key_Tab);
+    EXPECT_EQ(Keuze(geval.Vak)->currentText(), geval.Geen);
+    EXPECT_EQ(project.Ruimte.*geval.Naam, "");
+  }
+}
+
+TEST_F(Ruimtetab, ATypedNameOfTheListIsAChoice) {
+  for (const KeuzeGeval& geval : Keuzes) {
+    OpenVoorbeeld("plafond.mrv");
+    KiesTab(Tab::Ruimtegegevens);
+    const SpectrumRec& record = (catalogi.*geval.Catalogus).Records[2];
+    Keuze(geval.Vak)->setFocus(Qt::TabFocusReason);
+    Keuze(geval.Vak)->lineEdit()->selectAll();
+    Typ(VanCp(record.SpecNaam.Getrimd()));
+    Druk(Qt::Key_Tab);
+    EXPECT_EQ(Keuze(geval.Vak)->currentText(), VanCp(record.SpecNaam.Getrimd()));
+    EXPECT_EQ(project.Ruimte.*geval.Naam, record.SpecNaam.Heel());
+    EXPECT_EQ((project.Ruimte.*geval.Waarden)[3], record.SpecWaarde[3]);
   }
 }
 
