@@ -56,8 +56,8 @@ class frmMurvane : public QWidget {
   /// Shows the records; of a project just made or opened on its start page.
   void ToonProject(bool isNieuwOfGeopend);
   void ToonGeenProject();
-  /// Stores the field that has the focus, as leaving it does. False when its text is invalid: the field is
-  /// red and keeps the focus, and a command that needs its value waits until it is right.
+  /// Stores the field that has the focus, as leaving it does. False when its text is invalid, or that of a
+  /// red field elsewhere: it has the focus then, and a command that needs its value waits until it is right.
   [[nodiscard]] bool BewaarVeld();
   /// Takes the fields over and judges the project; when it may not be calculated, tells why and goes to where
   /// the user has to look.

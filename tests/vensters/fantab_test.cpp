@@ -228,6 +228,8 @@ TEST_F(Fantab, AClickThatARedFieldHoldsLeavesTheListAsThisProjectHasIt) {
 
 TEST_F(Fantab, AnotherSourceAfterARunIsAChange) {
   OpenVoorbeeld("kantoor.mrv");
+  project.FanPrognose = fanbron::Lijst;
+  venster->ToonProject(true);
   KiesTab(Tab::Ventilator);
   const auto klik = [this](const char* naam) {
     MaakBerekend();

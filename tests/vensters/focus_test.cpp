@@ -10,6 +10,7 @@
 #include <QListWidget>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QToolTip>
 #include <functional>
 #include <map>
 
@@ -162,13 +163,14 @@ class Focus : public Gestart {
 
 TEST_F(Focus, AFieldOfAClosedPrognosisGetsNoKeyOfTheNextProject) {
   const fs::path prognose = Voorbeeld("kantoor.mrv", fanbron::Prognose);
+  const fs::path lijst = Voorbeeld("kantoor.mrv", fanbron::Lijst);
   Start();
   Open(prognose);
   KlikTab(Tab::Ventilator);
   KlikVeld("txtfan_0");
   ASSERT_EQ(Bediening::Focus(), "txtfan_0");
   Sluit();
-  Open(BronData / "kantoor.mrv");
+  Open(lijst);
   Kies("mnuReken");
   ASSERT_TRUE(IsBerekendBeeld());
   toetsen->Druk(Qt::Key_Tab, Qt::ControlModifier);  // back to the project
@@ -274,6 +276,23 @@ TEST_F(Focus, AFieldThatIsShownAgainDoesNotTakeTheKeyboard) {
   EXPECT_EQ(Bediening::Focus(), "txtRDI");
 }
 
+// The menu that goes away would take a tip along that showed at once.
+TEST_F(Focus, ARunFromTheMenuThatStopsAtARedFieldShowsItsTip) {
+  Start();
+  Open(BronData / "kantoor.mrv");
+  KlikTab(Tab::Ruimtegegevens);
+  KlikVeld("txtRNR");
+  toetsen->Typ("1,2,3");
+  toetsen->Menu({"mnuBestand", "mnuReken"});
+  EXPECT_TRUE(
+      QTest::qWaitFor([] { return QToolTip::isVisible() && QToolTip::text() == "Voer geldig getal in"; }));
+  EXPECT_EQ(Bediening::Focus(), "txtRNR");
+  EXPECT_FALSE(IsErEen("frmResultaat"));
+  toetsen->Typ("35");
+  toetsen->Menu({"mnuBestand", "mnuReken"});
+  EXPECT_TRUE(IsBerekendBeeld());
+}
+
 // ---- Every state, every tab, every type and source, every page ----
 
 TEST_F(Focus, NoStateTabTypeSourceOrPageHasItOutOfSight) {
@@ -328,6 +347,7 @@ TEST_F(Focus, NoStateTabTypeSourceOrPageHasItOutOfSight) {
 /// Every control of every tab has had the keyboard when something hides or disables it, from another tab.
 TEST_F(Focus, NoControlThatHadItGetsItBackOutOfSight) {
   const fs::path prognose = Voorbeeld("plafond.mrv", fanbron::Prognose);
+  const fs::path lijst = Voorbeeld("kantoor.mrv", fanbron::Lijst);
   Start();
   struct Wissel {
     QString Naam;
@@ -352,7 +372,7 @@ TEST_F(Focus, NoControlThatHadItGetsItBackOutOfSight) {
       {"closed and open",
        [&] {
          Sluit();
-         Open(BronData / "kantoor.mrv");
+         Open(lijst);
        }},
       {"saved and open",
        [&] {
@@ -364,9 +384,8 @@ TEST_F(Focus, NoControlThatHadItGetsItBackOutOfSight) {
   std::size_t geprobeerd = 0;
   for (const auto& [bestand, tab] :
        {std::pair{BronData / "plafond.mrv", Tab::Ruimtegegevens}, std::pair{prognose, Tab::Ventilator},
-        std::pair{BronData / "kantoor.mrv", Tab::Ventilator},
-        std::pair{BronData / "kantoor.mrv", Tab::Ruimtegegevens},
-        std::pair{BronData / "kantoor.mrv", Tab::Kanaalelementen},
+        std::pair{lijst, Tab::Ventilator}, std::pair{lijst, Tab::Ruimtegegevens},
+        std::pair{lijst, Tab::Kanaalelementen},
         std::pair{BronData / "overspraak.mrv", Tab::Kanaalelementen}}) {
     const auto begin = [&, van = bestand, op = tab](std::size_t rij) {
       if (ProjectOpen(Venster()->DeSessie())) Sluit();
