@@ -78,7 +78,7 @@ class EchteStart : public testing::Test {
   TijdelijkeMap map;
   fs::path data;
   SchermDialogen dialogen;
-  Programma programma;
+  murvane::Programma programma;
   std::unique_ptr<MDIMurvane> venster;
   Robot robot;
 };

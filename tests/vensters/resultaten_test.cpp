@@ -95,7 +95,7 @@ class Resultaatvensters : public testing::Test {
 
   TijdelijkeMap map;
   Script script{[](const std::string& fout) { ADD_FAILURE() << fout; }};
-  Programma programma;
+  murvane::Programma programma;  // proef::Programma is where a program stands
   std::unique_ptr<MDIMurvane> venster;
   Robot robot;
 };
