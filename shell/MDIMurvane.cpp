@@ -43,6 +43,7 @@ namespace murvane {
 namespace {
 
 constexpr int StatusMarge = 4;
+constexpr int KortMs = 6000;  ///< how long a remark stands where the panels are
 
 /// Whether the desktop shows compiled help files. Opening one without asking would seem to succeed.
 bool HeeftHelpProgramma() {
@@ -191,6 +192,7 @@ void MDIMurvane::Verbind(std::string_view naam, void (MDIMurvane::*opdracht)()) 
 
 /// Whatever a command raises is told, and the program runs on with the project open.
 void MDIMurvane::Voer(const std::string& naam, void (MDIMurvane::*opdracht)()) {
+  statusBar()->clearMessage();
   try {
     (this->*opdracht)();
   } catch (...) {
@@ -221,13 +223,22 @@ void MDIMurvane::NoemVenster() {
   voor->widget()->setWindowTitle(naam);
 }
 
-/// Starts the desktop's own calculator: the first one there is. That there is none is no matter.
+/// A remark that needs no answer. The panels come back by themselves, and at once with the next command.
+void MDIMurvane::MeldKort(const QString& tekst) {
+  statusBar()->showMessage(tekst, KortMs);
+}
+
+/// Starts the desktop's own calculator: the first one that starts.
 void MDIMurvane::mnuCalc() {
+  bool gevonden = false;
   for (const char* const naam : {"calc.exe", "gnome-calculator", "kcalc", "mate-calc", "xfce4-calculator",
                                  "lxqt-calculator", "galculator", "qalculate-gtk", "qalculate-qt", "xcalc"}) {
-    if (const QString pad = QStandardPaths::findExecutable(naam); !pad.isEmpty())
-      return static_cast<void>(QProcess::startDetached(pad, {}));
+    const QString pad = QStandardPaths::findExecutable(naam);
+    if (pad.isEmpty()) continue;
+    if (QProcess::startDetached(pad, {})) return;
+    gevonden = true;
   }
+  MeldKort(gevonden ? "De rekenmachine kan niet worden gestart." : "De rekenmachine is niet gevonden.");
 }
 
 void MDIMurvane::MaakStatusbalk() {
@@ -250,6 +261,7 @@ void MDIMurvane::MaakStatusbalk() {
   statusBar()->addWidget(paneel1_, 2);
   statusBar()->addWidget(paneel2_, 1);
   statusBar()->addWidget(paneel3_, 1);
+  connect(statusBar(), &QStatusBar::messageChanged, this, &MDIMurvane::ToonToestand);
 }
 
 void MDIMurvane::ToonToestand() {
@@ -264,7 +276,7 @@ void MDIMurvane::ToonToestand() {
   for (const TypeRegel& regel : TypeRegels)
     acties_.at(regel.Menu)->setChecked(regel.RekenType == programma_.Project.Kop.RekenType);
   const StatusBalk balk = StatusVan(sessie, programma_.Project);
-  const bool isBerekend = balk.Paneel1Beeld != 0;
+  const bool isBerekend = balk.Paneel1Beeld != 0 && statusBar()->currentMessage().isEmpty();
   if (isBerekend && beeld_->isHidden()) ZetStatusBeeld();
   beeld_->setVisible(isBerekend);
   paneel1_->setText(VanCp(balk.Paneel1));
@@ -499,10 +511,12 @@ void MDIMurvane::mnuOverspraak() {
   project_->KiesType(rekentype::Overspraak);
 }
 
-/// The manual, in the desktop's own viewer; that it does not open is not told.
+/// The manual, in the desktop's own viewer.
 void MDIMurvane::mnuHelpFile() {
   const std::filesystem::path pad = HandleidingIn(programma_.ProgrammaBestanden, HeeftHelpProgramma);
-  if (!pad.empty()) QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(PadTekst(pad))));
+  if (pad.empty()) return MeldKort("De handleiding is niet gevonden.");
+  if (!QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(PadTekst(pad)))))
+    MeldKort("De handleiding kan niet worden geopend.");
 }
 
 /// While the window is open it cannot be opened again from the icon.

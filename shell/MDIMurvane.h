@@ -51,6 +51,7 @@ class MDIMurvane : public QMainWindow {
   void Voer(const std::string& naam, void (MDIMurvane::*opdracht)());
   void VulVensterMenu(QMenu& menu);
   void NoemVenster();
+  void MeldKort(const QString& tekst);
 
   void mnuNieuw();
   void mnuOpen();

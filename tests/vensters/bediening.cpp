@@ -117,7 +117,7 @@ Gestart::Gestart()
 void Gestart::Start(std::string_view opdrachtregel) {
   ASSERT_EQ(MDIForm_Load(programma, script, {data, DatumVeld("20-11-2026"), opdrachtregel, ','}),
             Vervolg::GaatDoor);
-  venster = std::make_unique<MDIMurvane>(programma, script);
+  venster = std::make_unique<MDIMurvane>(programma, *dialogen);
   venster->resize(1024, 740);
   venster->show();
   venster->activateWindow();

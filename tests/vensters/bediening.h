@@ -86,6 +86,7 @@ class Gestart : public testing::Test {
   murvane::Programma programma;  // proef::Programma is where a program stands
   std::unique_ptr<MDIMurvane> venster;
   std::unique_ptr<Bediening> toetsen;
+  Dialogen* dialogen = &script;  ///< of the main window; not of the start
 };
 
 /// The commands that are enabled in each state.

@@ -5,11 +5,14 @@
 #include <QDesktopServices>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QStatusBar>
 #include <QTextBrowser>
+#include <QTimer>
 #include <QUrl>
 
 #include "basis/bestand.h"
 #include "shell/frmAbout.h"
+#include "tests/vensters/bediening.h"
 #include "tests/vensters/opstelling.h"
 
 namespace murvane {
@@ -99,6 +102,18 @@ class Bureaublad : public Hoofdvenster {
     Kies("mnuHelpFile");
     return bestanden.Neem();
   }
+  QString Gemeld() { return venster->statusBar()->currentMessage(); }
+  bool Zichtbaar(const char* naam) { return venster->findChild<QLabel*>(naam)->isVisible(); }
+  /// Lets the remark's time run out, after some seconds have been asked for.
+  void WachtAf() {
+    auto* const klok = venster->statusBar()->findChild<QTimer*>();
+    ASSERT_NE(klok, nullptr);
+    EXPECT_TRUE(klok->isActive());
+    EXPECT_GE(klok->interval(), 3000);
+    EXPECT_LE(klok->interval(), 10000);
+    klok->start(0);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return Gemeld().isEmpty(); }));
+  }
 
   Programmas programmas;
   Ontvanger bestanden{"file"};
@@ -146,16 +161,22 @@ TEST_F(Bureaublad, WithoutAHelpFileThePagesAreOpened) {
   EXPECT_EQ(VraagHulp(), QStringList{Adres("help/index.html")});
 }
 
-TEST_F(Bureaublad, WithoutAnyManualNothingIsOpened) {
+TEST_F(Bureaublad, WithoutAnyManualTheStatusBarSaysSo) {
   EXPECT_EQ(VraagHulp(), QStringList{});
+  EXPECT_EQ(Gemeld(), "De handleiding is niet gevonden.");
   MaakHulp();  // and nothing that shows it
   EXPECT_EQ(VraagHulp(), QStringList{});
+  EXPECT_EQ(Gemeld(), "De handleiding is niet gevonden.");
+  MaakBladen();
+  EXPECT_EQ(VraagHulp(), QStringList{Adres("help/index.html")});
+  EXPECT_EQ(Gemeld(), "");
 }
 
-TEST_F(Bureaublad, AManualThatDoesNotOpenIsNotTold) {
+TEST_F(Bureaublad, AManualThatDoesNotOpenIsToldInTheStatusBarWithoutABox) {
   MaakBladen();
   QDesktopServices::unsetUrlHandler("file");
-  Kies("mnuHelpFile");  // no box
+  Kies("mnuHelpFile");
+  EXPECT_EQ(Gemeld(), "De handleiding kan niet worden geopend.");
   EXPECT_EQ(Aan(), GeenProject);
 }
 
@@ -170,11 +191,52 @@ TEST_F(Bureaublad, StartsTheFirstCalculatorThereIs) {
   }
 }
 
-TEST_F(Bureaublad, ACalculatorThatDoesNotStartIsNotTold) {
-  Kies("mnuCalc");  // there is none: no box
+TEST_F(Bureaublad, ACalculatorThatIsNotThereIsToldInTheStatusBarWithoutABox) {
+  Kies("mnuCalc");
+  EXPECT_EQ(Gemeld(), "De rekenmachine is niet gevonden.");
+  EXPECT_EQ(Aan(), GeenProject);
+}
+
+TEST_F(Bureaublad, ACalculatorThatDoesNotStartIsPassedOverOrTold) {
   programmas.MaakKapot("kcalc");
   Kies("mnuCalc");
-  EXPECT_EQ(Aan(), GeenProject);
+  EXPECT_EQ(Gemeld(), "De rekenmachine kan niet worden gestart.");
+  programmas.MaakSpoor("xcalc");
+  Kies("mnuCalc");
+  EXPECT_EQ(programmas.Gestart(), "xcalc\n");
+  EXPECT_EQ(Gemeld(), "");
+}
+
+// Walking through a menu clears what the status bar tells; the remark has to come behind that.
+TEST_F(Bureaublad, TheRemarkStandsThereToWhoTakesTheCommandFromTheMenu) {
+  venster->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(venster.get()));
+  proef::Bediening(*venster).Menu({"mnuHelp", "mnuCalc"});
+  EXPECT_EQ(Gemeld(), "De rekenmachine is niet gevonden.");
+}
+
+TEST_F(Bureaublad, ThePanelsComeBackAfterSomeSecondsAsTheyWere) {
+  Open("kantoor.mrv");
+  Kies("mnuReken");
+  for (const bool berekend : {true, false}) {
+    Kies("mnuCalc");
+    for (const char* const naam : {"StatusBar1_1_beeld", "StatusBar1_1", "StatusBar1_2", "StatusBar1_3"})
+      EXPECT_FALSE(Zichtbaar(naam)) << naam << " would stand on the remark";
+    WachtAf();
+    EXPECT_EQ(Zichtbaar("StatusBar1_1_beeld"), berekend);
+    for (const char* const naam : {"StatusBar1_1", "StatusBar1_2", "StatusBar1_3"})
+      EXPECT_TRUE(Zichtbaar(naam)) << naam;
+    EXPECT_EQ(Paneel(1), "kantoor.mrv");
+    ProjectVenster()->findChild<QLineEdit*>("txtProNaam")->setText("Anders");
+  }
+}
+
+TEST_F(Bureaublad, TheNextCommandTakesTheRemarkAway) {
+  Kies("mnuCalc");
+  Kies("mnuNieuw");
+  EXPECT_EQ(Gemeld(), "");
+  EXPECT_TRUE(Zichtbaar("StatusBar1_1"));
+  EXPECT_EQ(Paneel(1), "Naamloos");
 }
 
 }  // namespace
