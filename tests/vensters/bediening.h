@@ -83,7 +83,7 @@ class Gestart : public testing::Test {
   TijdelijkeMap map;
   std::filesystem::path data;
   Script script;
-  Programma programma;
+  murvane::Programma programma;  // proef::Programma is where a program stands
   std::unique_ptr<MDIMurvane> venster;
   std::unique_ptr<Bediening> toetsen;
 };
