@@ -13,11 +13,17 @@ if [ "${1:-}" = --dekking ]; then exec scripts/dekking.sh; fi
 stap "Indeling van de mappen"
 scripts/controleer-lagen.sh
 
+stap "Opmaak van de bronnen"
+scripts/controleer-opmaak.sh
+
 for preset in debug release fuzz; do
   stap "Bouwen: $preset"
   cmake --preset "$preset" >/dev/null
   cmake --build --preset "$preset" -j "$taken"
 done
+
+stap "Regels van clang-tidy"
+scripts/controleer-tidy.sh
 
 proef() {  # preset, locale
   stap "Proeven: $1, $2"

@@ -102,8 +102,8 @@ constexpr Vormen GroteVorm = [] {
   Vormen uit{};
   for (int c = 0; c < 256; ++c) uit[static_cast<std::size_t>(c)] = static_cast<char>(c);
   for (int c = 0; c < 256; ++c) {
-    const int afstand = AfstandTotKlein(c);
-    if (afstand > 0) uit[static_cast<std::size_t>(c + afstand)] = static_cast<char>(c);
+    const int klein = c + AfstandTotKlein(c);
+    if (klein > c) uit[static_cast<std::size_t>(klein)] = static_cast<char>(c);
   }
   return uit;
 }();

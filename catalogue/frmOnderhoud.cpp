@@ -104,7 +104,7 @@ QMenuBar* frmOnderhoud::BouwMenu() {
       menus[item.Naam] = menu;
       actie = menu->menuAction();
     } else {
-      actie = in->addAction(opschrift);
+      actie = menus.at(item.In)->addAction(opschrift);
       connect(actie, &QAction::triggered, this, [this, item] {
         Doe(std::string(item.Naam) + "_Click",
             [this, &item] { return item.Schatter.empty() ? Menu(item.Naam) : Schat(item); });

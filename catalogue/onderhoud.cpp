@@ -228,10 +228,10 @@ OnderhoudUitkomst NaarInvoer(Onderhoud& venster, Modus modus) {
   return uit;
 }
 
-/// Selects the row of `Rij`, if the list has it.
+/// Selects the row of `Rij`, if the list has it; the record in front of the first row stands for none.
 void KiesRij(Onderhoud& venster, const Catalogi& catalogi) {
   const int rij = venster.Rij - EersteRecord(venster.Soort);
-  venster.Gekozen = rij < InLijst(catalogi, venster.Soort) ? std::max(rij, -1) : -1;
+  venster.Gekozen = rij < InLijst(catalogi, venster.Soort) ? rij : -1;
 }
 
 OnderhoudUitkomst MetFocusOpLijst(OnderhoudUitkomst uitkomst) {

@@ -17,6 +17,13 @@ else()
     target_compile_options(murvane-opties INTERFACE -Wno-restrict)
   endif()
 endif()
+# A project file may come from a stranger: what a mistake in a reader could be used for is made hard. The sanitizers
+# watch more than this does, and the checked calls would stand between them and what they watch.
+if(CMAKE_SYSTEM_NAME STREQUAL "Linux" AND NOT MURVANE_SANITIZERS AND NOT MURVANE_FUZZ)
+  target_compile_options(murvane-opties INTERFACE -fstack-protector-strong -fstack-clash-protection
+    $<$<CONFIG:Release,RelWithDebInfo,MinSizeRel>:-U_FORTIFY_SOURCE$<SEMICOLON>-D_FORTIFY_SOURCE=2>)
+  target_link_options(murvane-opties INTERFACE LINKER:-z,relro LINKER:-z,now)
+endif()
 if(WIN32)  # windows.h without its macros min and max, and without what is rarely used
   target_compile_definitions(murvane-opties INTERFACE NOMINMAX=1 WIN32_LEAN_AND_MEAN)
 endif()

@@ -97,7 +97,7 @@ std::filesystem::path VanQt(const QString& pad) {
 
 /// "description|pattern" as the toolkit writes it; the pattern's last part is shown by the description.
 QString FilterVan(const std::string& filter) {
-  const QString tekst = VanCp(filter);
+  QString tekst = VanCp(filter);
   const qsizetype streep = tekst.indexOf('|');
   if (streep < 0) return tekst;
   return tekst.left(tekst.indexOf(" (")) + " (" + tekst.mid(streep + 1) + ")";

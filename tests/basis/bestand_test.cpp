@@ -745,6 +745,20 @@ TEST(VervangBestand, ShowsReadersAWholeFileWhileSeveralSave) {
   EXPECT_THAT(map.Namen(), ElementsAre(Naam));
 }
 
+// A number that is closed twice may by then be the file of another thread.
+TEST(VervangBestand, ClosesEveryHandleOnce) {
+  const TijdelijkeMap map;
+  const std::string lang(150000, 'x');
+  for (const bool sluitenFaalt : {false, true}) {
+    Ingreep ingreep([&](Aanroep wat) { return sluitenFaalt && wat == Aanroep::Sluit ? EIO : 0; });
+    Bewaar(map / Naam, lang);
+    Bewaar(map / Naam, "kort", Staart::Blijft);
+    Bewaar("/dev/null", "weg");
+    LeesNummer(map / Naam);
+    EXPECT_EQ(ingreep.DubbelGesloten, 0) << sluitenFaalt;
+  }
+}
+
 // Paths.
 
 TEST(Pad, TravelsThroughUtf8) {

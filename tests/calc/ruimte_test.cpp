@@ -50,6 +50,18 @@ TEST(EindResult, SumsTheAttenuationOfTheChain) {
   }
 }
 
+TEST(EindResult, WithoutElementsNothingIsTakenOff) {
+  for (const int lengte : {0, -1}) {  // a count below 0 can only come from a file
+    Project p = Kamer(1);
+    p.ElementCount = static_cast<std::int16_t>(lengte);
+    Resultaten r = Oud();
+    r.LwEind = p.Fan.Lw;
+    EindResult(p, r);
+    VerwachtBanden(r.SysteemDemping, {0, 0, 0, 0, 0, 0, 0}, std::to_string(lengte));
+    VerwachtBanden(r.FanNaDemping, {90, 88, 86, 84, 82, 80, 78}, std::to_string(lengte));
+  }
+}
+
 TEST(EindResult, WithoutFanOnlyTheAttenuationIsWorkedOut) {
   for (const int type : {3, 0, 4, -2}) {
     Resultaten r = Oud();
@@ -166,6 +178,23 @@ TEST(RuimteDemping, AFreeFieldHasNoReverberationAndOneOutlet) {
   RuimteDemping(p, r);
   EXPECT_NEAR(r.LpGalmveld[0], 60 - 193.979400086720, Marge);  // 10 lg 4E-20
   EXPECT_NEAR(r.LpEenMeter[0], 60 - 7.981798683581, Marge);    // 10 lg (2 / (4 pi))
+}
+
+TEST(RuimteDemping, WithoutElementsTheUnusedSlotsStandForFirstAndLast) {
+  Project p = Kamer(1);
+  p.ElementCount = 0;
+  p.Elementen[0].Lengte = 8;  // the last of no elements
+  Resultaten r = Oud();
+  r.LwEind = r.LwKanaalwand = Gevuld(60);
+  r.SysteemDemping.fill(0);
+  RuimteDemping(p, r);
+  EXPECT_NEAR(r.LpGalmveld[0], 60 + Galm + 3.010299956640, Marge);
+  p.Kop.RekenType = 2;
+  RuimteDemping(p, r);
+  EXPECT_NEAR(r.LpEenMeter[0], 60 + 10 * std::log10(2 / (16 * Pi) + 0.2), Marge);
+  p.Kop.RekenType = 3;  // its section is that of element 1, which is there though it is not in use
+  RuimteDemping(p, r);
+  EXPECT_NEAR(r.OverspraakDemping[0], 20.0, Marge);
 }
 
 TEST(RuimteDemping, OnlyAFlagOfExactlyOneIsAFreeField) {

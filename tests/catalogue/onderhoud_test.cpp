@@ -249,9 +249,14 @@ TEST(OnderhoudVeld, EnterStaysInTheRowAndTheNameGoesToTheFirstBand) {
   for (const char* rij : {"txtdemp", "txtruis"}) {
     for (int b = 0; b < 6; ++b) EXPECT_EQ(OnderhoudVolgend({rij, b}), (VeldId{rij, b + 1}));
     EXPECT_EQ(OnderhoudVolgend({rij, 6}), (VeldId{rij, 0}));
-    EXPECT_EQ(OnderhoudEscape({rij, 3}), "0");
   }
   EXPECT_EQ(OnderhoudVolgend({"txtSpectrum"}), (VeldId{"txtdemp", 0}));
+}
+
+TEST(OnderhoudVeld, EscapeGivesZeroInEveryBandAndNoName) {
+  for (const char* rij : {"txtdemp", "txtruis"}) {
+    for (int b = 0; b < Banden; ++b) EXPECT_EQ(OnderhoudEscape({rij, b}), "0") << rij << b;
+  }
   EXPECT_EQ(OnderhoudEscape({"txtSpectrum"}), "");
 }
 

@@ -103,6 +103,81 @@ TEST(Help, StaysWithinTheWidthOfATerminal) {
   }
 }
 
+std::vector<std::string> RegelsVan(const std::string& tekst) {
+  std::istringstream in(tekst);
+  std::vector<std::string> uit;
+  for (std::string regel; std::getline(in, regel);) uit.push_back(regel);
+  return uit;
+}
+
+constexpr std::size_t Kolom = 26;  // of the explanation of an option
+
+/// Whether `regel` has an explanation behind its name, or goes on with one.
+bool HeeftUitleg(const std::string& regel) {
+  return regel.size() > Kolom && regel.starts_with("  ") && regel.substr(Kolom - 2, 2) == "  " &&
+         regel[Kolom] != ' ';
+}
+
+std::size_t EersteWoord(std::string_view regel) {
+  regel.remove_prefix(std::min(regel.size(), regel.find_first_not_of(' ')));
+  return Tekens(regel.substr(0, regel.find(' ')));
+}
+
+TEST(Help, BreaksALineOnlyWhereTheNextWordDoesNotFit) {
+  int afgebroken = 0;
+  for (const OpdrachtRegel& opdracht : Opdrachten) {
+    const std::vector<std::string> regels = RegelsVan(HelpTekst(opdracht.Code));
+    const auto uitleg = std::find(regels.begin() + 2, regels.end(), "");  // behind the usage and a blank line
+    for (std::size_t i = 2; i + 1 < regels.size(); ++i) {
+      const std::string &regel = regels[i], &verder = regels[i + 1];
+      const bool inUitleg = regels.begin() + static_cast<std::ptrdiff_t>(i) + 1 < uitleg;
+      const bool inOptie = HeeftUitleg(regel) && verder.starts_with(std::string(Kolom, ' '));
+      if (!inUitleg && !inOptie) continue;
+      ++afgebroken;
+      EXPECT_GT(Tekens(regel) + 1 + EersteWoord(verder), 80U) << regel << '\n' << verder;
+    }
+  }
+  EXPECT_GT(afgebroken, 20);
+}
+
+TEST(Help, BreaksALineAtItsLastBlankAndIndentsTheNext) {
+  EXPECT_THAT(HelpTekst(Opdracht::CatalogusSorteer),
+              HasSubstr("\n\nSorteert een catalogus op naam, zoals het venster ervan dat doet, en bewaart\n"
+                        "haar onder de naam achter -o, die dezelfde mag zijn. De elf ingebouwde\n"
+                        "kanaalelementen blijven op hun plaats. De soort volgt als bij catalogus toon.\n\n"));
+  EXPECT_THAT(HelpTekst(Opdracht::Reken),
+              HasSubstr("\n  --decimaal punt|komma   het decimaalteken in rapporten en schattingen; zonder\n"
+                        "                          deze optie dat van de landinstelling\n"));
+  EXPECT_THAT(
+      HelpTekst(Opdracht::Druk),  // a name that leaves no room for its explanation
+      HasSubstr("\n  --grafiek 1m|galmveld|geen\n"
+                "                          de grafiek onder het formulier; zonder deze optie geen\n"));
+}
+
+TEST(Help, ShowsEveryOptionOnLinesOfItsOwn) {
+  for (const OpdrachtRegel& opdracht : Opdrachten) {
+    const std::vector<std::string> regels = RegelsVan(HelpTekst(opdracht.Code));
+    const auto begin = std::find(regels.begin(), regels.end(), "Opties:");
+    const auto eind = std::find(begin, regels.end(), "");
+    ASSERT_NE(eind, regels.end()) << opdracht.Naam;
+    std::ptrdiff_t namen = 0;
+    for (auto regel = begin + 1; regel != eind; ++regel) {
+      if (regel->starts_with("  -")) {
+        ++namen;
+        if (!HeeftUitleg(*regel)) {  // a name too long for its column
+          EXPECT_GT(Tekens(*regel) + 2, Kolom) << *regel;
+        }
+      } else {
+        EXPECT_EQ(regel->find_first_not_of(' '), Kolom) << *regel;
+      }
+    }
+    EXPECT_EQ(namen,
+              std::count_if(Opties.begin(), Opties.end(),
+                            [&opdracht](const OptieRegel& optie) { return Kent(optie, opdracht.Code); }))
+        << opdracht.Naam;
+  }
+}
+
 TEST(Help, RequiredOptionsStandInTheUsageLine) {
   EXPECT_THAT(HelpTekst(Opdracht::Maak),
               HasSubstr("Gebruik: murvane-cli maak PROJECT.json -o BESTAND [OPTIES]\n"));

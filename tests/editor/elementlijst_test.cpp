@@ -373,6 +373,12 @@ TEST(Elementlijst, ShowsAllRecordsOfTheCatalogueByName) {
   EXPECT_TRUE(RijenTotaal(catalogus).empty());
 }
 
+TEST(Elementlijst, HasNoRowOfElementZeroOrBehindTheLastSlot) {
+  const Project project;
+  EXPECT_EQ(RijProject(project, 500).substr(0, 5), "500. ");
+  for (const int n : {-1, 0, 501}) VerwachtFout9([&] { (void)RijProject(project, n); });
+}
+
 TEST(LeegMaken, BlanksEveryFieldOfOneElement) {
   Project project = Keten(3);
   ElementRec& element = project.Elementen[2];
@@ -394,6 +400,14 @@ TEST(LeegMaken, ReachesTheLastSlotAndNoFurther) {
   LeegMaken(project, 500);
   VerwachtBlank(project.Elementen[500]);
   for (const int n : {-1, 501}) VerwachtFout9([&] { LeegMaken(project, n); });
+}
+
+TEST(LeegMaken, BlanksTheUnusedElementZeroToo) {
+  Project project = Keten(1);
+  project.Elementen[0] = Kanaal(7);
+  LeegMaken(project, 0);
+  VerwachtBlank(project.Elementen[0]);
+  EXPECT_EQ(project.Elementen[1].Lengte, 1);
 }
 
 TEST(LijstTotaalClick, MakesTheCatalogueActiveAndHidesThePageOfTheElementToAccept) {

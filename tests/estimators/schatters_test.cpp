@@ -202,6 +202,13 @@ TEST(Voorproef, IsEmptyForWhatOKWouldRefuse) {
   EXPECT_THROW((void)Voorproef({}, Schatter::Plenum, geweigerd, ','), Fout);
 }
 
+TEST(KanaalDoorsnede, IsRoundByAWidthOfExactlyZero) {
+  EXPECT_NEAR(KanaalDoorsnede(400, 0), 0.125663706144, 1e-12);  // pi · 0.4² / 4
+  EXPECT_NEAR(KanaalDoorsnede(400, 600), 0.24, 1e-12);
+  EXPECT_NEAR(KanaalDoorsnede(400, 1e-9), 4e-13, 1e-24);
+  EXPECT_NEAR(KanaalDoorsnede(400, -600), -0.24, 1e-12);  // no field lets it through, and no round duct
+}
+
 TEST(Weigering, IsShownInAWarningBox) {
   EXPECT_EQ(BoxVan({"Geen dikte kanaalwand ingevuld", "txtDikte"}),
             (Melding{MeldingSoort::Uitroep, "Waarschuwing", "Geen dikte kanaalwand ingevuld"}));

@@ -81,6 +81,7 @@ int __wrap_fsync(int nummer) {
 }
 int __wrap_close(int nummer) {
   const int uit = __real_close(nummer);
+  if (bezig != nullptr && uit != 0 && errno == EBADF) ++bezig->DubbelGesloten;
   return Faalt(Aanroep::Sluit) ? -1 : uit;
 }
 int __wrap_rename(const char* van, const char* naar) {

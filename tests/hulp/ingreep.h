@@ -29,6 +29,7 @@ class Ingreep {
   gid_t AndereGroep = 0;                                    ///< added to the group that stat() tells
   std::string Lijst;         ///< when not empty: the access list that files have
   std::string GezetteLijst;  ///< the access list that was set on a file
+  int DubbelGesloten = 0;    ///< closes of a number that was not open, which may be another thread's by then
 
   [[nodiscard]] int Vraag(Aanroep wat) { return besluit_(wat); }
 

@@ -58,6 +58,8 @@ for blad in index.html beginnen.html vragen.html stijl.css beelden/resultaten.pn
 done
 heeft usr/share/doc/murvane/changelog.gz
 
+"$bron/tests/levering/weerbaar.sh" "$root"/usr/bin/* || mis "een programma is niet weerbaar"
+
 stap "Wat het bureaublad leest"
 snelkoppeling="$root/usr/share/applications/murvane.desktop"
 desktop-file-validate "$snelkoppeling"

@@ -3,19 +3,10 @@
 # So its dependencies are proved complete: pakket.sh, which belongs to every test run, borrows the machine's libraries.
 set -euo pipefail
 pakket=$(realpath "$1")
-root=$(mktemp -d /var/tmp/murvane-root.XXXXXX)
-ruim_op() {
-  umount -q "$root/proc" || true
-  rm -rf --one-file-system "$root"
-}
-trap ruim_op EXIT
-stap() { echo "== $*"; }
-mis() { echo "root.sh: $*" >&2; exit 1; }
-in_root() { chroot "$root" env -i PATH=/usr/sbin:/usr/bin DEBIAN_FRONTEND=noninteractive "$@"; }
+. "$(dirname "$0")/kale_root.sh"
 installeer() {  # package
   cp "$1" "$root/tmp/murvane.deb"
-  in_root apt-get install -qq -y --no-install-recommends /tmp/murvane.deb >"$root/tmp/apt.txt" 2>&1 ||
-    mis "$(cat "$root/tmp/apt.txt")"
+  installeer_in_root /tmp/murvane.deb
 }
 thuis="/home/jan é m"
 als_jan() {
@@ -24,10 +15,7 @@ als_jan() {
 }
 
 stap "Een kale Debian 12"
-debootstrap --variant=minbase bookworm "$root" >"$root.txt" 2>&1 || mis "zie $root.txt"
-rm "$root.txt"
-chmod 755 "$root"
-mount -t proc proc "$root/proc"
+maak_kale_root
 in_root useradd -m -d "$thuis" jan
 in_root install -d -o jan -m 700 /run/jan "$thuis/mijn projecten"
 
@@ -72,7 +60,7 @@ dubbelklik
 gelijk "hogere versie"
 
 stap "Verwijderen"
-in_root apt-get purge -qq -y murvane >"$root/tmp/apt.txt" 2>&1 || mis "$(cat "$root/tmp/apt.txt")"
+verslag=$(in_root apt-get purge -qq -y murvane 2>&1) || mis "$verslag"
 while read -r bestand; do
   if [ -f "$root$bestand" ]; then mis "er bleef staan: $bestand"; fi
 done <"$root/tmp/bestanden.txt"

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 namespace murvane {
 namespace {
 
@@ -64,6 +66,43 @@ TEST(ResizeInit, RoundsAHalfToTheEvenTwipAndSkipsWhatDoesNotFit) {
   EXPECT_EQ(o.OrigLeft[0], 0);
   EXPECT_EQ(o.OrigHeight[0], 0);
   EXPECT_EQ(o.OrigWidth[0], 32767);
+}
+
+TEST(ResizeInit, RecordsWhatJustFitsIn16BitsAndNothingBeyond) {
+  const struct {
+    double waarde;
+    std::int16_t vastgelegd;
+  } rijen[] = {
+      {32767, 32767},    {32767.4, 32767},   {32768, 0},     {1e10, 0},
+      {-32768, -32768},  {-32768.5, -32768}, {-32769, 0},    {-1e10, 0},
+      {std::nan(""), 0}, {HUGE_VAL, 0},      {-HUGE_VAL, 0},
+  };
+  for (const auto& rij : rijen) {
+    ResizeVenster f;
+    f.BinnenHoogte = f.BinnenBreedte = rij.waarde;
+    f.Vlakken = {{"Line1", true, Houder::Anders, rij.waarde, rij.waarde, rij.waarde, rij.waarde, rij.waarde,
+                  rij.waarde}};
+    const Ontwerp o = ResizeInit(f);
+    for (const std::int16_t is : {o.OrigHoogte, o.OrigBreedte, o.OrigTop[0], o.OrigLeft[0], o.OrigHeight[0],
+                                  o.OrigWidth[0], o.OrigFontSize[0], o.OrigRightMargin[0]})
+      EXPECT_EQ(is, rij.vastgelegd) << rij.waarde;
+  }
+}
+
+TEST(ResizeInit, RecordsTheLeftOfAControlWhenItsTabIsOnShow) {
+  const struct {
+    double left;
+    std::int16_t vastgelegd;
+  } rijen[] = {
+      {32767, 32767},    {32768, 0},   {-42234, 32766},     {-42233, 32767}, {-42232, 0},
+      {-107768, -32768}, {-107769, 0}, {-107767.5, -32768}, {1.1e9, 0},      {-1.1e9, 0},
+      {-1e10, 0},        {1e10, 0},    {std::nan(""), 0},   {HUGE_VAL, 0},   {-HUGE_VAL, 0},
+  };
+  for (const auto& rij : rijen) {
+    ResizeVenster f;
+    f.Vlakken = {{"a", false, Houder::Anders, 0, rij.left, 0, 0, {}, {}}};
+    EXPECT_EQ(ResizeInit(f).OrigLeft[0], rij.vastgelegd) << rij.left;
+  }
 }
 
 TEST(ResizeInit, ALineKeepsANegativePlace) {
@@ -284,6 +323,16 @@ TEST(ResizeForm, ScalingCutsToWholeTwips) {
   EXPECT_EQ(Vlak(f, "txtProNum").Left, 333);   // 1000 / 3
   EXPECT_EQ(Vlak(f, "txtProNum").Top, 289);    // 900 / 3.1111 = 289.28
   EXPECT_EQ(Vlak(f, "txtProNum").Height, 91);  // 285 / 3.1111 = 91.6
+}
+
+TEST(ResizeForm, LeavesAControlThatCameAfterTheRecording) {
+  ResizeVenster f = Voorbeeld();
+  Ontwerp o = ResizeInit(f);
+  f.Vlakken.push_back({"txtNieuw", false, Houder::Anders, 100, 200, 300, 400, 8, {}});
+  f.BinnenBreedte += 1000;
+  ResizeForm(o, f, 1);
+  EXPECT_EQ(Vlak(f, "txtNieuw").Left, 200);
+  EXPECT_EQ(Vlak(f, "txtProNum").Left, 1500);
 }
 
 TEST(ResizeForm, ADivisionByZeroIsSkipped) {
