@@ -60,9 +60,10 @@ TEST(ButtonEnabled, LetsGoWhereThereArePages) {
   const struct {
     std::int16_t laatste, huidig;
     Bladerknoppen knoppen;
-  } rijen[] = {{1, 1, {false, false, false, false}}, {2, 1, {false, false, true, true}},
-               {2, 2, {true, true, false, false}},   {3, 2, {true, true, true, true}},
-               {5, 1, {false, false, true, true}},   {5, 5, {true, true, false, false}}};
+  } rijen[] = {{1, 1, {false, false, false, false}}, {1, 2, {false, false, false, false}},
+               {2, 1, {false, false, true, true}},   {2, 2, {true, true, false, false}},
+               {3, 2, {true, true, true, true}},     {5, 1, {false, false, true, true}},
+               {5, 5, {true, true, false, false}}};
   for (const auto& rij : rijen)
     EXPECT_EQ(ButtonEnabled(rij.laatste, rij.huidig), rij.knoppen) << rij.laatste << " " << rij.huidig;
 }
