@@ -76,7 +76,7 @@ std::string MailAdres(std::string_view adres) {
 std::filesystem::path HandleidingIn(const std::filesystem::path& map,
                                     const std::function<bool()>& heeftHelpProgramma) {
   std::error_code geen;
-  const std::filesystem::path hulp = map / "MurVane.chm";
+  std::filesystem::path hulp = map / "MurVane.chm";
   if (std::filesystem::is_regular_file(hulp, geen) && heeftHelpProgramma()) return hulp;
   const std::filesystem::path bladen = map / "help" / "index.html";
   return std::filesystem::is_regular_file(bladen, geen) ? bladen : std::filesystem::path();

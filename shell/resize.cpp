@@ -25,7 +25,8 @@ std::int16_t Vastgelegd(const std::optional<double>& waarde) {
 }
 
 std::int16_t VastgelegdLinks(const Stuurvlak& vlak) {
-  if (!vlak.Left || !(std::abs(*vlak.Left) <= std::numeric_limits<std::int32_t>::max() / 2)) return 0;
+  constexpr std::int32_t Verst = std::numeric_limits<std::int32_t>::max() / 2;
+  if (!vlak.Left || !(std::abs(*vlak.Left) <= Verst)) return 0;
   if (vlak.IsLijn) return AlsI16(*vlak.Left, 0);
   return AlsI16(ZonderTabVerschuiving(static_cast<std::int32_t>(RondEven(*vlak.Left))), 0);
 }
