@@ -131,12 +131,15 @@ Werk WerkVan(const std::vector<std::string>& projecten, const Partij& partij, co
 
 }  // namespace
 
-int VoerPartij(const Keuzes& keuzes, const Partij& partij, Bestandenplan plan,
-               const std::function<Partijwerk()>& nieuwWerk, Kanalen& kanalen) {
+void ControleerPartij(const Keuzes& keuzes, const Partij& partij, Bestandenplan plan) {
+  WeigerInvoer(keuzes.Bestanden);
+  WeigerGelijkeNamen(keuzes.Bestanden, partij);
+  WeigerZelfdeBestanden(keuzes.Bestanden, partij, std::move(plan));
+}
+
+int VoerPartij(const Keuzes& keuzes, const Partij& partij, const std::function<Partijwerk()>& nieuwWerk,
+               Kanalen& kanalen) {
   const std::vector<std::string>& projecten = keuzes.Bestanden;
-  WeigerInvoer(projecten);
-  WeigerGelijkeNamen(projecten, partij);
-  WeigerZelfdeBestanden(projecten, partij, std::move(plan));
   MaakMap(PadVan(partij.Map));
   int code = status::Klaar;
   std::size_t gedaan = 0;

@@ -22,11 +22,14 @@ struct Partij {
   unsigned Taken = 1;                           ///< threads, as VerdeelWerk has them
 };
 
-/// Does the work on every project of a command, with a line of progress on a terminal; the exit status. Of a
-/// project that is refused or fails the files of an earlier run go, and its message says so. Gebruiksfout
-/// before anything is written when two projects would share a file, when a file that is read would be
-/// written (those of `plan` count), and for standard input, which has no name.
-int VoerPartij(const Keuzes& keuzes, const Partij& partij, Bestandenplan plan,
-               const std::function<Partijwerk()>& nieuwWerk, Kanalen& kanalen);
+/// Gebruiksfout when two projects would share a file, when a file would be written that is read (those of
+/// `plan` count), and for standard input, which has no name.
+void ControleerPartij(const Keuzes& keuzes, const Partij& partij, Bestandenplan plan);
+
+/// Does the work on every project of a command that passed ControleerPartij, with a line of progress on a
+/// terminal; the exit status. Of a project that is refused or fails the files of an earlier run go, and its
+/// message says so.
+[[nodiscard]] int VoerPartij(const Keuzes& keuzes, const Partij& partij,
+                             const std::function<Partijwerk()>& nieuwWerk, Kanalen& kanalen);
 
 }  // namespace murvane

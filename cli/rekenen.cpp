@@ -106,6 +106,9 @@ int RekenAchtereen(const Keuzes& keuzes, Kanalen& kanalen) {
 /// Every project to NAME.prn and NAME.json in one directory.
 int RekenNaarMap(const Keuzes& keuzes, Kanalen& kanalen) {
   static constexpr std::array<std::string_view, 2> Extensies = {".prn", ".json"};
+  const unsigned taken = keuzes.Heeft(Optie::Taken) ? keuzes.Taken() : std::thread::hardware_concurrency();
+  const Partij partij{*keuzes.Waarde(Optie::Uit), Extensies, taken};
+  ControleerPartij(keuzes, partij, PlanVan(keuzes));
   const Voorschrift voorschrift = VoorschriftVan(keuzes);
   const auto nieuwWerk = [&]() -> Partijwerk {
     return [&, rekenaar = std::make_shared<Rekenaar>(voorschrift)](const std::string& naam,
@@ -116,9 +119,7 @@ int RekenNaarMap(const Keuzes& keuzes, Kanalen& kanalen) {
       });
     };
   };
-  const unsigned taken = keuzes.Heeft(Optie::Taken) ? keuzes.Taken() : std::thread::hardware_concurrency();
-  return VoerPartij(keuzes, {*keuzes.Waarde(Optie::Uit), Extensies, taken}, PlanVan(keuzes), nieuwWerk,
-                    kanalen);
+  return VoerPartij(keuzes, partij, nieuwWerk, kanalen);
 }
 
 void ControleerSamenhang(const Keuzes& keuzes) {

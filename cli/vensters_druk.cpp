@@ -112,6 +112,8 @@ void ControleerSamenhang(const Keuzes& keuzes) {
 /// Every project to NAME.pdf in one directory. One after the other: the toolkit draws in one thread.
 int DrukNaarMap(const Keuzes& keuzes, Kanalen& kanalen) {
   static constexpr std::array<std::string_view, 1> Extensies = {".pdf"};
+  const Partij partij{*keuzes.Waarde(Optie::UitDruk), Extensies};
+  ControleerPartij(keuzes, partij, PlanVan(keuzes));
   const Voorschrift voorschrift = VoorschriftVan(keuzes);
   const Partijwerk een = [&](const std::string& naam, const fs::path& doel) {
     return Druk(naam, voorschrift, kanalen, [&](const Formulier& formulier) {
@@ -119,8 +121,7 @@ int DrukNaarMap(const Keuzes& keuzes, Kanalen& kanalen) {
     });
   };
   return VoerPartij(
-      keuzes, {*keuzes.Waarde(Optie::UitDruk), Extensies, 1}, PlanVan(keuzes), [&een] { return een; },
-      kanalen);
+      keuzes, partij, [&een] { return een; }, kanalen);
 }
 
 }  // namespace

@@ -97,6 +97,14 @@ TEST(Uitvoermap, FilesThatAreOneAreRefusedBeforeAnythingIsWritten) {
   EXPECT_FALSE(map.Heeft("u/a.prn") || map.Heeft("u/a.json") || map.Heeft("u/b.prn"));
 }
 
+TEST(Uitvoermap, WrongUseIsToldBeforeTheSettingsAreRead) {
+  const Proefmap map;
+  const std::string a = map.Zet(GoedProject(), "a.mrv");
+  EXPECT_EQ(Draai({"reken", a, a, "--uit", map / "u", "--data", map / "weg"}).Code, 64);
+  EXPECT_EQ(Draai({"reken", a, "--uit", map / "u", "--data", map / "weg"}).Code, 1);
+  EXPECT_FALSE(map.Heeft("u"));
+}
+
 // Results of a project that is now refused, or fails, would pass for its results.
 
 TEST(Uitvoermap, OldResultsOfAProjectThatIsNowRefusedGoAndTheMessageSaysSo) {
