@@ -14,7 +14,7 @@ namespace murvane {
 namespace {
 
 Uitslag Controleer(const std::string& naam, char decimaal, Kanalen& kanalen) {
-  return Bewaakt(naam, [&]() -> Uitslag {
+  return Bewaakt(InvoerNaam(naam), [&]() -> Uitslag {
     Project project = LeesGenoemd(naam, kanalen);
     if (const auto bevinding = CheckIt(project, InvoerVan(project, decimaal), decimaal))
       return {status::Geweigerd, InvoerNaam(naam) + ": " + NaarUtf8(bevinding->Melding)};

@@ -41,7 +41,7 @@ class Rekenaar {
   /// Reads, checks and calculates one project and hands it to `schrijf`.
   template <typename Schrijf>
   Uitslag Doe(const std::string& naam, const Kanalen& kanalen, Schrijf schrijf) {
-    return Bewaakt(naam, [&]() -> Uitslag {
+    return Bewaakt(InvoerNaam(naam), [&]() -> Uitslag {
       project_ = LeesGenoemd(naam, kanalen);
       if (const auto bevinding = Reken())
         return {status::Geweigerd, InvoerNaam(naam) + ": " + NaarUtf8(bevinding->Melding)};

@@ -49,7 +49,7 @@ std::vector<std::string> MaakBitmaps(const Formulier& formulier, std::int16_t gr
 
 /// What holds for every form of a command.
 struct Voorschrift {
-  Instellingen instellingen;
+  Instellingen DeInstellingen;
   char Decimaal;
   std::int16_t GrafiekKeuze;
 };
@@ -78,8 +78,9 @@ void Schrijf(const std::string& naarPdf, const std::optional<std::string>& naarB
 template <typename Schrijver>
 Uitslag Druk(const std::string& naam, const Voorschrift& voorschrift, const Kanalen& kanalen,
              Schrijver schrijf) {
-  return Bewaakt(naam, [&]() -> Uitslag {
-    const auto& [instellingen, decimaal, grafiek] = voorschrift;
+  return Bewaakt(InvoerNaam(naam), [&]() -> Uitslag {
+    const Instellingen& instellingen = voorschrift.DeInstellingen;
+    const char decimaal = voorschrift.Decimaal;
     Project project = LeesGenoemd(naam, kanalen);
     Resultaten resultaten;
     Rapport rapport;

@@ -153,6 +153,8 @@ TEST_F(Genoemd, WhatIsWrongOnStandardInputIsToldUnderItsName) {
     EXPECT_EQ(afloop.Code, 1) << opdracht;
     EXPECT_EQ(afloop.Err, "standaardinvoer: Fout 62 - Het bestand eindigt te vroeg.\n");
   }
+  const Omstandigheid oneindig{.Invoer = ProjectBytes(MetOneindig())};
+  EXPECT_THAT(Reken(map, {"-"}, oneindig).Err, testing::StartsWith("standaardinvoer: Fout 6 - "));
   EXPECT_EQ(Reken(map, {"-"}, leeg).Err, "standaardinvoer: Geen kanaalelementen ingevoerd\n");
   EXPECT_EQ(Draai({"controleer", "-"}, leeg).Err, "standaardinvoer: Geen kanaalelementen ingevoerd\n");
 }
