@@ -455,7 +455,7 @@ Hulpprogramma HulpVanCli() {
 
 Hulpprogramma HulpVanDruk() {
   Hulpprogramma uit{"murvane-druk",
-                    "zet het berekeningsformulier van een project in een PDF-bestand",
+                    "zet het berekeningsformulier van projecten in PDF-bestanden",
                     {VanRegel(RegelVan(Opdracht::Druk))},
                     {Eindstatus(), {"OMGEVING", {EigenGegevensmap()}}, Gegevensbestanden()},
                     {"murvane", "murvane-cli"}};
