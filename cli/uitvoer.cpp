@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <ostream>
 #include <system_error>
+#include <utility>
 
 #include "basis/bestand.h"
 #include "basis/fout.h"
@@ -17,6 +18,27 @@ namespace murvane {
 namespace fs = std::filesystem;
 
 namespace {
+
+/// In small letters, or with `wissel` each letter in its other form; only those of ASCII.
+std::string Letters(std::string tekst, bool wissel) {
+  for (char& c : tekst) {
+    const bool groot = c >= 'A' && c <= 'Z';
+    const bool klein = c >= 'a' && c <= 'z';
+    if (groot || (klein && wissel)) c = static_cast<char>(c ^ 0x20);
+  }
+  return tekst;
+}
+
+/// Whether a directory takes capitals and small letters for the same, tried on what stands in it.
+bool NegeertHoofdletters(const fs::path& map) {
+  std::error_code geen;
+  for (const fs::directory_entry& ingang : fs::directory_iterator(map, geen)) {
+    const std::string naam = PadTekst(ingang.path().filename());
+    const std::string anders = Letters(naam, true);
+    if (anders != naam) return fs::equivalent(ingang.path(), map / PadVan(anders), geen);
+  }
+  return false;
+}
 
 /// What a link that leads nowhere leads to: there a file would come.
 fs::path AchterLinks(fs::path pad) {
@@ -32,8 +54,7 @@ std::string Plaats(const fs::path& pad) {
   std::error_code geen;
   std::string uit = PadTekst(fs::weakly_canonical(fs::absolute(AchterLinks(pad), geen), geen));
 #ifdef _WIN32
-  for (char& c : uit)
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c | 0x20);
+  uit = Letters(std::move(uit), false);
 #endif
   return uit;
 }
@@ -53,6 +74,11 @@ std::string Kenmerk(const std::string& naam) {
     return std::to_string(stand.st_dev) + ":" + std::to_string(stand.st_ino);
 #endif
   return Plaats(pad);
+}
+
+[[noreturn]] void MeldZelfde(const std::string& een, const std::string& ander) {
+  throw Gebruiksfout(een == ander ? een + " zou twee keer worden geschreven."
+                                  : een + " en " + ander + " zijn hetzelfde bestand.");
 }
 
 }  // namespace
@@ -106,9 +132,11 @@ void Bestandenplan::Schrijft(const std::string& naam) {
   if (leest_.contains(kenmerk))
     throw Gebruiksfout(naam + " is het bestand dat wordt gelezen en zou worden overschreven.");
   const auto [eerder, nieuw] = schrijft_.emplace(kenmerk, naam);
-  if (nieuw) return;
-  throw Gebruiksfout(eerder->second == naam ? naam + " zou twee keer worden geschreven."
-                                            : eerder->second + " en " + naam + " zijn hetzelfde bestand.");
+  if (!nieuw) MeldZelfde(eerder->second, naam);
+  std::error_code geen;
+  const auto [lijkt, anders] = inKleineLetters_.emplace(Letters(kenmerk, false), naam);
+  if (!anders && NegeertHoofdletters(fs::absolute(PadVan(naam), geen).parent_path()))
+    MeldZelfde(lijkt->second, naam);
 }
 
 }  // namespace murvane

@@ -47,7 +47,7 @@ class Bestandenplan {
 
  private:
   using Namen = std::unordered_map<std::string, std::string>;  ///< by what tells files apart
-  Namen leest_, schrijft_;
+  Namen leest_, schrijft_, inKleineLetters_;
 };
 
 }  // namespace murvane

@@ -52,6 +52,30 @@ TEST(Bestandenplan, ToldApartByWhatTheyAre) {
   EXPECT_FALSE(ZelfdeBestand("/dev/null", "/dev/null"));
 }
 
+/// What a plan says of outputs in the directory m that do not exist yet.
+std::string Bezwaar(const Proefmap& map, const std::vector<std::string>& namen) {
+  Bestandenplan plan;
+  try {
+    for (const std::string& naam : namen) plan.Schrijft(map / "m/" + naam);
+  } catch (const Gebruiksfout& fout) {
+    return fout.what();
+  }
+  return "";
+}
+
+TEST(Bestandenplan, CapitalsTellFilesApartWhereTheDirectoryDoes) {
+  const Proefmap map;
+  fs::create_directory(PadVan(map / "m"));
+  EXPECT_EQ(Bezwaar(map, {"x.pdf", "X.PDF"}), "");  // nothing to try it on
+  map.ZetBytes("x", "m/proef");
+  EXPECT_EQ(Bezwaar(map, {"x.pdf", "X.PDF", "x.Pdf"}), "");
+  EXPECT_EQ(Bezwaar(map, {"x.pdf", "X.PDF", "X.PDF"}), map / "m/X.PDF" + " zou twee keer worden geschreven.");
+  // As a directory shows it that takes them for the same: the name in other letters leads to the file too.
+  fs::create_hard_link(PadVan(map / "m/proef"), PadVan(map / "m/PROEF"));
+  EXPECT_EQ(Bezwaar(map, {"x1.bmp", "X1.bmp"}),
+            map / "m/x1.bmp" + " en " + map / "m/X1.bmp" + " zijn hetzelfde bestand.");
+}
+
 TEST(RekenOpdracht, TwoOutputsThatAreOneFileAreRefusedBeforeEitherIsWritten) {
   const Proefmap map;
   const std::string goed = map.Zet(GoedProject(), "a.mrv");
