@@ -6,7 +6,6 @@
 #include <cmath>
 #include <limits>
 #include <nlohmann/json.hpp>
-#include <unordered_set>
 
 #include "basis/fout.h"
 
@@ -116,6 +115,24 @@ std::string RegelKolom(std::string_view json, std::size_t plek) {
   throw Fout(FoutNummer::OngeldigArgument, "Geen geldige JSON", RegelKolom(json, plek));
 }
 
+/// The first key of an object that one before it has, too. By sorting, whose cost no choice of keys can drive
+/// up as that of a hash table, and which needs no copies.
+const std::string* EersteDubbele(const JsonWaarde::Object& leden) {
+  std::vector<const std::string*> sleutels;
+  sleutels.reserve(leden.size());
+  for (const JsonWaarde::Lid& lid : leden) sleutels.push_back(&lid.sleutel);
+  std::sort(sleutels.begin(), sleutels.end(), [](const std::string* een, const std::string* ander) {
+    const int volgorde = een->compare(*ander);
+    return volgorde < 0 || (volgorde == 0 && een < ander);
+  });
+  const std::string* eerste = nullptr;
+  for (std::size_t i = 1; i < sleutels.size(); ++i) {
+    const bool dubbel = *sleutels[i - 1] == *sleutels[i];
+    if (dubbel && (eerste == nullptr || sleutels[i] < eerste)) eerste = sleutels[i];
+  }
+  return eerste;
+}
+
 /// Builds the value from the events of the parser, which does not recurse; so nothing does before the depth
 /// is known.
 class Bouwer {
@@ -131,21 +148,22 @@ class Bouwer {
   bool string(std::string& tekst) { return Zet(std::move(tekst)); }
   bool binary(nlohmann::json::binary_t& /*bytes*/) { return false; }  // never in a JSON text
   bool start_object(std::size_t /*aantal*/) { return Open(JsonWaarde::Object()); }
-  bool end_object() { return Sluit(); }
+  bool end_object() {
+    const auto& leden = std::get<JsonWaarde::Object>(open_.back()->inhoud);
+    if (EersteDubbele(leden) != nullptr) EisEenmalig();
+    return Sluit();
+  }
   bool start_array(std::size_t /*aantal*/) { return Open(JsonWaarde::Lijst()); }
   bool end_array() { return Sluit(); }
 
   bool key(std::string& sleutel) {
-    if (!open_.back().sleutels.insert(sleutel).second) {
-      throw Fout(FoutNummer::OngeldigArgument, "Dubbele sleutel " + Tussen(sleutel),
-                 Plaats(open_.size() - 1));
-    }
-    std::get<JsonWaarde::Object>(open_.back().waarde->inhoud).emplace_back().sleutel = std::move(sleutel);
+    std::get<JsonWaarde::Object>(open_.back()->inhoud).emplace_back().sleutel = std::move(sleutel);
     return true;
   }
 
   bool parse_error(std::size_t gelezen, const std::string& /*teken*/, const nlohmann::json::exception& fout) {
     constexpr int teGroot = 406;
+    EisEenmalig();
     if (fout.id != teGroot) GeenJson(json_, gelezen > 0 ? gelezen - 1 : 0);
     (void)Volgende();
     throw Fout(FoutNummer::Overloop, "Het getal is te groot", Plaats(open_.size()));
@@ -153,15 +171,10 @@ class Bouwer {
   // NOLINTEND(readability-identifier-naming)
 
  private:
-  struct Niveau {
-    JsonWaarde* waarde;
-    std::unordered_set<std::string> sleutels;  ///< of an object, met so far
-  };
-
   /// Where the next value goes: behind its key, at the end of the list, or at the top.
   JsonWaarde& Volgende() {
     if (open_.empty()) return *top_;
-    auto& inhoud = open_.back().waarde->inhoud;
+    auto& inhoud = open_.back()->inhoud;
     if (auto* object = std::get_if<JsonWaarde::Object>(&inhoud)) return object->back().waarde;
     return std::get<JsonWaarde::Lijst>(inhoud).emplace_back();
   }
@@ -176,10 +189,11 @@ class Bouwer {
   bool Open(T&& inhoud) {
     JsonWaarde& nieuw = Volgende();
     if (open_.size() == MaxDiepte) {
+      EisEenmalig();
       throw Fout(FoutNummer::OngeldigArgument, "Te veel objecten en lijsten in elkaar", Plaats(open_.size()));
     }
     nieuw.inhoud = std::forward<T>(inhoud);
-    open_.push_back({&nieuw, {}});
+    open_.push_back(&nieuw);
     return true;
   }
 
@@ -188,11 +202,22 @@ class Bouwer {
     return true;
   }
 
+  /// The open objects have every key once. Whatever else is wrong came later than a key that comes twice; and
+  /// so did, in an inner object, any key behind the doubled one of an outer object.
+  void EisEenmalig() const {
+    for (std::size_t i = 0; i < open_.size(); ++i) {
+      const auto* object = std::get_if<JsonWaarde::Object>(&open_[i]->inhoud);
+      const std::string* dubbel = object == nullptr ? nullptr : EersteDubbele(*object);
+      if (dubbel == nullptr) continue;
+      throw Fout(FoutNummer::OngeldigArgument, "Dubbele sleutel " + Tussen(*dubbel), Plaats(i));
+    }
+  }
+
   /// The path through the outermost `diepte` levels, by their last member or item.
   [[nodiscard]] std::string Plaats(std::size_t diepte) const {
     std::string plaats;
     for (std::size_t i = 0; i < diepte; ++i) {
-      const auto& inhoud = open_[i].waarde->inhoud;
+      const auto& inhoud = open_[i]->inhoud;
       if (const auto* object = std::get_if<JsonWaarde::Object>(&inhoud)) {
         plaats = LidPlaats(plaats, object->back().sleutel);
       } else {
@@ -204,7 +229,7 @@ class Bouwer {
 
   std::string_view json_;
   JsonWaarde* top_;
-  std::vector<Niveau> open_;
+  std::vector<JsonWaarde*> open_;
 };
 
 [[noreturn]] void GeenGetal(const std::string& plaats, const char* omschrijving) {

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "basis/fout.h"
+#include "basis/utf8.h"
 
 namespace murvane {
 
@@ -33,34 +34,12 @@ void VoegUtf8Toe(std::string& uit, char32_t punt) {
   }
 }
 
-[[noreturn]] void GeenUtf8() {
-  throw Fout(FoutNummer::OngeldigArgument, "De tekst is geen geldige UTF-8");
-}
-
-/// Takes one code point off the front of `rest`; shortest forms only, no surrogates.
+/// Takes one code point off the front of `rest`.
 char32_t NeemPunt(std::string_view& rest) {
-  const auto eerste = static_cast<unsigned char>(rest.front());
-  std::size_t n = 1;
-  char32_t punt = eerste;
-  char32_t kleinste = 0;
-  if (eerste >= 0xF0 && eerste < 0xF8) {
-    n = 4, punt = eerste & 0x07U, kleinste = 0x10000;
-  } else if (eerste >= 0xE0 && eerste < 0xF0) {
-    n = 3, punt = eerste & 0x0FU, kleinste = 0x800;
-  } else if (eerste >= 0xC0 && eerste < 0xE0) {
-    n = 2, punt = eerste & 0x1FU, kleinste = 0x80;
-  } else if (eerste >= 0x80) {
-    GeenUtf8();
-  }
-  if (rest.size() < n) GeenUtf8();
-  for (std::size_t i = 1; i < n; ++i) {
-    const auto c = static_cast<unsigned char>(rest[i]);
-    if ((c & 0xC0) != 0x80) GeenUtf8();
-    punt = (punt << 6) | (c & 0x3FU);
-  }
-  if (punt < kleinste || (punt >= 0xD800 && punt < 0xE000) || punt > 0x10FFFF) GeenUtf8();
-  rest.remove_prefix(n);
-  return punt;
+  const Utf8Teken teken = EersteTeken(rest);
+  if (teken.Lengte == 0) throw Fout(FoutNummer::OngeldigArgument, "De tekst is geen geldige UTF-8");
+  rest.remove_prefix(teken.Lengte);
+  return teken.Punt;
 }
 
 /// The byte of a code point, where the code page has one.

@@ -103,8 +103,8 @@ std::string Bytes(const CatalogusInhoud& catalogus, const std::string& naam) {
 /// Saves a catalogue as the command line says: a longer file keeps its tail.
 void Bewaar(const CatalogusInhoud& catalogus, const Keuzes& keuzes, Kanalen& kanalen) {
   const std::string uitvoer = *keuzes.Waarde(Optie::UitvoerMaak);
-  if (uitvoer == Standaarduitvoer) {
-    kanalen.uit << Bytes(catalogus, keuzes.Bestanden.front());
+  if (uitvoer == Standaardstroom) {
+    SchrijfUit(Bytes(catalogus, keuzes.Bestanden.front()), kanalen);
   } else {
     std::visit([&](const auto& inhoud) { SchrijfCatalogus(inhoud, PadVan(uitvoer)); }, catalogus.Inhoud);
   }
@@ -117,8 +117,7 @@ CatalogusSoort SoortVanWoord(const std::string& woord) {
 }
 
 std::filesystem::path CatalogusPad(const Keuzes& keuzes, CatalogusSoort soort) {
-  const auto& data = keuzes.Waarde(Optie::Data);
-  return (data ? PadVan(*data) : StandaardDataMap()) / OnderhoudVan(soort).Bestand;
+  return Gegevensmap(keuzes) / OnderhoudVan(soort).Bestand;
 }
 
 /// A listing must not take the place of the catalogue that is read, nor of another one beside it.
@@ -150,7 +149,7 @@ std::string DatumVan(const Keuzes& keuzes) {
 }  // namespace
 
 int VoerCatalogusToon(const Keuzes& keuzes, Kanalen& kanalen) {
-  const std::string uitvoer = keuzes.Waarde(Optie::UitvoerToon).value_or(std::string(Standaarduitvoer));
+  const std::string uitvoer = keuzes.Waarde(Optie::UitvoerToon).value_or(std::string(Standaardstroom));
   WeigerOverschrijven(keuzes.Bestanden.front(), uitvoer);
   SchrijfNaar(uitvoer, CatalogusNaarJson(LeesCatalogus(keuzes)), kanalen);
   return status::Klaar;
@@ -183,7 +182,7 @@ int VoerOverzicht(const Keuzes& keuzes, Kanalen& kanalen) {
   if (uitvoer) {
     SchrijfNaar(*uitvoer, bytes, kanalen);
   } else {
-    kanalen.uit << NaarUtf8(bytes);
+    SchrijfUit(NaarUtf8(bytes), kanalen);
   }
   return status::Klaar;
 }

@@ -7,6 +7,7 @@
 
 #include "basis/bestand.h"
 #include "cli/uitslag.h"
+#include "shell/programmahulp.h"
 #include "versie.h"
 
 namespace murvane {
@@ -16,7 +17,8 @@ namespace fs = std::filesystem;
 namespace {
 
 Hulpoptie VanRegel(const OptieRegel& regel) {
-  return {Delen(regel.Namen, ','), regel.Argument, Delen(regel.Waarden, '|'), regel.Uitleg, regel.Verplicht};
+  return {Delen(regel.Namen, ','), regel.Argument, Delen(regel.Waarden, '|'), regel.Uitleg,
+          regel.Verplicht,         regel.Anders};
 }
 
 Hulpopdracht VanRegel(const OpdrachtRegel& regel) {
@@ -55,13 +57,19 @@ std::string RoffNamen(const Hulpoptie& optie) {
   return optie.Argument.empty() ? uit : uit + " " + Schuin(optie.Argument);
 }
 
+std::string RoffVerplicht(const Hulpoptie& optie, const Hulpopdracht& opdracht) {
+  for (const Hulpoptie& anders : opdracht.Opties)
+    if (anders.Namen.front() == optie.Anders) return "(" + RoffNamen(optie) + " | " + RoffNamen(anders) + ")";
+  return RoffNamen(optie);
+}
+
 std::string RoffGebruik(const Hulpprogramma& programma, const Hulpopdracht& opdracht) {
   std::string uit = Vet(programma.Naam);
   if (!opdracht.Naam.empty()) uit += " " + Vet(opdracht.Naam);
   if (!opdracht.Argument.empty()) uit += " " + Schuin(opdracht.Argument);
   if (opdracht.Meer) uit += "...";
   for (const Hulpoptie& optie : opdracht.Opties)
-    if (optie.Verplicht) uit += " " + RoffNamen(optie);
+    if (optie.Verplicht) uit += " " + RoffVerplicht(optie, opdracht);
   if (!opdracht.Opties.empty()) uit += " [" + Schuin("OPTIES") + "]";
   return uit;
 }
@@ -447,7 +455,7 @@ Hulpprogramma HulpVanCli() {
 
 Hulpprogramma HulpVanDruk() {
   Hulpprogramma uit{"murvane-druk",
-                    "zet het berekeningsformulier van een project in een PDF-bestand",
+                    "zet het berekeningsformulier van projecten in PDF-bestanden",
                     {VanRegel(RegelVan(Opdracht::Druk))},
                     {Eindstatus(), {"OMGEVING", {EigenGegevensmap()}}, Gegevensbestanden()},
                     {"murvane", "murvane-cli"}};
@@ -457,15 +465,9 @@ Hulpprogramma HulpVanDruk() {
 Hulpprogramma HulpVanMurvane() {
   Hulpopdracht zelf;
   zelf.Argument = "PROJECT.mrv";
-  zelf.Uitleg =
-      "Berekent geluidsniveaus van luchttechnische installaties volgens ISSO-publicatie 24 en VDI 2081. "
-      "Zonder project opent het programma leeg. De hele opdrachtregel is de naam van één project, met of "
-      "zonder "
-      "aanhalingstekens. De instellingen en catalogi staan in de map waarin het programma wordt gestart; "
-      "vanaf "
-      "het bureaublad gestart werkt het in de eigen gegevensmap van de gebruiker, die bij de eerste keer met "
-      "de "
-      "meegeleverde bestanden wordt gevuld.";
+  zelf.Uitleg = ProgrammaUitleg;
+  for (const Programmawoord& woord : Programmawoorden)
+    zelf.Opties.push_back({{woord.Woord}, "", {}, woord.Uitleg});
   Hulpprogramma uit{"murvane", "geluid in luchtkanalen, van ventilator tot vertrek", {zelf}, {}, {}};
   uit.Koppen = {
       {"OMGEVING",

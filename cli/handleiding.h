@@ -18,6 +18,7 @@ struct Hulpoptie {
   std::vector<std::string_view> Waarden;  ///< the values it may have; empty for any
   std::string_view Uitleg;
   bool Verplicht = false;
+  std::string_view Anders = {};  ///< of a required one: the option that may stand in its place
 };
 
 struct Hulpopdracht {

@@ -9,8 +9,7 @@
 int main(int argc, char** argv) {
   try {
     murvane::BereidUitvoerVoor();
-    return murvane::VoerOpdrachtUit(murvane::Argumenten(argc, argv), std::cout, std::cerr,
-                                    murvane::FoutuitvoerIsTerminal());
+    return murvane::VoerOpdrachtUit(murvane::Argumenten(argc, argv), murvane::Systeemkanalen());
   } catch (const std::exception&) {
     std::cerr << "murvane-cli: onverwachte fout\n";
     return 1;

@@ -131,6 +131,12 @@ void NeemBestanden(Keuzes& keuzes, const std::vector<std::string>& rest) {
   }
 }
 
+/// Whether the option was given that may stand in the place of this one.
+bool HeeftAnders(const Keuzes& keuzes, const OptieRegel& optie) {
+  const OptieRegel* anders = ZoekOptie(keuzes.Wat, optie.Anders);
+  return anders != nullptr && keuzes.Heeft(anders->Code);
+}
+
 /// A value that is missing, because the next option stands in its place, or empty; an option that is missing.
 void ControleerAanwezig(const Keuzes& keuzes) {
   for (const OptieRegel& optie : Opties) {
@@ -138,7 +144,7 @@ void ControleerAanwezig(const Keuzes& keuzes) {
     const auto& waarde = keuzes.Waarde(optie.Code);
     if (waarde && !optie.Argument.empty() && (waarde->empty() || ZoekOptie(keuzes.Wat, *waarde) != nullptr))
       Ontbreekt(optie);
-    if (!waarde && optie.Verplicht)
+    if (!waarde && optie.Verplicht && !HeeftAnders(keuzes, optie))
       throw Gebruiksfout("Optie " + std::string(EersteNaam(optie)) + " " + std::string(optie.Argument) +
                          " ontbreekt.");
   }
@@ -148,7 +154,8 @@ void ControleerBestanden(const Keuzes& keuzes) {
   const OpdrachtRegel& regel = RegelVan(keuzes.Wat);
   const std::vector<std::string>& bestanden = keuzes.Bestanden;
   const std::size_t minst = regel.Argument.empty() ? 0 : 1;
-  if (bestanden.size() < minst) throw Gebruiksfout(std::string(regel.Argument) + " ontbreekt.");
+  if (bestanden.size() < minst && !keuzes.Heeft(Optie::Lijst))
+    throw Gebruiksfout(std::string(regel.Argument) + " ontbreekt.");
   if (!regel.Meer && bestanden.size() > minst) throw Gebruiksfout("Onverwacht argument: " + bestanden[minst]);
   if (std::find(bestanden.begin(), bestanden.end(), "") != bestanden.end())
     throw Gebruiksfout("Een bestandsnaam is leeg.");

@@ -1,9 +1,12 @@
 #include "cli/opdrachten.h"
 
 #include <ostream>
+#include <utility>
 
+#include "basis/bestand.h"
 #include "basis/fout.h"
 #include "cli/help.h"
+#include "cli/namen.h"
 #include "shell/startup.h"
 #include "versie.h"
 
@@ -48,13 +51,16 @@ int Voer(const Keuzes& keuzes, Kanalen& kanalen) {
 
 int OntleedEnVoer(Opdracht opdracht, const std::vector<std::string>& argumenten, Kanalen& kanalen,
                   const Uitvoerder& voer) {
-  const Keuzes keuzes = Ontleed(opdracht, argumenten);
+  Keuzes keuzes = Ontleed(opdracht, argumenten);
   if (keuzes.Heeft(Optie::Help)) {
-    kanalen.uit << HelpTekst(opdracht);
+    SchrijfUit(HelpTekst(opdracht), kanalen);
   } else if (keuzes.Heeft(Optie::Versie)) {
-    kanalen.uit << "MurVane " << VersieTekst << "\n";
+    SchrijfUit("MurVane " + std::string(VersieTekst) + "\n", kanalen);
   } else {
-    return voer(keuzes, kanalen);
+    const bool noemt = Kent(RegelVan(Optie::Lijst), opdracht);
+    if (noemt) keuzes.Bestanden = NoemProjecten(keuzes, kanalen);
+    // A list without names asks for nothing.
+    return noemt && keuzes.Bestanden.empty() ? status::Klaar : voer(keuzes, kanalen);
   }
   return status::Klaar;
 }
@@ -66,9 +72,9 @@ void EisGeschreven(std::ostream& uit) {
 }
 
 /// Ends a program: what went wrong becomes a message and an exit status.
-int Beeindig(Opdracht opdracht, Uitslag uitslag, Kanalen& kanalen) {
-  if (uitslag.Status == status::VerkeerdGebruik) uitslag.Melding += "\n" + HelpVerwijzing(opdracht);
+int Beeindig(Opdracht opdracht, const Uitslag& uitslag, Kanalen& kanalen) {
   Meld(uitslag, kanalen);
+  if (uitslag.Status == status::VerkeerdGebruik) Meld({uitslag.Status, HelpVerwijzing(opdracht)}, kanalen);
   const Uitslag geschreven = Bewaakt(std::string(Programmanaam(opdracht)), [&kanalen] {
     EisGeschreven(kanalen.uit);
     return Uitslag{};
@@ -79,9 +85,7 @@ int Beeindig(Opdracht opdracht, Uitslag uitslag, Kanalen& kanalen) {
 
 }  // namespace
 
-int VoerOpdrachtUit(std::vector<std::string> argumenten, std::ostream& uit, std::ostream& err,
-                    bool terminal) {
-  Kanalen kanalen{uit, err, terminal};
+int VoerOpdrachtUit(std::vector<std::string> argumenten, Kanalen kanalen) {
   Opdracht opdracht = Opdracht::Programma;
   const Uitslag uitslag = Bewaakt("murvane-cli", [&] {
     opdracht = NeemOpdracht(argumenten);
@@ -90,9 +94,8 @@ int VoerOpdrachtUit(std::vector<std::string> argumenten, std::ostream& uit, std:
   return Beeindig(opdracht, uitslag, kanalen);
 }
 
-int VoerProgrammaUit(Opdracht opdracht, const std::vector<std::string>& argumenten, std::ostream& uit,
-                     std::ostream& err, const Uitvoerder& voer) {
-  Kanalen kanalen{uit, err};
+int VoerProgrammaUit(Opdracht opdracht, const std::vector<std::string>& argumenten, Kanalen kanalen,
+                     const Uitvoerder& voer) {
   const Uitslag uitslag = Bewaakt(std::string(Programmanaam(opdracht)), [&] {
     return Uitslag{OntleedEnVoer(opdracht, argumenten, kanalen, voer), {}};
   });
@@ -103,6 +106,22 @@ char Decimaalteken(const Keuzes& keuzes) {
   const auto& keuze = keuzes.Waarde(Optie::Decimaal);
   if (!keuze) return RegionaalDecimaalteken();
   return *keuze == "komma" ? ',' : '.';
+}
+
+std::filesystem::path Gegevensmap(const Keuzes& keuzes) {
+  const auto& data = keuzes.Waarde(Optie::Data);
+  return data ? PadVan(*data) : StandaardDataMap();
+}
+
+std::filesystem::path Instellingenbestand(const Keuzes& keuzes) {
+  return Gegevensmap(keuzes) / InstellingenNaam;
+}
+
+Bestandenplan PlanVan(const Keuzes& keuzes) {
+  Bestandenplan plan;
+  plan.Leest(PadTekst(Instellingenbestand(keuzes)));
+  if (const auto& lijst = keuzes.Waarde(Optie::Lijst)) plan.Leest(*lijst);
+  return plan;
 }
 
 }  // namespace murvane

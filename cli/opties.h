@@ -50,13 +50,16 @@ inline constexpr std::array Opdrachten = {
     OpdrachtRegel{
         Opdracht::Reken, "reken", "PROJECT.mrv", true, "controleert en berekent projecten",
         "Controleert en berekent projecten. Zonder opties verschijnt het rapport van elk project op de "
-        "standaarduitvoer. Een bestandsnaam - achter --prn of --json is de standaarduitvoer."},
+        "standaarduitvoer, met de bestandsnaam erboven als het er meer zijn. Een map staat voor alle "
+        "projecten (*.mrv) die erin staan, een - voor een project op de standaardinvoer. Een - achter --prn "
+        "of --json is de standaarduitvoer."},
     OpdrachtRegel{
         Opdracht::Controleer, "controleer", "PROJECT.mrv", true, "controleert projecten zonder te rekenen",
         "Controleert projecten zoals voor een berekening, zonder te rekenen. Elk project dat berekend kan "
-        "worden, wordt gemeld als \"in orde\"."},
+        "worden, wordt gemeld als \"in orde\". Een map staat voor alle projecten (*.mrv) die erin staan, een "
+        "- voor een project op de standaardinvoer."},
     OpdrachtRegel{Opdracht::Toon, "toon", "PROJECT.mrv", false, "toont een project als JSON",
-                  "Toont een project als JSON, zonder verlies."},
+                  "Toont een project als JSON, zonder verlies. Een - is een project op de standaardinvoer."},
     OpdrachtRegel{
         Opdracht::Maak, "maak", "PROJECT.json", false, "maakt een project uit JSON",
         "Maakt een projectbestand uit JSON; de naam ervan eindigt op mrv. Velden die ontbreken, zijn 0 of "
@@ -103,9 +106,10 @@ inline constexpr std::array Opdrachten = {
                   "Schat het geluidsvermogen van een ventilator. De naam, de zeven octaafbanden en het "
                   "niveau in dB(A) verschijnen elk op een regel. Een optie die ontbreekt, is 0."},
     OpdrachtRegel{
-        Opdracht::Druk, "", "PROJECT.mrv", false, "",
-        "Controleert en berekent een project en zet het berekeningsformulier in een PDF-bestand, met "
-        "lettertype en stijlen van murvane.set."},
+        Opdracht::Druk, "", "PROJECT.mrv", true, "",
+        "Controleert en berekent projecten en zet van elk het berekeningsformulier in een PDF-bestand, met "
+        "lettertype en stijlen van murvane.set. Een map staat voor alle projecten (*.mrv) die erin staan, "
+        "een - voor een project op de standaardinvoer."},
 };
 
 enum class Optie : std::uint8_t {
@@ -113,6 +117,7 @@ enum class Optie : std::uint8_t {
   Json,
   Uit,
   Taken,
+  Lijst,
   UitvoerToon,
   UitvoerMaak,
   Soort,
@@ -134,11 +139,13 @@ enum class Optie : std::uint8_t {
   FanToeren,
   FanSchoepen,
   FanVermogen,
+  JsonSchatting,
   Data,
   Decimaal,
   Versie,
   Help,
   Pdf,
+  UitDruk,
   Bmp,
   Grafiek
 };
@@ -161,6 +168,7 @@ struct OptieRegel {
   bool Verplicht;
   std::string_view Uitleg;
   std::string_view Waarden = {};  ///< the values it may have, separated by "|"; empty for any
+  std::string_view Anders = {};   ///< of an option that is required: the one that may stand in its place
 };
 
 /// In the order of Optie.
@@ -173,6 +181,11 @@ inline constexpr std::array Opties = {
                "schrijft van elk project NAAM.prn en NAAM.json in deze map, die zo nodig wordt gemaakt"},
     OptieRegel{Optie::Taken, Bij({Opdracht::Reken}), "--taken", "AANTAL", false,
                "rekent met --uit aan zoveel projecten tegelijk; zonder deze optie met alle processorkernen"},
+    OptieRegel{
+        Optie::Lijst, Bij({Opdracht::Reken, Opdracht::Controleer, Opdracht::Druk}), "--lijst", "BESTAND",
+        false,
+        "neemt ook de projecten en mappen waarvan de namen in dit bestand staan, elk op een regel of met "
+        "een NUL erachter; een - is de standaardinvoer"},
     OptieRegel{Optie::UitvoerToon, Bij({Opdracht::Toon, Opdracht::CatalogusToon, Opdracht::Overzicht}), "-o",
                "BESTAND", false, "schrijft naar dit bestand in plaats van naar de standaarduitvoer"},
     OptieRegel{Optie::UitvoerMaak, Bij({Opdracht::Maak, Opdracht::CatalogusMaak, Opdracht::CatalogusSorteer}),
@@ -214,6 +227,10 @@ inline constexpr std::array Opties = {
                "aantal schoepen"},
     OptieRegel{Optie::FanVermogen, Bij({Opdracht::SchatVentilator}), "--FanVermogen", "W", false,
                "asvermogen; bij 0 wordt het berekend met een rendement van 70 %"},
+    OptieRegel{Optie::JsonSchatting,
+               Bij({Opdracht::SchatBekleed, Opdracht::SchatKwartLambda, Opdracht::SchatPlenum,
+                    Opdracht::SchatKanaalwand, Opdracht::SchatVentilator}),
+               "--json", "", false, "geeft de schatting als JSON"},
     OptieRegel{Optie::Data, BijAlle, "--data", "MAP", false,
                "de map van murvane.set en de catalogi; zonder deze optie de huidige map als die een "
                "murvane.set heeft, anders de "
@@ -223,11 +240,20 @@ inline constexpr std::array Opties = {
                "punt|komma"},
     OptieRegel{Optie::Versie, BijAlle, "--versie,--version", "", false, "toont de versie van het programma"},
     OptieRegel{Optie::Help, BijAlle, "-h,--help", "", false, "toont deze hulp"},
-    OptieRegel{Optie::Pdf, Bij({Opdracht::Druk}), "--pdf", "BESTAND", true,
-               "het PDF-bestand dat wordt geschreven; een - is de standaarduitvoer"},
+    OptieRegel{Optie::Pdf,
+               Bij({Opdracht::Druk}),
+               "--pdf",
+               "BESTAND",
+               true,
+               "het PDF-bestand dat wordt geschreven; een - is de standaarduitvoer; alleen bij één project",
+               {},
+               "--uit"},
+    OptieRegel{Optie::UitDruk, Bij({Opdracht::Druk}), "--uit", "MAP", false,
+               "schrijft van elk project NAAM.pdf in deze map, die zo nodig wordt gemaakt"},
     OptieRegel{
         Optie::Bmp, Bij({Opdracht::Druk}), "--bmp", "BESTAND.bmp", false,
-        "schrijft ook de eerste vijf pagina's als bitmap, met het paginanummer voor de punt: BESTAND1.bmp"},
+        "schrijft ook de eerste vijf pagina's als bitmap, met het paginanummer voor de punt: BESTAND1.bmp; "
+        "alleen bij één project"},
     OptieRegel{Optie::Grafiek, Bij({Opdracht::Druk}), "--grafiek", "1m|galmveld|geen", false,
                "de grafiek onder het formulier; zonder deze optie geen", "1m|galmveld|geen"},
 };

@@ -1,9 +1,8 @@
 // The commands controleer, toon and maak.
 
-#include <ostream>
-
 #include "basis/bestand.h"
 #include "basis/fout.h"
+#include "cli/namen.h"
 #include "cli/opdrachten.h"
 #include "cli/uitvoer.h"
 #include "editor/validate.h"
@@ -15,11 +14,11 @@ namespace murvane {
 namespace {
 
 Uitslag Controleer(const std::string& naam, char decimaal, Kanalen& kanalen) {
-  return Bewaakt(naam, [&]() -> Uitslag {
-    Project project = LeesProjectVan(naam);
+  return Bewaakt(InvoerNaam(naam), [&]() -> Uitslag {
+    Project project = LeesGenoemd(naam, kanalen);
     if (const auto bevinding = CheckIt(project, InvoerVan(project, decimaal), decimaal))
-      return {status::Geweigerd, naam + ": " + NaarUtf8(bevinding->Melding)};
-    kanalen.uit << naam + ": in orde\n";
+      return {status::Geweigerd, InvoerNaam(naam) + ": " + NaarUtf8(bevinding->Melding)};
+    SchrijfUit(NaamInUitvoer(InvoerNaam(naam), kanalen) + ": in orde\n", kanalen);
     return {};
   });
 }
@@ -43,9 +42,9 @@ int VoerControleer(const Keuzes& keuzes, Kanalen& kanalen) {
 
 int VoerToon(const Keuzes& keuzes, Kanalen& kanalen) {
   const std::string& naam = keuzes.Bestanden.front();
-  const std::string uitvoer = keuzes.Waarde(Optie::UitvoerToon).value_or(std::string(Standaarduitvoer));
+  const std::string uitvoer = keuzes.Waarde(Optie::UitvoerToon).value_or(std::string(Standaardstroom));
   WeigerOverschrijven(naam, uitvoer);
-  SchrijfNaar(uitvoer, ProjectNaarJson(LeesProjectVan(naam)), kanalen);
+  SchrijfNaar(uitvoer, ProjectNaarJson(LeesProjectVan(naam, kanalen)), kanalen);
   return status::Klaar;
 }
 
@@ -54,8 +53,8 @@ int VoerMaak(const Keuzes& keuzes, Kanalen& kanalen) {
   const std::string uitvoer = *keuzes.Waarde(Optie::UitvoerMaak);
   WeigerOverschrijven(naam, uitvoer);
   const Project project = LeesProjectJson(naam);
-  if (uitvoer == Standaarduitvoer) {
-    kanalen.uit << OverBestand(naam, [&project] { return ProjectBytes(project); });
+  if (uitvoer == Standaardstroom) {
+    SchrijfUit(OverBestand(naam, [&project] { return ProjectBytes(project); }), kanalen);
   } else {
     SchrijfProject(project, PadVan(uitvoer));
   }

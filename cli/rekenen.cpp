@@ -1,18 +1,16 @@
 // The command reken: projects to reports, one after the other or as a batch.
 
-#include <algorithm>
-#include <cctype>
+#include <array>
 #include <filesystem>
-#include <map>
 #include <memory>
 #include <ostream>
-#include <system_error>
 #include <thread>
 
 #include "basis/bestand.h"
 #include "basis/fout.h"
+#include "cli/namen.h"
 #include "cli/opdrachten.h"
-#include "cli/ploeg.h"
+#include "cli/partij.h"
 #include "cli/uitvoer.h"
 #include "reports/resultaatjson.h"
 #include "shell/run.h"
@@ -32,9 +30,7 @@ struct Voorschrift {
 };
 
 Voorschrift VoorschriftVan(const Keuzes& keuzes) {
-  const auto& data = keuzes.Waarde(Optie::Data);
-  const fs::path map = data ? PadVan(*data) : StandaardDataMap();
-  return {LeesInstellingen(map / InstellingenNaam).Gebruikersnaam, Decimaalteken(keuzes)};
+  return {LeesInstellingen(Instellingenbestand(keuzes)).Gebruikersnaam, Decimaalteken(keuzes)};
 }
 
 /// Calculates project after project in the same buffers.
@@ -44,11 +40,11 @@ class Rekenaar {
 
   /// Reads, checks and calculates one project and hands it to `schrijf`.
   template <typename Schrijf>
-  Uitslag Doe(const std::string& naam, Schrijf schrijf) {
-    return Bewaakt(naam, [&]() -> Uitslag {
-      project_ = LeesProjectVan(naam);
+  Uitslag Doe(const std::string& naam, const Kanalen& kanalen, Schrijf schrijf) {
+    return Bewaakt(InvoerNaam(naam), [&]() -> Uitslag {
+      project_ = LeesGenoemd(naam, kanalen);
       if (const auto bevinding = Reken())
-        return {status::Geweigerd, naam + ": " + NaarUtf8(bevinding->Melding)};
+        return {status::Geweigerd, InvoerNaam(naam) + ": " + NaarUtf8(bevinding->Melding)};
       schrijf(*this);
       return {};
     });
@@ -77,27 +73,29 @@ class Rekenaar {
   Rapport rapport_;
 };
 
-void SchrijfBlokken(const Rapport& rapport, std::ostream& uit) {
+/// One report, headed by its file's name where there are more.
+void SchrijfRapport(const Rapport& rapport, const std::string& kop, Kanalen& kanalen) {
+  if (!kop.empty()) SchrijfUit("==> " + NaamInUitvoer(kop, kanalen) + " <==\r\n", kanalen);
   for (const std::string* blok : {&rapport.RapKop, &rapport.RapProject, &rapport.RapRuimte, &rapport.RapHoofd,
                                   &rapport.RapElementen, &rapport.RapResultaat})
-    uit << NaarUtf8(*blok);
+    SchrijfUit(NaarUtf8(*blok), kanalen);
 }
 
 /// Reports on standard output, or one project to the files of --prn and --json.
 int RekenAchtereen(const Keuzes& keuzes, Kanalen& kanalen) {
   const auto& prn = keuzes.Waarde(Optie::Prn);
   const auto& json = keuzes.Waarde(Optie::Json);
-  const auto schrijf = [&](const Rekenaar& rekenaar) {
-    const std::string prnBytes = prn ? rekenaar.Prn() : std::string();
-    const std::string jsonBytes = json ? rekenaar.Json() : std::string();
-    if (prn) SchrijfNaar(*prn, prnBytes, kanalen);
-    if (json) SchrijfNaar(*json, jsonBytes, kanalen);
-    if (!prn && !json) SchrijfBlokken(rekenaar.HetRapport(), kanalen.uit);
-  };
   Rekenaar rekenaar(VoorschriftVan(keuzes));
   int code = status::Klaar;
   for (const std::string& naam : keuzes.Bestanden) {
-    const Uitslag uitslag = rekenaar.Doe(naam, schrijf);
+    const Uitslag uitslag = rekenaar.Doe(naam, kanalen, [&](const Rekenaar& klaar) {
+      const std::string prnBytes = prn ? klaar.Prn() : std::string();
+      const std::string jsonBytes = json ? klaar.Json() : std::string();
+      if (prn) SchrijfNaar(*prn, prnBytes, kanalen);
+      if (json) SchrijfNaar(*json, jsonBytes, kanalen);
+      if (prn || json) return;
+      SchrijfRapport(klaar.HetRapport(), keuzes.Bestanden.size() > 1 ? InvoerNaam(naam) : "", kanalen);
+    });
     Meld(uitslag, kanalen);
     code = Zwaarste(code, uitslag.Status);
     if (!kanalen.uit) break;  // nobody can read the rest
@@ -105,96 +103,23 @@ int RekenAchtereen(const Keuzes& keuzes, Kanalen& kanalen) {
   return code;
 }
 
-/// "NAME.mrv" of any directory gives "NAME" in the directory of the reports.
-fs::path Basisnaam(const std::string& project) {
-  return PadVan(project).stem();
-}
-
-/// A key by which names that the file system takes for one are equal.
-std::string Sleutel(const fs::path& naam) {
-  std::string sleutel = PadTekst(naam);
-#ifdef _WIN32
-  std::transform(sleutel.begin(), sleutel.end(), sleutel.begin(), [](unsigned char c) {
-    return c < 0x80 ? static_cast<char>(std::tolower(c)) : static_cast<char>(c);
-  });
-#endif
-  return sleutel;
-}
-
-void WeigerGelijkeNamen(const std::vector<std::string>& projecten) {
-  std::map<std::string, std::string> eerder;
-  for (const std::string& project : projecten) {
-    const auto [plaats, nieuw] = eerder.emplace(Sleutel(Basisnaam(project)), project);
-    if (nieuw) continue;
-    const std::string naam = PadTekst(Basisnaam(project));
-    std::string melding = plaats->second;
-    melding.append(" en ")
-        .append(project)
-        .append(" geven allebei ")
-        .append(naam)
-        .append(".prn en ")
-        .append(naam);
-    throw Gebruiksfout(melding + ".json; geef ze verschillende namen of een eigen map.");
-  }
-}
-
-void MaakMap(const fs::path& map) {
-  std::error_code code;
-  fs::create_directories(map, code);
-  if (!code && fs::is_directory(map, code)) return;
-  FoutNummer nummer = FoutNummer::PadToegang;
-  if (code == std::errc::permission_denied || code == std::errc::operation_not_permitted)
-    nummer = FoutNummer::GeenToestemming;
-  if (code == std::errc::no_space_on_device) nummer = FoutNummer::SchijfVol;
-  if (code == std::errc::filename_too_long) nummer = FoutNummer::OngeldigeBestandsnaam;
-  throw Fout(nummer).MetBestand(PadTekst(map));
-}
-
-/// The line "12/1000" on a terminal; messages take its place for as long as they are written.
-class Voortgang {
- public:
-  Voortgang(std::size_t totaal, Kanalen& kanalen) : totaal_(std::to_string(totaal)), kanalen_(kanalen) {}
-  void Toon(std::size_t gedaan) {
-    if (kanalen_.Terminal) kanalen_.err << "\r" + std::to_string(gedaan) + "/" + totaal_ << std::flush;
-  }
-  void Wis() {
-    if (kanalen_.Terminal)
-      kanalen_.err << "\r" + std::string(2 * totaal_.size() + 1, ' ') + "\r" << std::flush;
-  }
-
- private:
-  std::string totaal_;
-  Kanalen& kanalen_;
-};
-
 /// Every project to NAME.prn and NAME.json in one directory.
 int RekenNaarMap(const Keuzes& keuzes, Kanalen& kanalen) {
-  WeigerGelijkeNamen(keuzes.Bestanden);
+  static constexpr std::array<std::string_view, 2> Extensies = {".prn", ".json"};
+  const unsigned taken = keuzes.Heeft(Optie::Taken) ? keuzes.Taken() : std::thread::hardware_concurrency();
+  const Partij partij{*keuzes.Waarde(Optie::Uit), Extensies, taken};
+  ControleerPartij(keuzes, partij, PlanVan(keuzes));
   const Voorschrift voorschrift = VoorschriftVan(keuzes);
-  const fs::path map = PadVan(*keuzes.Waarde(Optie::Uit));
-  MaakMap(map);
-  const auto nieuwWerk = [&]() -> Werk {
-    return [&, rekenaar = std::make_shared<Rekenaar>(voorschrift)](std::size_t i) {
-      return rekenaar->Doe(keuzes.Bestanden[i], [&](const Rekenaar& klaar) {
-        const fs::path doel = map / Basisnaam(keuzes.Bestanden[i]);
-        VervangBestand(fs::path(doel) += ".prn", klaar.Prn());
-        VervangBestand(fs::path(doel) += ".json", klaar.Json());
+  const auto nieuwWerk = [&]() -> Partijwerk {
+    return [&, rekenaar = std::make_shared<Rekenaar>(voorschrift)](const std::string& naam,
+                                                                   const fs::path& doel) {
+      return rekenaar->Doe(naam, kanalen, [&](const Rekenaar& klaar) {
+        VervangBestand(fs::path(doel) += Extensies[0], klaar.Prn());
+        VervangBestand(fs::path(doel) += Extensies[1], klaar.Json());
       });
     };
   };
-  int code = status::Klaar;
-  std::size_t gedaan = 0;
-  Voortgang voortgang(keuzes.Bestanden.size(), kanalen);
-  const auto meld = [&](const Uitslag& uitslag) {
-    if (!uitslag.Melding.empty()) voortgang.Wis();
-    Meld(uitslag, kanalen);
-    code = Zwaarste(code, uitslag.Status);
-    voortgang.Toon(++gedaan);
-  };
-  const unsigned taken = keuzes.Heeft(Optie::Taken) ? keuzes.Taken() : std::thread::hardware_concurrency();
-  VerdeelWerk(keuzes.Bestanden.size(), taken, nieuwWerk, meld);
-  voortgang.Wis();
-  return code;
+  return VoerPartij(keuzes, partij, nieuwWerk, kanalen);
 }
 
 void ControleerSamenhang(const Keuzes& keuzes) {
@@ -204,14 +129,16 @@ void ControleerSamenhang(const Keuzes& keuzes) {
   if (enkel && keuzes.Heeft(Optie::Uit)) throw Gebruiksfout("--prn en --json gaan niet samen met --uit.");
   if (enkel && keuzes.Bestanden.size() > 1)
     throw Gebruiksfout("--prn en --json zijn er voor één project; gebruik --uit MAP voor meer projecten.");
-  if (prn && json && *prn == Standaarduitvoer && *json == Standaarduitvoer)
+  if (prn && json && *prn == Standaardstroom && *json == Standaardstroom)
     throw Gebruiksfout("--prn en --json kunnen niet allebei naar de standaarduitvoer.");
   if (prn && json && ZelfdeBestand(*prn, *json))
     throw Gebruiksfout("--prn en --json noemen hetzelfde bestand.");
   if (keuzes.Heeft(Optie::Taken) && !keuzes.Heeft(Optie::Uit))
     throw Gebruiksfout("--taken gaat alleen samen met --uit.");
+  Bestandenplan plan = PlanVan(keuzes);
+  plan.Leest(keuzes.Bestanden.front());
   for (const auto& uitvoer : {prn, json})
-    if (uitvoer) WeigerOverschrijven(keuzes.Bestanden.front(), *uitvoer);
+    if (uitvoer) plan.Schrijft(*uitvoer);
 }
 
 }  // namespace

@@ -1,12 +1,13 @@
 // The commands schat ...: the estimators, and the prognosis of a fan.
 
 #include <array>
-#include <ostream>
+#include <charconv>
 #include <span>
 #include <stdexcept>
 #include <string_view>
 #include <variant>
 
+#include "basis/json.h"
 #include "basis/tekst.h"
 #include "cli/opdrachten.h"
 #include "editor/fantab.h"
@@ -81,26 +82,63 @@ SchatInvoer InvoerVan(const Keuzes& keuzes, Schatter soort, char decimaal) {
 }
 
 template <typename Waarden>
-void SchrijfRegels(std::string_view naam, const Waarden& waarden, std::ostream& uit) {
-  uit << NaarUtf8(naam);
+std::string Regels(std::string_view naam, const Waarden& waarden) {
+  std::string uit = NaarUtf8(naam);
   char scheiding = '\n';
   for (const std::string& waarde : waarden) {
-    uit << scheiding << waarde;
+    uit.append(1, scheiding).append(waarde);
     scheiding = ' ';
   }
-  uit << '\n';
+  return uit + '\n';
 }
 
-int Weiger(std::string_view melding, Kanalen& kanalen) {
-  Meld({status::Geweigerd, NaarUtf8(melding)}, kanalen);
-  return status::Geweigerd;
+/// The whole decibels of an estimate as numbers.
+std::array<double, Banden> Getallen(const std::array<std::string, Banden>& teksten) {
+  std::array<double, Banden> uit{};
+  for (std::size_t i = 0; i < uit.size(); ++i)
+    std::from_chars(teksten[i].data(), teksten[i].data() + teksten[i].size(), uit[i]);
+  return uit;
 }
 
-/// Does an estimate; a value that its field refuses ends it as a refusal.
+std::string SchattingNaarJson(const Schatting& schatting, Schatter soort) {
+  JsonSchrijver json;
+  json.BeginObject();
+  json.Veld("Omschrijving", std::string_view(schatting.Omschrijving));
+  json.Veld(soort == Schatter::Kanaalwand ? "Isolatie" : "Demping", Getallen(schatting.Demping));
+  json.EindObject();
+  return std::move(json).Klaar();
+}
+
+std::string FanNaarJson(const FanRec& fan) {
+  JsonSchrijver json;
+  json.BeginObject();
+  json.Veld("FanNaam", fan.FanNaam).Veld("Lw", fan.Lw);
+  json.EindObject();
+  return std::move(json).Klaar();
+}
+
+/// A refusal of the estimator: its message, and which option it is about.
+[[noreturn]] void Weiger(std::string_view melding, Optie optie, const Keuzes& keuzes) {
+  const OptieRegel& regel = RegelVan(optie);
+  const auto& waarde = keuzes.Waarde(optie);
+  throw Veldfout(NaarUtf8(melding) + ": " + std::string(EersteNaam(regel)) + " " +
+                 (waarde ? *waarde : "ontbreekt") + " (" + std::string(regel.Uitleg) + ")");
+}
+
+/// The option of the field that an estimator sends the user to.
+Optie OptieVan(std::string_view veld, Schatter soort) {
+  const std::span<const SchatVeld> velden = VensterVan(soort).Velden;
+  std::size_t i = 0;
+  while (i + 1 < velden.size() && velden[i].Regel.Naam != veld) ++i;
+  return OptiesVan(soort)[i];
+}
+
+/// Shows an estimate; a value that is refused ends it as a refusal.
 template <typename Werk>
 int Schat(Kanalen& kanalen, Werk werk) {
   try {
-    return werk();
+    SchrijfUit(werk(), kanalen);
+    return status::Klaar;
   } catch (const Veldfout& fout) {
     Meld({status::Geweigerd, fout.what()}, kanalen);
     return status::Geweigerd;
@@ -114,19 +152,21 @@ std::array<std::string, FanVakken> FanTeksten(const Keuzes& keuzes) {
 }
 
 /// A refusal of the fan tab: a box, or else a field that is red.
-int Weiger(const FanUitslag& uitslag, Kanalen& kanalen) {
-  if (uitslag.Box) return Weiger(uitslag.Box->Tekst, kanalen);
+void EisPrognose(const FanUitslag& uitslag, const Keuzes& keuzes) {
+  if (uitslag.Box) {
+    const auto vak = static_cast<std::size_t>(uitslag.Focus ? uitslag.Focus->Index : 0);
+    Weiger(uitslag.Box->Tekst, uitslag.Focus ? FanOpties.at(vak) : Optie::FanType, keuzes);
+  }
+  if (!uitslag.Focus) return;
   for (std::size_t i = 0; i < uitslag.Velden.size(); ++i)
     EisGeldig(uitslag.Velden[i].Geldig, FanOpties[i], uitslag.Velden[i].ToolTip);
-  return status::Klaar;
 }
 
-void SchrijfFan(const Project& project, const FanUitslag& uitslag, char decimaal, std::ostream& uit) {
+std::string FanRegels(const Project& project, const FanUitslag& uitslag, char decimaal) {
   std::array<std::string, Banden> Lw;
   for (int band = 0; band < Banden; ++band)
     Lw[static_cast<std::size_t>(band)] = HerstelTekst(project, 0, {"txtLw", band}, decimaal);
-  SchrijfRegels(project.Fan.FanNaam.Getrimd(), Lw, uit);
-  uit << NaarUtf8(uitslag.lblLwA.value_or("")) << '\n';
+  return Regels(project.Fan.FanNaam.Getrimd(), Lw) + NaarUtf8(uitslag.lblLwA.value_or("")) + '\n';
 }
 
 }  // namespace
@@ -136,10 +176,10 @@ int VoerSchat(const Keuzes& keuzes, Schatter soort, Kanalen& kanalen) {
     const char decimaal = Decimaalteken(keuzes);
     const SchatUitslag uitslag = cmdOK_Click(InvoerVan(keuzes, soort, decimaal), soort, decimaal);
     if (const auto* const weigering = std::get_if<Weigering>(&uitslag))
-      return Weiger(weigering->Melding, kanalen);
+      Weiger(weigering->Melding, OptieVan(weigering->Veld, soort), keuzes);
     const auto& schatting = std::get<Schatting>(uitslag);
-    SchrijfRegels(schatting.Omschrijving, schatting.Demping, kanalen.uit);
-    return status::Klaar;
+    return keuzes.Heeft(Optie::JsonSchatting) ? SchattingNaarJson(schatting, soort)
+                                              : Regels(schatting.Omschrijving, schatting.Demping);
   });
 }
 
@@ -149,9 +189,9 @@ int VoerSchatVentilator(const Keuzes& keuzes, Kanalen& kanalen) {
     Project project;
     project.Fan.FanType = KeuzeVan(keuzes, Optie::FanType);
     const FanUitslag uitslag = cmdFanOK_Click(project, FanTeksten(keuzes), decimaal);
-    if (uitslag.Box || uitslag.Focus) return Weiger(uitslag, kanalen);
-    SchrijfFan(project, uitslag, decimaal, kanalen.uit);
-    return status::Klaar;
+    EisPrognose(uitslag, keuzes);
+    return keuzes.Heeft(Optie::JsonSchatting) ? FanNaarJson(project.Fan)
+                                              : FanRegels(project, uitslag, decimaal);
   });
 }
 

@@ -14,10 +14,15 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <csignal>
 #endif
 
+#include <algorithm>
 #include <ctime>
+#include <iostream>
+
+#include "basis/fout.h"
 
 namespace murvane {
 
@@ -53,13 +58,26 @@ std::vector<std::string> Argumenten(int, char**) {
 }
 
 void BereidUitvoerVoor() {
+  _setmode(_fileno(stdin), _O_BINARY);
   _setmode(_fileno(stdout), _O_BINARY);
   SetConsoleOutputCP(CP_UTF8);
 }
 
-bool FoutuitvoerIsTerminal() {
-  return _isatty(_fileno(stderr)) != 0;
+namespace {
+
+constexpr int Invoernummer = 0;
+constexpr int Uitvoernummer = 1;
+constexpr int Foutnummer = 2;
+
+bool IsTerminal(int nummer) {
+  return _isatty(nummer) != 0;
 }
+
+int Lees(char* naar, std::size_t n) {
+  return _read(Invoernummer, naar, static_cast<unsigned>(n));
+}
+
+}  // namespace
 
 #else
 
@@ -78,10 +96,46 @@ void BereidUitvoerVoor() {
   (void)std::signal(SIGXFSZ, SIG_IGN);
 }
 
-bool FoutuitvoerIsTerminal() {
-  return ::isatty(STDERR_FILENO) == 1;
+namespace {
+
+constexpr int Uitvoernummer = STDOUT_FILENO;
+constexpr int Foutnummer = STDERR_FILENO;
+
+bool IsTerminal(int nummer) {
+  return ::isatty(nummer) == 1;
 }
 
+ssize_t Lees(char* naar, std::size_t n) {
+  for (;;) {
+    const ssize_t gelezen = ::read(STDIN_FILENO, naar, n);
+    if (gelezen >= 0 || errno != EINTR) return gelezen;
+  }
+}
+
+}  // namespace
+
 #endif
+
+namespace {
+
+std::string LeesInvoer(std::size_t hoogstens) {
+  constexpr std::size_t Brok = std::size_t{1} << 16;
+  std::string uit;
+  while (uit.size() < hoogstens) {
+    const std::size_t had = uit.size();
+    uit.resize(had + std::min(Brok, hoogstens - had));
+    const auto n = Lees(uit.data() + had, uit.size() - had);
+    if (n < 0) throw Fout(FoutNummer::PadToegang).MetBestand("standaardinvoer");
+    uit.resize(had + static_cast<std::size_t>(n));
+    if (n == 0) break;
+  }
+  return uit;
+}
+
+}  // namespace
+
+Kanalen Systeemkanalen() {
+  return {std::cout, std::cerr, IsTerminal(Foutnummer), IsTerminal(Uitvoernummer), LeesInvoer};
+}
 
 }  // namespace murvane

@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "cli/uitslag.h"
+
 namespace murvane {
 
 /// The arguments behind the program's name, as UTF-8 where the system has its own form for them.
@@ -17,7 +19,7 @@ void BereidUitvoerVoor();
 /// The date of the system's clock in its time zone.
 [[nodiscard]] std::chrono::year_month_day Vandaag();
 
-/// Whether standard error is a terminal.
-[[nodiscard]] bool FoutuitvoerIsTerminal();
+/// The channels of the process.
+[[nodiscard]] Kanalen Systeemkanalen();
 
 }  // namespace murvane

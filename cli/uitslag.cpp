@@ -4,6 +4,7 @@
 #include <ostream>
 
 #include "basis/fout.h"
+#include "basis/stuurtekens.h"
 
 namespace murvane {
 
@@ -26,10 +27,23 @@ int Zwaarste(int een, int ander) {
   return een == status::Klaar ? ander : een;
 }
 
+void SchrijfUit(std::string_view bytes, Kanalen& kanalen) {
+  if (kanalen.UitTerminal) {
+    constexpr std::string_view CrLf = "\r\n";
+    kanalen.uit << Toonbaar(bytes, bytes.find(CrLf) == std::string_view::npos ? "\n" : CrLf);
+  } else {
+    kanalen.uit << bytes;
+  }
+}
+
+std::string NaamInUitvoer(const std::string& naam, const Kanalen& kanalen) {
+  return kanalen.UitTerminal ? Toonbaar(naam) : naam;
+}
+
 void Meld(const Uitslag& uitslag, Kanalen& kanalen) {
   if (uitslag.Melding.empty()) return;
   kanalen.uit.flush();  // on a terminal both stand in the order in which they came about
-  kanalen.err << uitslag.Melding + "\n" << std::flush;
+  kanalen.err << Toonbaar(uitslag.Melding) + "\n" << std::flush;
 }
 
 }  // namespace murvane

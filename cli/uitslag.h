@@ -1,9 +1,12 @@
 #pragma once
-// How a command, or its work on one file, ended: exit status and message.
+// How a command, or its work on one file, ended: exit status and message; and the channels that it has.
 
+#include <cstddef>
+#include <functional>
 #include <iosfwd>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 
 namespace murvane {
 
@@ -47,10 +50,19 @@ template <typename Werk>
 struct Kanalen {
   std::ostream& uit;
   std::ostream& err;
-  bool Terminal = false;  ///< err is a terminal: progress is shown there
+  bool Terminal = false;     ///< err is a terminal: progress is shown there
+  bool UitTerminal = false;  ///< uit is one: what would act on it is shown instead
+  /// Reads at most so many bytes of standard input; Fout 75 when it cannot be read. Empty: there is none.
+  std::function<std::string(std::size_t hoogstens)> Invoer = {};
 };
 
-/// Writes the message, if any, as a line to err, behind what already stands in uit.
+/// Writes a result (UTF-8 or bytes), whole lines of it, to uit: as it is, but on a terminal as Toonbaar shows
+/// it. Its line ends are "\r\n" when it has one of those, else "\n".
+void SchrijfUit(std::string_view bytes, Kanalen& kanalen);
+/// A name within such a result: on a terminal it has no line ends either.
+[[nodiscard]] std::string NaamInUitvoer(const std::string& naam, const Kanalen& kanalen);
+
+/// Writes the message, if any, as a line to err, behind what already stands in uit, as Toonbaar shows it.
 void Meld(const Uitslag& uitslag, Kanalen& kanalen);
 
 }  // namespace murvane

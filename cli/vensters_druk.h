@@ -5,8 +5,8 @@
 
 namespace murvane {
 
-/// Checks and calculates a project and writes its form as PDF and, if asked, its pages as bitmaps. Needs an
-/// application object of the toolkit.
+/// Checks and calculates projects and writes the form of each as PDF and, if asked of a single one, its pages
+/// as bitmaps. Needs an application object of the toolkit.
 [[nodiscard]] int VoerDruk(const Keuzes& keuzes, Kanalen& kanalen);
 
 }  // namespace murvane

@@ -26,7 +26,7 @@ int main(int argc, char** argv) {
       const QApplication toepassing(een, naam);
       return murvane::VoerDruk(keuzes, kanalen);
     };
-    return murvane::VoerProgrammaUit(murvane::Opdracht::Druk, argumenten, std::cout, std::cerr, voer);
+    return murvane::VoerProgrammaUit(murvane::Opdracht::Druk, argumenten, murvane::Systeemkanalen(), voer);
   } catch (const std::exception&) {
     std::cerr << "murvane-druk: onverwachte fout\n";
     return 1;

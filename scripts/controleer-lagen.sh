@@ -49,4 +49,7 @@ if grep -nE '^#include <Q' $kern; then meld "De kern gebruikt geen vensterbiblio
 if grep -nE '\b(setlocale|strtod|atof|stod|sscanf|s?n?printf)\(' $kern; then
   meld "De kern rekent getallen alleen om met basis/getal en std::to_chars en std::from_chars."
 fi
+if grep -nE 'kanalen\.uit +<<' cli/*.cpp | grep -v '^cli/uitslag\.cpp:'; then
+  meld "Een resultaat gaat door SchrijfUit, dat op een terminal de stuurtekens toont."
+fi
 exit $fouten

@@ -2,13 +2,14 @@
 
 #include <ostream>
 
+#include "basis/stuurtekens.h"
 #include "basis/tekst.h"
 
 namespace murvane {
 
 void StilleDialogen::Schrijf(std::string_view titel, std::string_view tekst) {
   gevraagd_ = true;
-  uit_ << NaarUtf8(titel) << ": " << NaarUtf8(tekst) << '\n';
+  uit_ << Toonbaar(NaarUtf8(titel)) << ": " << Toonbaar(NaarUtf8(tekst), "\n") << '\n';
 }
 
 Antwoord StilleDialogen::Toon(const Melding& melding) {

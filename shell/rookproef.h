@@ -15,8 +15,8 @@ inline constexpr const char* RookproefVariabele = "MURVANE_ROOKPROEF";
   return waarde == "1";
 }
 
-/// Dialogs that nobody answers: each is written as one line (UTF-8) and taken as cancelled, so that whatever
-/// asked gives up.
+/// Dialogs that nobody answers: each is written as one line (UTF-8, as Toonbaar shows it) and taken as
+/// cancelled, so that whatever asked gives up.
 class StilleDialogen final : public Dialogen {
  public:
   explicit StilleDialogen(std::ostream& uit) : uit_(uit) {}

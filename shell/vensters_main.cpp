@@ -4,13 +4,17 @@
 #include <QEvent>
 #include <QLocale>
 #include <QScreen>
+#include <algorithm>
 #include <chrono>
 #include <filesystem>
 #include <iostream>
 #include <optional>
+#include <string>
 #include <system_error>
+#include <vector>
 
 #include "basis/bestand.h"
+#include "basis/fout.h"
 #include "basis/vensters_stijl.h"
 #include "editor/vensters_dialogen.h"
 #include "shell/MDIMurvane.h"
@@ -18,6 +22,7 @@
 #include "shell/frmSplashII.h"
 #include "shell/hoofdvenster.h"
 #include "shell/opstart.h"
+#include "shell/programmahulp.h"
 #include "shell/rookproef.h"
 #include "shell/startup.h"
 #include "shell/vensters_taal.h"
@@ -85,7 +90,22 @@ int Draai(murvane::Dialogen& dialogen, const murvane::StartGegevens& start, bool
 
 }  // namespace
 
+namespace {
+
+/// Answers a command line that asks the program to tell something; its exit status. Without a display.
+std::optional<int> Antwoord(const std::vector<std::string>& argumenten) {
+  const auto antwoord = murvane::ProgrammaAntwoord(argumenten);
+  if (!antwoord) return std::nullopt;
+  if (std::cout << *antwoord << std::flush) return 0;
+  const murvane::Fout fout(murvane::FoutNummer::SchijfVol, "Schijf vol of uitvoer gesloten");
+  std::cerr << "standaarduitvoer: " << fout.Melding() << '\n';
+  return 1;
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
+  if (const auto status = Antwoord({argv + std::min(argc, 1), argv + argc})) return *status;
   const char decimaal = murvane::RegionaalDecimaalteken();
   murvane::Toepassing toepassing(argc, argv);
   QApplication::setApplicationName("MurVane");

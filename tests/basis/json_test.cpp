@@ -240,6 +240,26 @@ TEST(LeesJson, RefusesDoubledKeysDepthAndOverflowWithTheirPath) {
   EXPECT_EQ(MeldingVan([&] { (void)LeesJson(std::string(16, '[') + std::string(16, ']')); }), "");
 }
 
+// Keys are compared when their object ends; what is told is still the first thing that was wrong.
+TEST(LeesJson, TellsOfTheFirstDoubledKeyAndBeforeWhateverComesBehindIt) {
+  const struct {
+    std::string json;
+    const char* melding;
+  } rijen[] = {
+      {R"({"b": 1, "a": 1, "b": 2, "a": 2, "a": 3})", "Fout 5 - Dubbele sleutel \"b\"."},
+      {R"({"a": 1, "a": 2, "c": ,})", "Fout 5 - Dubbele sleutel \"a\"."},
+      {R"({"a": 1, "a": 2)", "Fout 5 - Dubbele sleutel \"a\"."},
+      {R"({"a": 1, "a": 1e400})", "Fout 5 - Dubbele sleutel \"a\"."},
+      {R"({"a": 1, "a": )" + std::string(17, '['), "Fout 5 - Dubbele sleutel \"a\"."},
+      {R"({"a": 1, "a": {"b": 1, "b": 2}})", "Fout 5 - Dubbele sleutel \"a\"."},
+      {R"({"a": {"b": 1, "b": 2}, "a": 1})", "Fout 5 - Dubbele sleutel \"b\" (a)."},
+      {R"({"x": {"a": [0, {"b": 1, "c": {}, "b": {"d": 1e400}}]}})",
+       "Fout 5 - Dubbele sleutel \"b\" (x.a[2])."},
+  };
+  for (const auto& rij : rijen)
+    EXPECT_EQ(MeldingVan([&] { (void)LeesJson(rij.json); }), rij.melding) << rij.json;
+}
+
 TEST(LeesJson, TheSameKeyMayStandInTwoObjects) {
   EXPECT_EQ(MeldingVan([] { (void)LeesJson(R"([{"a": {"a": 1}}, {"a": 2}])"); }), "");
 }

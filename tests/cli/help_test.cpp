@@ -188,7 +188,8 @@ TEST(Help, RequiredOptionsStandInTheUsageLine) {
 
 TEST(Help, OfTheProgramThatPrintsNamesItAndItsOptions) {
   const std::string tekst = HelpTekst(Opdracht::Druk);
-  EXPECT_THAT(tekst, HasSubstr("Gebruik: murvane-druk PROJECT.mrv --pdf BESTAND [OPTIES]\n"));
+  EXPECT_THAT(tekst,
+              HasSubstr("Gebruik: murvane-druk PROJECT.mrv... (--pdf BESTAND | --uit MAP) [OPTIES]\n"));
   for (const Optie optie :
        {Optie::Pdf, Optie::Bmp, Optie::Grafiek, Optie::Data, Optie::Decimaal, Optie::Help})
     EXPECT_THAT(Vloeiend(tekst), HasSubstr(std::string(RegelVan(optie).Uitleg)));

@@ -99,18 +99,30 @@ struct Afloop {
   std::string Uit, Err;
 };
 
-inline Afloop Draai(const std::vector<std::string>& argumenten, bool terminal = false) {
+/// How a command line is run: what its channels are, and what stands on standard input.
+struct Omstandigheid {
+  bool Terminal = false;
+  bool UitTerminal = false;
+  std::string Invoer = {};
+};
+
+inline Kanalen KanalenVan(std::ostream& uit, std::ostream& err, const Omstandigheid& hoe) {
+  return {uit, err, hoe.Terminal, hoe.UitTerminal,
+          [hoe](std::size_t hoogstens) { return hoe.Invoer.substr(0, hoogstens); }};
+}
+
+inline Afloop Draai(const std::vector<std::string>& argumenten, const Omstandigheid& hoe = {}) {
   std::ostringstream uit;
   std::ostringstream err;
-  const int code = VoerOpdrachtUit(argumenten, uit, err, terminal);
+  const int code = VoerOpdrachtUit(argumenten, KanalenVan(uit, err, hoe));
   return {code, uit.str(), err.str()};
 }
 
 /// `reken` with the settings of the directory and a fixed decimal sign.
-inline Afloop Reken(const Proefmap& map, std::vector<std::string> argumenten, bool terminal = false) {
+inline Afloop Reken(const Proefmap& map, std::vector<std::string> argumenten, const Omstandigheid& hoe = {}) {
   argumenten.insert(argumenten.begin(), "reken");
   argumenten.insert(argumenten.end(), {"--data", map.Naam(), "--decimaal", "komma"});
-  return Draai(argumenten, terminal);
+  return Draai(argumenten, hoe);
 }
 
 /// Accepts nothing, as a full disk or a closed pipe.

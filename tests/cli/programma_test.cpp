@@ -4,8 +4,13 @@
 
 #ifndef _WIN32
 
+#include <fcntl.h>
+#include <pty.h>
 #include <sys/wait.h>
+#include <termios.h>
+#include <unistd.h>
 
+#include <array>
 #include <cstdlib>
 
 #include "tests/cli/hulp.h"
@@ -81,6 +86,60 @@ TEST(Programma, PrnOnStandardOutputIsBytes) {
   map.Zet(GoedProject("Café"_cp), "a.mrv");
   EXPECT_EQ(Shell(map, "\"$CLI\" reken a.mrv --prn - --decimaal komma >uit"), 0);
   EXPECT_EQ(map.Lees("uit"), Reken(map, {map / "a.mrv", "--prn", "-"}).Uit);
+}
+
+/// What a shell line writes to standard output when that is a terminal.
+std::string OpTerminal(const Proefmap& map, const std::string& regel) {
+  int meester = -1;
+  int slaaf = -1;
+  termios rauw{};
+  ::cfmakeraw(&rauw);  // bytes as they are: the terminal adds no signs of its own
+  EXPECT_EQ(::openpty(&meester, &slaaf, nullptr, &rauw, nullptr), 0);
+  const std::string naam = ::ttyname(slaaf);
+  std::string uit;
+  const pid_t kind = ::fork();
+  if (kind == 0) {
+    ::close(meester);
+    ::_exit(Shell(map, "(" + regel + ") >" + naam));
+  }
+  ::close(slaaf);
+  std::array<char, 4096> stuk{};
+  for (ssize_t n = 0; (n = ::read(meester, stuk.data(), stuk.size())) > 0;)
+    uit.append(stuk.data(), static_cast<std::size_t>(n));
+  ::close(meester);
+  int status = 0;
+  EXPECT_EQ(::waitpid(kind, &status, 0), kind);
+  EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << status;
+  return uit;
+}
+
+// A name out of a project reached the terminal raw: it could set its title, or its answers.
+TEST(Programma, ShowsControlCharactersOnATerminalAndLeavesThemInAPipe) {
+  const Proefmap map;
+  map.Zet(GoedProject("A\x1b]0;x\x07\x8d"), "a.mrv");
+  const std::string regel = "\"$CLI\" reken a.mrv --decimaal komma";
+  const Omstandigheid terminal{.UitTerminal = true};
+  EXPECT_EQ(OpTerminal(map, regel), Reken(map, {map / "a.mrv"}, terminal).Uit);
+  EXPECT_EQ(OpTerminal(map, regel).find('\x1b'), std::string::npos);
+  EXPECT_EQ(Shell(map, regel + " | cat >uit"), 0);
+  EXPECT_EQ(map.Lees("uit"), Reken(map, {map / "a.mrv"}).Uit);
+  EXPECT_NE(map.Lees("uit").find("A\x1b]0;x\x07\u008d"), std::string::npos);
+  EXPECT_EQ(OpTerminal(map, "\"$CLI\" controleer $(printf 'weg\\033.mrv') 2>err || true"), "");
+  EXPECT_EQ(map.Lees("err"), "weg\\x1b.mrv: Fout 53 - Bestand niet gevonden.\n");
+}
+
+TEST(Programma, ReadsStandardInput) {
+  const Proefmap map;
+  map.Zet(GoedProject(), "a.mrv");
+  map.Zet(GoedProject(), "b é.mrv");
+  EXPECT_EQ(Shell(map, "cat a.mrv | \"$CLI\" reken - --decimaal komma >uit"), 0);
+  EXPECT_EQ(map.Lees("uit"), Reken(map, {map / "a.mrv"}).Uit);
+  EXPECT_EQ(Shell(map, "find . -name '*.mrv' -print0 | sort -z | \"$CLI\" controleer --lijst - >uit"), 0);
+  EXPECT_EQ(map.Lees("uit"), "./a.mrv: in orde\n./b é.mrv: in orde\n");
+  EXPECT_EQ(Shell(map, "\"$CLI\" toon - <&- 2>err"), 1);
+  EXPECT_EQ(map.Lees("err"), "standaardinvoer: Fout 62 - Het bestand eindigt te vroeg.\n");
+  EXPECT_EQ(Shell(map, "\"$CLI\" toon - <. 2>err"), 1);
+  EXPECT_EQ(map.Lees("err"), "standaardinvoer: Fout 75 - Geen toegang tot het bestand of de map.\n");
 }
 
 }  // namespace

@@ -134,11 +134,11 @@ TEST(Maak, AFileThatIsFarTooLargeIsRefusedBeforeItFillsTheMemory) {
   for (const char* soort : {"", "catalogus"}) {
     std::vector<std::string> opdracht{"maak", naam, "-o", map / "uit.mrv"};
     if (*soort != '\0') opdracht.insert(opdracht.begin(), soort);
-    std::filesystem::resize_file(PadVan(naam), (std::uintmax_t{64} << 20) + 1);
+    std::filesystem::resize_file(PadVan(naam), (std::uintmax_t{16} << 20) + 1);
     const Afloop teGroot = Draai(opdracht);
     EXPECT_EQ(teGroot.Code, 1);
     EXPECT_EQ(teGroot.Err, naam + ": Fout 75 - Het bestand is te groot voor een project of catalogus.\n");
-    std::filesystem::resize_file(PadVan(naam), std::uintmax_t{64} << 20);
+    std::filesystem::resize_file(PadVan(naam), std::uintmax_t{16} << 20);
     EXPECT_THAT(Draai(opdracht).Err, Not(HasSubstr("te groot")));
   }
   EXPECT_FALSE(map.Heeft("uit.mrv"));

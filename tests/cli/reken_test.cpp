@@ -50,13 +50,19 @@ TEST(RekenOpdracht, PrintsTheSixBlocksAsUtf8WithTheirLineEnds) {
   EXPECT_THAT(afloop.Uit, HasSubstr("GELUIDSDRUKNIVEAU:"));
 }
 
-TEST(RekenOpdracht, PrintsOneProjectAfterTheOther) {
+/// What heads the report of one project among more.
+std::string Kop(const std::string& naam) {
+  return "==> " + naam + " <==\r\n";
+}
+
+TEST(RekenOpdracht, HeadsEachOfSeveralReportsByItsFile) {
   const Proefmap map;
   const Project een = GoedProject("Een");
   const Project drie = GoedProject("Drie", rekentype::Overspraak);
   const Afloop afloop = Reken(map, {map.Zet(een, "een.mrv"), map.Zet(drie, "drie.mrv")});
   EXPECT_EQ(afloop.Code, 0);
-  EXPECT_EQ(afloop.Uit, Kern(een).Blokken() + Kern(drie).Blokken());
+  EXPECT_EQ(afloop.Uit,
+            Kop(map / "een.mrv") + Kern(een).Blokken() + Kop(map / "drie.mrv") + Kern(drie).Blokken());
 }
 
 TEST(RekenOpdracht, TheDecimalSignIsTheOneAskedFor) {
@@ -157,7 +163,8 @@ TEST(RekenOpdracht, OneBadProjectDoesNotStopTheOthers) {
   const std::string twee = map.Zet(GoedProject("Twee"), "twee.mrv");
   const Afloop afloop = Reken(map, {een, leeg, weg, twee});
   EXPECT_EQ(afloop.Code, 1);
-  EXPECT_EQ(afloop.Uit, Kern(GoedProject("Een")).Blokken() + Kern(GoedProject("Twee")).Blokken());
+  EXPECT_EQ(afloop.Uit,
+            Kop(een) + Kern(GoedProject("Een")).Blokken() + Kop(twee) + Kern(GoedProject("Twee")).Blokken());
   EXPECT_EQ(afloop.Err,
             leeg + ": Geen kanaalelementen ingevoerd\n" + weg + ": Fout 53 - Bestand niet gevonden.\n");
   EXPECT_EQ(Reken(map, {een, leeg, twee}).Code, 2);
@@ -170,7 +177,8 @@ TEST(RekenOpdracht, NothingOfAnEarlierProjectIsLeftInALaterOne) {
   Project vreemd = GoedProject("Vreemd", 7);  // passes the checks and has only the first three blocks
   const std::string zeven = map.Zet(vreemd, "zeven.mrv");
   const std::string drie = map.Zet(GoedProject("Drie", rekentype::Overspraak), "drie.mrv");
-  EXPECT_EQ(Reken(map, {een, zeven}).Uit, Reken(map, {een}).Uit + Reken(map, {zeven}).Uit);
+  EXPECT_EQ(Reken(map, {een, zeven}).Uit,
+            Kop(een) + Reken(map, {een}).Uit + Kop(zeven) + Reken(map, {zeven}).Uit);
   EXPECT_THAT(Reken(map, {zeven}).Uit, Not(HasSubstr("octaafbanden")));
   EXPECT_EQ(Reken(map, {een, zeven, drie, "--uit", map / "u", "--taken", "1"}).Code, 0);
   EXPECT_EQ(map.Lees("u/zeven.json"), Reken(map, {zeven, "--json", "-"}).Uit);
@@ -259,7 +267,7 @@ TEST(Standaarduitvoer, ThatCannotBeWrittenIsFault61) {
     Dicht dicht;
     std::ostream uit(&dicht);
     std::ostringstream err;
-    EXPECT_EQ(VoerOpdrachtUit(argumenten, uit, err), 1) << argumenten[0];
+    EXPECT_EQ(VoerOpdrachtUit(argumenten, {uit, err}), 1) << argumenten[0];
     EXPECT_EQ(err.str(), "standaarduitvoer: Fout 61 - Schijf vol of uitvoer gesloten.\n");
   }
 }
@@ -271,7 +279,7 @@ TEST(Standaarduitvoer, AFaultOfItGoesBeforeARefusal) {
   std::ostringstream err;
   EXPECT_EQ(
       VoerOpdrachtUit({"controleer", map.Zet(GoedProject(), "a.mrv"), map.Zet(ZonderElementen(), "b.mrv")},
-                      uit, err),
+                      {uit, err}),
       1);
 }
 
@@ -322,7 +330,7 @@ class Partij : public testing::Test {
                bool terminal = false) {
     namen.insert(namen.end(), {"--uit", map_ / map});
     if (!taken.empty()) namen.insert(namen.end(), {"--taken", taken});
-    return Reken(map_, namen, terminal);
+    return Reken(map_, namen, {.Terminal = terminal});
   }
 
   Proefmap map_;

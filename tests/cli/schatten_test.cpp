@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <nlohmann/json.hpp>
+
 #include "tests/cli/hulp.h"
 
 namespace murvane::clitest {
@@ -96,17 +98,46 @@ struct Geweigerd {
   const char *regel, *err;
 };
 
-TEST(Schat, ARefusalIsStatus2WithItsMessage) {
+TEST(Schat, ARefusalIsStatus2WithItsMessageAndTheValueThatItIsAbout) {
   for (const Geweigerd& rij : std::initializer_list<Geweigerd>{
-           {"bekleed", "Geen geldige waarde(n) ingevuld\n"},
-           {"bekleed --h 500 --Dikte 250 --L 1", "Geen geldige waarde(n) ingevuld\n"},
-           {"bekleed --h 500 --Dikte 25 --L 0.04", "Geen geldige waarde(n) ingevuld\n"},
-           {"kwartlambda --h 200 --L 1 --S2 0.03", "Geen geldige waarde(n) ingevuld\n"},
-           {"plenum --Hdemper 600", "Geen geldige waarde(n) ingevuld\n"},
-           {"kanaalwand --KanaalType 2", "Geen dikte kanaalwand ingevuld\n"},
-           {"ventilator", "Geen geldende waarde ingevuld\n"},
-           {"ventilator --FanDebiet 1 --FanDruk 100", "Geen ventilatortype geselecteerd\n"},
-           {"ventilator --FanType 4 --FanDebiet 1 --FanDruk 100", "Geen ventilatortype geselecteerd\n"},
+           {"bekleed",
+            "Geen geldige waarde(n) ingevuld: --h ontbreekt (hoogte van het kanaal, of de diameter als het "
+            "rond is)\n"},
+           {"bekleed --h 0",
+            "Geen geldige waarde(n) ingevuld: --h 0 (hoogte van het kanaal, of de diameter als het rond "
+            "is)\n"},
+           {"bekleed --h 500",
+            "Geen geldige waarde(n) ingevuld: --Dikte ontbreekt (dikte van het bekledingsmateriaal)\n"},
+           {"bekleed --h 500 --Dikte 250 --L 1",
+            "Geen geldige waarde(n) ingevuld: --Dikte 250 (dikte van het bekledingsmateriaal)\n"},
+           {"bekleed --h 500 --Dikte 25 --L 0.04",
+            "Geen geldige waarde(n) ingevuld: --L 0.04 (lengte van het kanaal of de demper)\n"},
+           {"kwartlambda --h 200 --S2 1",
+            "Geen geldige waarde(n) ingevuld: --L ontbreekt (lengte van het kanaal of de demper)\n"},
+           {"kwartlambda --h 200 --L 1",
+            "Geen geldige waarde(n) ingevuld: --S2 ontbreekt (doorsnede van de demper)\n"},
+           {"kwartlambda --h 200 --L 1 --S2 0.03",
+            "Geen geldige waarde(n) ingevuld: --S2 0.03 (doorsnede van de demper)\n"},
+           {"plenum", "Geen geldige waarde(n) ingevuld: --Hdemper ontbreekt (hoogte van de plenumdemper)\n"},
+           {"plenum --Hdemper 600",
+            "Geen geldige waarde(n) ingevuld: --Bdemper ontbreekt (breedte van de plenumdemper)\n"},
+           {"plenum --Hdemper 600 --Bdemper 800 --L 1 --h 600",
+            "Geen geldige waarde(n) ingevuld: --h 600 (hoogte van het kanaal, of de diameter als het rond "
+            "is)\n"},
+           {"plenum --Hdemper 600 --Bdemper 800 --L 1 --h 200 --B 900",
+            "Geen geldige waarde(n) ingevuld: --B 900 (breedte van het kanaal; 0 is een rond kanaal)\n"},
+           {"plenum --Hdemper 600 --Bdemper 800 --L 1 --h 200",
+            "Geen geldige waarde(n) ingevuld: --Dikte ontbreekt (dikte van het bekledingsmateriaal)\n"},
+           {"kanaalwand --KanaalType 2",
+            "Geen dikte kanaalwand ingevuld: --Dikte ontbreekt (dikte van de kanaalwand)\n"},
+           {"ventilator", "Geen geldende waarde ingevuld: --FanDebiet ontbreekt (luchtdebiet)\n"},
+           {"ventilator --FanDebiet 1", "Geen geldende waarde ingevuld: --FanDruk ontbreekt (totale druk)\n"},
+           {"ventilator --FanDebiet 1 --FanDruk 100",
+            "Geen ventilatortype geselecteerd: --FanType ontbreekt (1 axiaal, 2 centrifugaal voorwaarts, 3 "
+            "centrifugaal achterwaarts)\n"},
+           {"ventilator --FanType 4 --FanDebiet 1 --FanDruk 100",
+            "Geen ventilatortype geselecteerd: --FanType 4 (1 axiaal, 2 centrifugaal voorwaarts, 3 "
+            "centrifugaal achterwaarts)\n"},
            {"bekleed --h een", "--h: Voer geldig getal in\n"},
            {"kwartlambda --h 200 --S2 1e999", "--S2: Voer geldig getal in\n"},
            {"plenum --Dikte 1,2,3", "--Dikte: Voer geldig getal in\n"},
@@ -121,6 +152,28 @@ TEST(Schat, ARefusalIsStatus2WithItsMessage) {
     EXPECT_EQ(afloop.Uit, "") << rij.regel;
     EXPECT_EQ(afloop.Err, rij.err) << rij.regel;
   }
+}
+
+TEST(Schat, GivesTheEstimateAsJson) {
+  EXPECT_EQ(Schat("bekleed --L 2.5 --Dikte 50 --B 600 --h 400 --json").Uit,
+            "{\n  \"Omschrijving\": \"bekleed kanaal, 600×400 mm , d = 50 mm, L = 2,5 m\",\n"
+            "  \"Demping\": [1, 4, 10, 17, 10, 4, 1]\n}\n");
+  EXPECT_EQ(Schat("kanaalwand --KanaalType 4 --Dikte 1 --json").Uit,
+            "{\n  \"Omschrijving\": \"kunststof,  1 mm\",\n  \"Isolatie\": [-4, 1, 6, 11, 16, 21, 26]\n}\n");
+  const Afloop geweigerd = Schat("plenum --json");
+  EXPECT_EQ(geweigerd.Code, 2);
+  EXPECT_EQ(geweigerd.Uit, "");
+}
+
+// 0.5 m³/s at 100 Pa and 10,000 % efficiency, taken as 100: L = 40 + 40 + 10·log10 0.5 = 76.9897 dB; the
+// first band of the type is 9 dB lower.
+TEST(SchatVentilator, GivesTheUnroundedSpectrumAsJson) {
+  const auto json = nlohmann::json::parse(
+      Schat("ventilator --FanType 3 --FanDebiet 0.5 --FanDruk 100 --FanVermogen 1 --json", "punt").Uit);
+  EXPECT_EQ(json.size(), 2U);
+  EXPECT_EQ(json.at("FanNaam"), "Centrifugaal achterwaarts, 0.5 m³/s, 100 Pa, 0 toeren, 1 W");
+  EXPECT_EQ(json.at("Lw").size(), 8U);
+  EXPECT_NEAR(json.at("Lw").at(0), 67.98970004336019, 1e-12);
 }
 
 }  // namespace

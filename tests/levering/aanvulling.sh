@@ -53,7 +53,12 @@ verwacht '--Dikte' murvane-cli schat bekleed --Di
 verwacht '' murvane-cli schat bekleed --Dikte ''
 verwacht '' murvane-cli schat bekleed ''
 verwacht 'ventilatoren' murvane-cli overzicht v
+verwacht '--json' murvane-cli schat bekleed --j
+verwacht 'brief.txt' murvane-cli controleer --lijst b
 verwacht 'TWEE.MRV|een.mrv|mijn map' murvane ''
+verwacht '--help|--version' murvane -
+verwacht 'een.mrv' murvane-druk TWEE.MRV ee
+verwacht 'mijn map' murvane-druk een.mrv --uit ''
 verwacht 'TWEE.MRV|een.mrv|mijn map' murvane-druk ''
 verwacht '1m|galmveld|geen' murvane-druk een.mrv --grafiek ''
 

@@ -35,6 +35,13 @@ TEST(Rookproef, CancelsEveryQuestionAndWritesItDown) {
             "Titel: Geluid h×b?\nNaam: Uw naam\nOpenen: Project|*.mrv\nOpslaan als: P|*.mrv\nAfdrukken: \n");
 }
 
+TEST(Rookproef, ShowsControlCharactersByTheirNumber) {
+  std::ostringstream uit;
+  StilleDialogen stil(uit);
+  (void)stil.Toon({MeldingSoort::Uitroep, "Titel\n\x1b", "Een\nTwee \x1b]0;x\x07\x8d", Knoppen::OK});
+  EXPECT_EQ(uit.str(), "Titel\\x0a\\x1b: Een\nTwee \\x1b]0;x\\x07\\x8d\n");
+}
+
 TEST(Rookproef, WaitingIsNoQuestion) {
   std::ostringstream uit;
   StilleDialogen stil(uit);

@@ -37,10 +37,10 @@ namespace {
 
 using testing::HasSubstr;
 
-Afloop Druk(const std::vector<std::string>& argumenten) {
+Afloop Druk(const std::vector<std::string>& argumenten, const Omstandigheid& hoe = {}) {
   std::ostringstream uit;
   std::ostringstream err;
-  const int code = VoerProgrammaUit(Opdracht::Druk, argumenten, uit, err, VoerDruk);
+  const int code = VoerProgrammaUit(Opdracht::Druk, argumenten, KanalenVan(uit, err, hoe), VoerDruk);
   return {code, uit.str(), err.str()};
 }
 
@@ -530,6 +530,81 @@ TEST_F(Drukprogramma, EndsAsMurvaneCliDoes) {
   EXPECT_EQ(Druk(Regel(oneindig)).Code, 1);
   EXPECT_EQ(Druk({"--help"}).Code, 0);
   EXPECT_EQ(Druk({"--versie"}).Uit, "MurVane 6.7\n");
+}
+
+TEST_F(Drukprogramma, WritesTheFormsOfSeveralProjectsToADirectory) {
+  const std::string een = map.Zet(GoedProject("Een"), "een é.mrv");
+  const std::string leeg = map.Zet(ZonderElementen(), "m/leeg.mrv");
+  const std::string twee = map.Zet(GoedProject("Twee"), "m/twee.mrv");
+  std::filesystem::create_directory(PadVan(map / "u"));
+  map.ZetBytes("oud", "u/leeg.pdf");
+  const Afloop afloop =
+      Druk({een, map / "m", "--uit", map / "u", "--data", map.Naam(), "--decimaal", "komma"});
+  EXPECT_EQ(afloop.Code, 2);
+  EXPECT_EQ(afloop.Uit, "");
+  EXPECT_EQ(afloop.Err, leeg + ": Geen kanaalelementen ingevoerd. Oude resultaten verwijderd: " +
+                            (map / "u/leeg.pdf") + ".\n");
+  EXPECT_FALSE(map.Heeft("u/leeg.pdf"));
+  for (const auto& [naam, pdf] : {std::pair("Een", "u/een é.pdf"), std::pair("Twee", "u/twee.pdf")})
+    EXPECT_TRUE(Uitvoer("pdftotext", {QString::fromStdString(map / pdf), "-"}).contains(naam)) << pdf;
+}
+
+TEST_F(Drukprogramma, TakesWhatOnlyOneProjectCanHaveForOneProject) {
+  const std::string een = map.Zet(GoedProject(), "a.mrv");
+  const std::string ander = map.Zet(GoedProject(), "m/a.mrv");
+  const struct {
+    std::vector<std::string> regel;
+    std::string melding;
+  } rijen[] = {
+      {{een, ander, "--pdf", map / "x.pdf"},
+       "--pdf en --bmp zijn er voor één project; gebruik --uit MAP voor meer projecten."},
+      {{een, "--pdf", map / "x.pdf", "--uit", map / "u"}, "--pdf en --bmp gaan niet samen met --uit."},
+      {{een, "--bmp", map / "x.bmp", "--uit", map / "u"}, "--pdf en --bmp gaan niet samen met --uit."},
+      {{een, ander}, "Optie --pdf BESTAND ontbreekt."},
+      {{een, ander, "--uit", map / "u"},
+       een + " en " + ander + " geven allebei a.pdf; geef ze verschillende namen of een eigen map."},
+  };
+  for (const auto& rij : rijen) {
+    const Afloop afloop = Druk(rij.regel);
+    EXPECT_EQ(afloop.Code, 64);
+    EXPECT_EQ(afloop.Err, rij.melding + "\nHulp: murvane-druk --help\n");
+  }
+  EXPECT_FALSE(map.Heeft("u") || map.Heeft("x.pdf"));
+}
+
+// It wrote the first page over its own document, with status 0.
+TEST_F(Drukprogramma, ABitmapThatWouldTakeThePlaceOfTheDocumentIsRefusedBeforeEitherIsWritten) {
+  const std::string goed = map.Zet(GoedProject(), "goed.mrv");
+  map.ZetBytes("oud", "x1.bmp");
+  std::filesystem::create_symlink("x1.bmp", PadVan(map / "link"));
+  std::filesystem::create_symlink(
+      "../goed.mrv", PadVan((std::filesystem::create_directory(PadVan(map / "m")), map / "m/y2.bmp")));
+  const struct {
+    std::string pdf, bmp, melding;
+  } rijen[] = {
+      {map / "x1.bmp", map / "x.bmp", (map / "x1.bmp") + " zou twee keer worden geschreven."},
+      {map / "link", map / "m/../x.bmp",
+       (map / "link") + " en " + (map / "m/../x1.bmp") + " zijn hetzelfde bestand."},
+      {map / "x.pdf", map / "m/y.bmp",
+       (map / "m/y2.bmp") + " is het bestand dat wordt gelezen en zou worden overschreven."},
+      {map / "murvane.set", map / "z.bmp",
+       (map / "murvane.set") + " is het bestand dat wordt gelezen en zou worden overschreven."},
+  };
+  for (const auto& rij : rijen) {
+    const Afloop afloop = Druk({goed, "--pdf", rij.pdf, "--bmp", rij.bmp, "--data", map.Naam()});
+    EXPECT_EQ(afloop.Code, 64);
+    EXPECT_EQ(afloop.Err, rij.melding + "\nHulp: murvane-druk --help\n");
+  }
+  EXPECT_EQ(map.Lees("x1.bmp"), "oud");
+  EXPECT_EQ(map.Lees("goed.mrv"), ProjectBytes(GoedProject()));
+  EXPECT_FALSE(map.Heeft("x.pdf") || map.Heeft("m/y1.bmp"));
+}
+
+TEST_F(Drukprogramma, TakesAProjectFromStandardInput) {
+  const Omstandigheid hoe{.Invoer = ProjectBytes(GoedProject())};
+  const Afloop afloop = Druk({"-", "--pdf", "-", "--data", map.Naam()}, hoe);
+  EXPECT_EQ(afloop.Code, 0) << afloop.Err;
+  EXPECT_TRUE(afloop.Uit.starts_with("%PDF-1."));
 }
 
 TEST_F(Drukprogramma, NeverOverwritesItsProject) {

@@ -210,7 +210,7 @@ class Overtypen : public Gestart, public testing::WithParamInterface<Geval> {
     std::ostringstream err;
     EXPECT_EQ(VoerOpdrachtUit({"reken", PadTekst(BronData / GetParam().Naam), "--prn", "-", "--data",
                                PadTekst(data), "--decimaal", "komma"},
-                              uit, err),
+                              {uit, err}),
               0)
         << err.str();
     return uit.str();

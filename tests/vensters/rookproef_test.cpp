@@ -5,7 +5,10 @@
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <filesystem>
+#include <string>
+#include <vector>
 
+#include "shell/programmahulp.h"
 #include "tests/hulp/bestanden.h"
 #include "tests/hulp/paden.h"
 
@@ -81,6 +84,40 @@ TEST(Rookproef, FailsWithoutItsFiles) {
   const Afloop afloop = Start(map.Pad());
   EXPECT_EQ(afloop.Status, 1);
   EXPECT_TRUE(afloop.Geklaagd.contains("Opstartbestand(en) niet gevonden")) << afloop.Geklaagd.toStdString();
+}
+
+/// The program with nothing to show a window on; what it prints.
+QByteArray ZonderScherm(const QString& woord, int* status) {
+  QProcessEnvironment omgeving = QProcessEnvironment::systemEnvironment();
+  for (const char* naam : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY", "XDG_RUNTIME_DIR"})
+    omgeving.remove(naam);
+  QProcess proces;
+  proces.setProcessEnvironment(omgeving);
+  proces.start(QString::fromStdString(proef::Programma("murvane").string()), {woord});
+  EXPECT_TRUE(proces.waitForFinished(60000) && proces.exitStatus() == QProcess::NormalExit);
+  EXPECT_EQ(proces.readAllStandardError(), QByteArray());
+  *status = proces.exitCode();
+  return proces.readAllStandardOutput();
+}
+
+TEST(Programma, TellsItsHelpAndVersionWithoutADisplay) {
+  for (const Programmawoord& woord : Programmawoorden) {
+    int status = -1;
+    const std::string naam(woord.Woord);
+    const QByteArray uit = ZonderScherm(QString::fromStdString(naam), &status);
+    EXPECT_EQ(status, 0) << naam;
+    EXPECT_EQ(uit.toStdString(), ProgrammaAntwoord(std::vector<std::string>{naam})) << naam;
+  }
+}
+
+TEST(Programma, AnAnswerThatCannotBeWrittenIsAFault) {
+  QProcess proces;
+  const QString naam = QString::fromStdString(proef::Programma("murvane").string());
+  proces.start("/bin/sh", {"-c", "\"$0\" --help >/dev/full", naam});
+  ASSERT_TRUE(proces.waitForFinished(60000));
+  EXPECT_EQ(proces.exitCode(), 1);
+  EXPECT_EQ(proces.readAllStandardError().toStdString(),
+            "standaarduitvoer: Fout 61 - Schijf vol of uitvoer gesloten.\n");
 }
 
 }  // namespace
