@@ -21,6 +21,7 @@ ruim_kale_root_op() {
   root=""
 }
 trap ruim_kale_root_op EXIT
+trap 'exit 130' HUP INT TERM  # after what runs in the root has ended
 
 maak_kale_root() {
   [ "$(id -u)" -eq 0 ] || mis "dit kan alleen als beheerder (root)"
