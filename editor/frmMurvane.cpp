@@ -101,6 +101,7 @@ frmMurvane::frmMurvane(Project& project, const Catalogi& catalogi, Dialogen& dia
 void frmMurvane::ToonProject(bool isNieuwOfGeopend) {
   BouwTabs();
   setFocusPolicy(Qt::NoFocus);
+  setAccessibleDescription({});
   LaatLos();
   const QScopedValueRollback<bool> vult(vult_, true);
   const VensterBeeld beeld = TabSettings(project_, catalogi_, decimaal_);
@@ -125,6 +126,7 @@ void frmMurvane::ToonProject(bool isNieuwOfGeopend) {
 /// to one of those that are hidden.
 void frmMurvane::ToonGeenProject() {
   setFocusPolicy(Qt::ClickFocus);
+  setAccessibleDescription(leeg_->accessibleDescription());
   LaatLos();
   const QScopedValueRollback<bool> vult(vult_, true);
   SSTab1->hide();

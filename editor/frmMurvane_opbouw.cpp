@@ -172,6 +172,7 @@ BandRij* frmMurvane::VoegBanden(std::string_view naam, int eerste, const QString
 
 void frmMurvane::BouwOp() {
   setObjectName("frmMurvane");
+  setAccessibleName("Project");
   setWindowTitle(VanCp(VensterTitel()));
   auto* const indeling = Kolom(this, 0);
   SSTab1 = new QTabWidget(this);
