@@ -47,6 +47,25 @@ QMessageBox::StandardButtons KnoppenVan(Knoppen knoppen) {
   }
 }
 
+/// A file that was changed meanwhile: its buttons are not among the toolkit's own.
+bool IsGewijzigdVraag(Knoppen knoppen) {
+  return knoppen == Knoppen::OverschrijvenCancel || knoppen == Knoppen::OverschrijvenAndersCancel;
+}
+
+Antwoord VraagGewijzigd(QMessageBox& box, Knoppen knoppen) {
+  box.setStandardButtons(QMessageBox::NoButton);
+  const QPushButton* const over = box.addButton("Overschrijven", QMessageBox::AcceptRole);
+  const QPushButton* const anders = knoppen == Knoppen::OverschrijvenAndersCancel
+                                        ? box.addButton("Anders opslaan…", QMessageBox::AcceptRole)
+                                        : nullptr;
+  QPushButton* const cancel = box.addButton(QMessageBox::Cancel);
+  box.setDefaultButton(cancel);
+  box.setEscapeButton(cancel);
+  (void)box.exec();
+  if (box.clickedButton() == over) return Antwoord::Overschrijven;
+  return anders != nullptr && box.clickedButton() == anders ? Antwoord::Anders : Antwoord::Cancel;
+}
+
 Antwoord AntwoordVan(int knop, Knoppen knoppen, bool weggeklikt) {
   if (knoppen == Knoppen::YesNo) return knop == QMessageBox::Yes ? Antwoord::Yes : Antwoord::No;
   return knop == QMessageBox::Ok && !weggeklikt ? Antwoord::OK : Antwoord::Cancel;
@@ -168,10 +187,11 @@ QWidget* Ouder() {
 }  // namespace
 
 Antwoord SchermDialogen::Toon(const Melding& melding) {
-  MeldingVenster box(Icoon(melding.Soort), VanCp(melding.Titel), VanCp(melding.Tekst),
-                     KnoppenVan(melding.Knoppen), Ouder());
+  MeldingVenster box(Icoon(melding.Soort), VanCp(melding.Titel),
+                     QString::fromStdString(GetoondeTekst(melding)), KnoppenVan(melding.Knoppen), Ouder());
   box.setTextFormat(Qt::PlainText);
   MaakBreedGenoeg(box);
+  if (IsGewijzigdVraag(melding.Knoppen)) return VraagGewijzigd(box, melding.Knoppen);
   if (melding.Knoppen == Knoppen::YesNo) box.MoetKiezen();
   const int knop = box.exec();
   return AntwoordVan(knop, melding.Knoppen, box.Weggeklikt());

@@ -104,7 +104,9 @@ OpenUitkomst mnuOpen_Click(Programma& programma, Dialogen& dialogen) {
   std::string panel1;
   while (const auto fout = Probeer([&] { panel1 = OpenVolgende(programma, dialogen); })) {
     if (IsGeannuleerd(*fout)) return {};
-    if (dialogen.Toon(OnverwachteFout("mnuOpen_Click", "MDIMurvane", *fout)) == Antwoord::OK) continue;
+    if (dialogen.Toon(OnverwachteFout("mnuOpen_Click", "MDIMurvane", *fout, Knoppen::OkCancel)) ==
+        Antwoord::OK)
+      continue;
     programma.OpenBestand.clear();
     return {};
   }
@@ -121,7 +123,7 @@ OpslagUitkomst OpSlag(Programma& programma, Dialogen& dialogen) {
   while (const auto fout = Probeer(stap)) {
     if (IsGeannuleerd(*fout)) return OpslagUitkomst::Geannuleerd;
     if (fout->Nummer() == FoutNummer::OngeldigeBestandsnaam) gekozen = false;
-    if (dialogen.Toon(OnverwachteFout("OpSlag", "frmMurvane", *fout)) != Antwoord::OK)
+    if (dialogen.Toon(OnverwachteFout("OpSlag", "frmMurvane", *fout, Knoppen::OkCancel)) != Antwoord::OK)
       return OpslagUitkomst::Opgegeven;
   }
   return OpslagUitkomst::Gesloten;
