@@ -301,8 +301,10 @@ TEST_F(OnderhoudVensters, StayOpenWhenASaveFails) {
     Open(soort);
     std::filesystem::create_directory(map / OnderhoudVan(soort).Bestand);
     script.Box({MeldingSoort::Kritiek, "MurVane",
-                "Onverwachte fout in procedure cmdSluiten_Click van Form frmDuct.\nFout 75 - " +
-                    std::string(Beschrijving(FoutNummer::PadToegang)) + "."});
+                "Onverwachte fout in procedure cmdSluiten_Click van Form frmDuct.\nFout 75 - Geen toegang "
+                "tot het bestand of "
+                "de map '" +
+                    std::string(OnderhoudVan(soort).Bestand) + "'."});
     Alt(Qt::Key_S);
     EXPECT_TRUE(venster->isVisible());
     EXPECT_FALSE(venster->IsBewaard());
