@@ -14,6 +14,7 @@
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QPushButton>
 #include <QShowEvent>
 
 #include "basis/bestand.h"
@@ -54,10 +55,10 @@ bool IsGewijzigdVraag(Knoppen knoppen) {
 
 Antwoord VraagGewijzigd(QMessageBox& box, Knoppen knoppen) {
   box.setStandardButtons(QMessageBox::NoButton);
-  const QPushButton* const over = box.addButton("Overschrijven", QMessageBox::AcceptRole);
-  const QPushButton* const anders = knoppen == Knoppen::OverschrijvenAndersCancel
-                                        ? box.addButton("Anders opslaan…", QMessageBox::AcceptRole)
-                                        : nullptr;
+  const QAbstractButton* const over = box.addButton("Overschrijven", QMessageBox::AcceptRole);
+  const QAbstractButton* const anders = knoppen == Knoppen::OverschrijvenAndersCancel
+                                            ? box.addButton("Anders opslaan…", QMessageBox::AcceptRole)
+                                            : nullptr;
   QPushButton* const cancel = box.addButton(QMessageBox::Cancel);
   box.setDefaultButton(cancel);
   box.setEscapeButton(cancel);
