@@ -70,8 +70,9 @@ Fout HuidigeFout() {
     return fout;
   } catch (const std::bad_alloc&) {
     return Fout(FoutNummer::OnvoldoendeGeheugen);
-  } catch (const std::filesystem::filesystem_error&) {
-    return Fout(FoutNummer::PadToegang);
+  } catch (const std::filesystem::filesystem_error& fout) {
+    const std::u8string pad = fout.path1().u8string();
+    return Fout(FoutNummer::PadToegang).MetBestand({pad.begin(), pad.end()});
   } catch (...) {
     return Fout(FoutNummer::InterneFout);
   }

@@ -1,6 +1,7 @@
 #include "catalogue/catfiles.h"
 
 #include "basis/bestand.h"
+#include "basis/bewaar.h"
 #include "basis/fout.h"
 #include "basis/stroom.h"
 #include "catalogue/velden.h"
@@ -36,13 +37,20 @@ std::string Bytes(const Cat& catalogus) {
 }
 
 template <typename Cat>
+Cat UitInhoud(const Inhoud& inhoud) {
+  Cat catalogus = UitBytes<Cat>(inhoud.Bytes);
+  catalogus.Gelezen = Onthoud(inhoud, Bytes(catalogus));
+  return catalogus;
+}
+
+template <typename Cat>
 Cat LeesFile(const std::filesystem::path& pad) {
-  return OverBestand(PadTekst(pad), [&pad] { return UitBytes<Cat>(LeesBestand(pad, RuimGenoeg)); });
+  return OverBestand(PadTekst(pad), [&pad] { return UitInhoud<Cat>(LeesInhoud(pad)); });
 }
 
 template <typename Cat>
 void SchrijfFile(const Cat& catalogus, const std::filesystem::path& pad) {
-  OverBestand(PadTekst(pad), [&] { VervangBestand(pad, Bytes(catalogus), Staart::Blijft); });
+  OverBestand(PadTekst(pad), [&] { SchrijfBeeld(pad, Bytes(catalogus), Staart::Blijft); });
 }
 
 }  // namespace
@@ -73,6 +81,13 @@ void SchrijfCatalogus(const ElementCatalogus& catalogus, const std::filesystem::
 }
 void SchrijfCatalogus(const SpectrumCatalogus& catalogus, const std::filesystem::path& pad) {
   SchrijfFile(catalogus, pad);
+}
+
+void LeesUit(ElementCatalogus& catalogus, const Inhoud& inhoud) {
+  catalogus = UitInhoud<ElementCatalogus>(inhoud);
+}
+void LeesUit(SpectrumCatalogus& catalogus, const Inhoud& inhoud) {
+  catalogus = UitInhoud<SpectrumCatalogus>(inhoud);
 }
 
 Catalogi LeesCatalogi(const std::filesystem::path& map) {

@@ -4,10 +4,12 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "basis/stempel.h"
 #include "project/records.h"
 
 namespace murvane {
@@ -37,6 +39,7 @@ template <typename Rec>
 struct Catalogus {
   std::int16_t Aantal = 0;
   std::vector<Rec> Records = std::vector<Rec>(MaxCatalogus + 1);
+  std::optional<Herinnering> Gelezen{};  ///< of the file that it was read from or saved to last
 };
 
 using ElementCatalogus = Catalogus<CatElementRec>;
@@ -109,11 +112,16 @@ decltype(auto) MetCatalogus(Alle& catalogi, CatalogusSoort soort, Stap stap) {
 [[nodiscard]] std::string CatalogusBytes(const SpectrumCatalogus& catalogus);
 
 /// Reading and saving one file; an existing longer file keeps its length and its old bytes behind the last
-/// record. Failures of LeesBestand, VervangBestand and of the images, with the file's name.
+/// record. Saving overwrites whatever stands there. Failures of LeesInhoud, VervangBestand and of the images,
+/// with the file's name.
 [[nodiscard]] ElementCatalogus LeesElementen(const std::filesystem::path& pad);
 [[nodiscard]] SpectrumCatalogus LeesSpectra(const std::filesystem::path& pad);
 void SchrijfCatalogus(const ElementCatalogus& catalogus, const std::filesystem::path& pad);
 void SchrijfCatalogus(const SpectrumCatalogus& catalogus, const std::filesystem::path& pad);
+
+/// The catalogue of what was read of a file, which it remembers. Failures of the images.
+void LeesUit(ElementCatalogus& catalogus, const Inhoud& inhoud);
+void LeesUit(SpectrumCatalogus& catalogus, const Inhoud& inhoud);
 
 /// Loads the four files of a directory, Duct.dat first.
 [[nodiscard]] Catalogi LeesCatalogi(const std::filesystem::path& map);

@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <utility>
 
+#include "basis/bestand.h"
 #include "basis/fout.h"
 #include "basis/getal.h"
 #include "calc/spectrum.h"
 #include "catalogue/overzicht.h"
+#include "editor/bewaarvraag.h"
 
 namespace murvane {
 
@@ -257,6 +259,23 @@ Melding Wisvraag(const OnderhoudVerschil& v, const std::string& naam) {
           Knoppen::OkCancel};
 }
 
+/// Saves a catalogue, or takes what another program made of an unchanged one; false when the user would
+/// rather do neither.
+template <typename Rec>
+bool BewaarCatalogus(Catalogus<Rec>& catalogus, const std::filesystem::path& pad, Dialogen& dialogen) {
+  return OverBestand(PadTekst(pad), [&] {
+    const Bewaardoel doel{.Pad = pad, .Staart = Staart::Blijft, .Gelezen = catalogus.Gelezen};
+    const BewaarAntwoord antwoord = BewaarMetVraag(doel, CatalogusBytes(catalogus), dialogen);
+    if (antwoord.Hoe != Antwoord::Overschrijven) return false;
+    if (antwoord.Bewaring.Besluit == Bewaarbesluit::NeemHunne) {
+      LeesUit(catalogus, antwoord.Bewaring.Hunne);
+    } else {
+      catalogus.Gelezen = antwoord.Bewaring.Daarna;
+    }
+    return true;
+  });
+}
+
 }  // namespace
 
 const OnderhoudVerschil& OnderhoudVan(CatalogusSoort soort) {
@@ -423,16 +442,16 @@ OnderhoudUitkomst mnuSortNaam_Click(Onderhoud& venster, Catalogi& catalogi, Dial
   return MetNieuweRijen({});
 }
 
-bool cmdSluiten_Click(const Onderhoud& venster, const Catalogi& catalogi, const std::filesystem::path& map,
+bool cmdSluiten_Click(const Onderhoud& venster, Catalogi& catalogi, const std::filesystem::path& map,
                       Dialogen& dialogen) {
+  bool bewaard = false;
   const auto fout = Probeer([&] {
-    const Zandloper zandloper(dialogen);
-    MetCatalogus(catalogi, venster.Soort, [&](const auto& catalogus) {
-      SchrijfCatalogus(catalogus, map / OnderhoudVan(venster.Soort).Bestand);
+    bewaard = MetCatalogus(catalogi, venster.Soort, [&](auto& catalogus) {
+      return BewaarCatalogus(catalogus, map / OnderhoudVan(venster.Soort).Bestand, dialogen);
     });
   });
   if (fout) (void)dialogen.Toon(OnverwachteFout("cmdSluiten_Click", "frmDuct", *fout));
-  return !fout;
+  return bewaard;
 }
 
 void NeemSchatting(Onderhoud& venster, std::string_view omschrijving,

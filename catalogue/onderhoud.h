@@ -177,9 +177,10 @@ OnderhoudUitkomst cmdWissen_Click(Onderhoud& venster, Catalogi& catalogi, Dialog
 /// Sorts the records; no row is selected any more.
 OnderhoudUitkomst mnuSortNaam_Click(Onderhoud& venster, Catalogi& catalogi, Dialogen& dialogen);
 
-/// Writes the catalogue's file in `map`; whether the window closes. A failure is told, under the name of
-/// frmDuct whichever window it is; window and records then stay as they were.
-[[nodiscard]] bool cmdSluiten_Click(const Onderhoud& venster, const Catalogi& catalogi,
+/// Writes the catalogue's file in `map`; whether the window closes. When another program changed the file and
+/// nothing was changed here, its records are taken over instead; when both did, the user is asked. A failure
+/// is told, under the name of frmDuct whichever window it is; window and records then stay as they were.
+[[nodiscard]] bool cmdSluiten_Click(const Onderhoud& venster, Catalogi& catalogi,
                                     const std::filesystem::path& map, Dialogen& dialogen);
 
 /// Writes an estimate into the open entry fields.

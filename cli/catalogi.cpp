@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "basis/bestand.h"
+#include "basis/bewaar.h"
 #include "basis/fout.h"
 #include "basis/stroom.h"
 #include "basis/tekst.h"
@@ -73,13 +74,20 @@ CatalogusSoort SoortVan(const std::string& optie, const std::string& bestand, st
   return *soort;
 }
 
+template <typename Cat>
+Cat Uit(const Inhoud& inhoud) {
+  Cat catalogus;
+  LeesUit(catalogus, inhoud);
+  return catalogus;
+}
+
 CatalogusInhoud LeesCatalogus(const Keuzes& keuzes) {
   const std::string& naam = keuzes.Bestanden.front();
   return OverBestand(naam, [&]() -> CatalogusInhoud {
-    const std::string bytes = LeesBestand(PadVan(naam), RuimGenoeg);
-    const CatalogusSoort soort = SoortVan(keuzes.Waarde(Optie::Soort).value_or(""), naam, bytes);
-    if (soort == CatalogusSoort::Kanaalelementen) return {soort, ElementenUitBytes(bytes)};
-    return {soort, SpectraUitBytes(bytes)};
+    const Inhoud inhoud = LeesInhoud(PadVan(naam));
+    const CatalogusSoort soort = SoortVan(keuzes.Waarde(Optie::Soort).value_or(""), naam, inhoud.Bytes);
+    if (soort == CatalogusSoort::Kanaalelementen) return {soort, Uit<ElementCatalogus>(inhoud)};
+    return {soort, Uit<SpectrumCatalogus>(inhoud)};
   });
 }
 
@@ -98,6 +106,16 @@ std::string Bytes(const CatalogusInhoud& catalogus, const std::string& naam) {
   return OverBestand(naam, [&catalogus] {
     return std::visit([](const auto& inhoud) { return CatalogusBytes(inhoud); }, catalogus.Inhoud);
   });
+}
+
+/// Saves a catalogue over the file that it was read from, unless another program changed that meanwhile.
+void BewaarOverInvoer(const CatalogusInhoud& catalogus, const std::string& uitvoer) {
+  const auto gelezen = std::visit([](const auto& inhoud) { return inhoud.Gelezen; }, catalogus.Inhoud);
+  const Bewaring bewaring = BewaarBeeld(PadVan(uitvoer), Bytes(catalogus, uitvoer), Staart::Blijft, gelezen);
+  if (bewaring.Besluit == Bewaarbesluit::Vraag)
+    throw Fout(FoutNummer::PadToegang,
+               "Het bestand is intussen door een ander programma gewijzigd; er is niets geschreven", {},
+               uitvoer);
 }
 
 /// Saves a catalogue as the command line says: a longer file keeps its tail.
@@ -165,7 +183,12 @@ int VoerCatalogusMaak(const Keuzes& keuzes, Kanalen& kanalen) {
 int VoerCatalogusSorteer(const Keuzes& keuzes, Kanalen& kanalen) {
   CatalogusInhoud catalogus = LeesCatalogus(keuzes);
   std::visit([](auto& inhoud) { Sorteren(inhoud); }, catalogus.Inhoud);
-  Bewaar(catalogus, keuzes, kanalen);
+  const std::string& uitvoer = *keuzes.Waarde(Optie::UitvoerMaak);
+  if (ZelfdeBestand(keuzes.Bestanden.front(), uitvoer)) {
+    BewaarOverInvoer(catalogus, uitvoer);
+  } else {
+    Bewaar(catalogus, keuzes, kanalen);
+  }
   return status::Klaar;
 }
 

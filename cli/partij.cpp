@@ -141,6 +141,7 @@ int VoerPartij(const Keuzes& keuzes, const Partij& partij, const std::function<P
                Kanalen& kanalen) {
   const std::vector<std::string>& projecten = keuzes.Bestanden;
   MaakMap(PadVan(partij.Map));
+  RuimRestenOp(PadVan(partij.Map));  // once, and not at each of the thousands of files
   int code = status::Klaar;
   std::size_t gedaan = 0;
   Voortgang voortgang(projecten.size(), kanalen);

@@ -114,8 +114,8 @@ int RekenNaarMap(const Keuzes& keuzes, Kanalen& kanalen) {
     return [&, rekenaar = std::make_shared<Rekenaar>(voorschrift)](const std::string& naam,
                                                                    const fs::path& doel) {
       return rekenaar->Doe(naam, kanalen, [&](const Rekenaar& klaar) {
-        VervangBestand(fs::path(doel) += Extensies[0], klaar.Prn());
-        VervangBestand(fs::path(doel) += Extensies[1], klaar.Json());
+        VervangBestand(fs::path(doel) += Extensies[0], klaar.Prn(), Staart::Vervalt, Resten::Blijven);
+        VervangBestand(fs::path(doel) += Extensies[1], klaar.Json(), Staart::Vervalt, Resten::Blijven);
       });
     };
   };

@@ -14,6 +14,7 @@
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QPushButton>
 #include <QShowEvent>
 
 #include "basis/bestand.h"
@@ -45,6 +46,25 @@ QMessageBox::StandardButtons KnoppenVan(Knoppen knoppen) {
     default:
       return QMessageBox::Ok;
   }
+}
+
+/// A file that was changed meanwhile: its buttons are not among the toolkit's own.
+bool IsGewijzigdVraag(Knoppen knoppen) {
+  return knoppen == Knoppen::OverschrijvenCancel || knoppen == Knoppen::OverschrijvenAndersCancel;
+}
+
+Antwoord VraagGewijzigd(QMessageBox& box, Knoppen knoppen) {
+  box.setStandardButtons(QMessageBox::NoButton);
+  const QAbstractButton* const over = box.addButton("Overschrijven", QMessageBox::AcceptRole);
+  const QAbstractButton* const anders = knoppen == Knoppen::OverschrijvenAndersCancel
+                                            ? box.addButton("Anders opslaan…", QMessageBox::AcceptRole)
+                                            : nullptr;
+  QPushButton* const cancel = box.addButton(QMessageBox::Cancel);
+  box.setDefaultButton(cancel);
+  box.setEscapeButton(cancel);
+  (void)box.exec();
+  if (box.clickedButton() == over) return Antwoord::Overschrijven;
+  return anders != nullptr && box.clickedButton() == anders ? Antwoord::Anders : Antwoord::Cancel;
 }
 
 Antwoord AntwoordVan(int knop, Knoppen knoppen, bool weggeklikt) {
@@ -168,10 +188,11 @@ QWidget* Ouder() {
 }  // namespace
 
 Antwoord SchermDialogen::Toon(const Melding& melding) {
-  MeldingVenster box(Icoon(melding.Soort), VanCp(melding.Titel), VanCp(melding.Tekst),
-                     KnoppenVan(melding.Knoppen), Ouder());
+  MeldingVenster box(Icoon(melding.Soort), VanCp(melding.Titel),
+                     QString::fromStdString(GetoondeTekst(melding)), KnoppenVan(melding.Knoppen), Ouder());
   box.setTextFormat(Qt::PlainText);
   MaakBreedGenoeg(box);
+  if (IsGewijzigdVraag(melding.Knoppen)) return VraagGewijzigd(box, melding.Knoppen);
   if (melding.Knoppen == Knoppen::YesNo) box.MoetKiezen();
   const int knop = box.exec();
   return AntwoordVan(knop, melding.Knoppen, box.Weggeklikt());

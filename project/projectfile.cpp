@@ -1,8 +1,10 @@
 #include "project/projectfile.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "basis/bestand.h"
+#include "basis/bewaar.h"
 #include "basis/fout.h"
 #include "basis/stroom.h"
 #include "project/velden.h"
@@ -55,17 +57,28 @@ std::string ProjectBytes(const Project& project) {
 }
 
 Project LeesProject(const std::filesystem::path& pad) {
-  return OverBestand(PadTekst(pad), [&pad] { return ProjectUitBytes(LeesBestand(pad, RuimGenoeg)); });
+  return OverBestand(PadTekst(pad), [&pad] { return ProjectUitBytes(LeesInhoud(pad).Bytes); });
+}
+
+GelezenProject LeesProjectBestand(const std::filesystem::path& pad) {
+  return OverBestand(PadTekst(pad), [&pad]() -> GelezenProject {
+    const Inhoud inhoud = LeesInhoud(pad);
+    Project project = ProjectUitBytes(inhoud.Bytes);
+    const Herinnering bestand = Onthoud(inhoud, ProjectBytes(project));
+    return {std::move(project), bestand};
+  });
 }
 
 void SchrijfProject(const Project& project, const std::filesystem::path& pad) {
+  EisOpslagNaam(pad);
+  OverBestand(PadTekst(pad), [&] { SchrijfBeeld(pad, ProjectBytes(project), Staart::Blijft); });
+}
+
+void EisOpslagNaam(const std::filesystem::path& pad) {
   const std::string naam = PadTekst(pad);
-  OverBestand(naam, [&] {
-    if (!naam.ends_with("mrv"))
-      throw Fout(FoutNummer::OngeldigeBestandsnaam,
-                 "Ongeldige bestandsnaam: een projectbestand eindigt op mrv, in kleine letters");
-    VervangBestand(pad, ProjectBytes(project), Staart::Blijft);
-  });
+  if (naam.ends_with("mrv")) return;
+  throw Fout(FoutNummer::OngeldigeBestandsnaam,
+             "Ongeldige bestandsnaam: een projectbestand eindigt op mrv, in kleine letters", {}, naam);
 }
 
 }  // namespace murvane

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "basis/stempel.h"
 #include "project/records.h"
 
 namespace murvane {
@@ -21,12 +22,21 @@ namespace murvane {
 /// 65535 characters.
 [[nodiscard]] std::string ProjectBytes(const Project& project);
 
-/// Reads a project file; failures of LeesBestand and ProjectUitBytes, with the file's name.
+/// Reads a project file; failures of LeesInhoud and ProjectUitBytes, with the file's name.
 [[nodiscard]] Project LeesProject(const std::filesystem::path& pad);
+/// The same, with what there is to remember of the file.
+struct GelezenProject {
+  murvane::Project Project;
+  Herinnering Bestand;
+};
+[[nodiscard]] GelezenProject LeesProjectBestand(const std::filesystem::path& pad);
 
 /// Saves a project so that at no moment half a file stands there. An existing longer file keeps its length
 /// and its old bytes behind the new logical end. Fout 52 unless the name's last three characters are exactly
-/// "mrv"; failures of VervangBestand.
+/// "mrv"; failures of VervangBestand. Whatever stands there is overwritten.
 void SchrijfProject(const Project& project, const std::filesystem::path& pad);
+
+/// Fout 52 unless a project can be saved under the name: its last three characters are exactly "mrv".
+void EisOpslagNaam(const std::filesystem::path& pad);
 
 }  // namespace murvane

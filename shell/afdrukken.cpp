@@ -168,13 +168,14 @@ void OpslaanAlsBitmap(const Programma& programma, Dialogen& dialogen, const Bitm
   std::vector<fs::path> namen;
   (void)Doe(dialogen, Bitmapopdracht, [&] {
     const fs::path naam = dialogen.OpslaanDialoog(OpslaanVraag(BitmapFilter));
-    if (!naam.empty()) namen = BitmapNamen(naam, programma.Voorbeeld.LaatstePagina);
+    if (naam.empty()) return;
+    namen = OverBestand(PadTekst(naam), [&] { return BitmapNamen(naam, programma.Voorbeeld.LaatstePagina); });
   });
   int index = 0;
   for (const fs::path& naam : namen) {
     (void)Doe(dialogen, Bitmapopdracht, [&] {
       const Zandloper zandloper(dialogen);
-      VervangBestand(naam, maakBitmap(index));
+      OverBestand(PadTekst(naam), [&] { VervangBestand(naam, maakBitmap(index)); });
     });
     ++index;
   }

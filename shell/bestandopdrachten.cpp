@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "basis/bestand.h"
+#include "editor/bewaarvraag.h"
 #include "project/projectfile.h"
 #include "shell/startup.h"
 
@@ -40,11 +41,6 @@ void VraagOpslaanNaam(Programma& programma, Dialogen& dialogen) {
   programma.DialoogNaam = dialogen.OpslaanDialoog(vraag);
 }
 
-/// The exact test: a name in capitals is refused.
-void EisProjectNaam(const fs::path& naam) {
-  if (!PadTekst(naam).ends_with("mrv")) throw Fout(FoutNummer::OngeldigeBestandsnaam);
-}
-
 /// One attempt to open; the text for panel 1, empty when the dialog gave no name.
 std::string OpenVolgende(Programma& programma, Dialogen& dialogen) {
   if (!programma.OpenBestand.empty()) {
@@ -54,22 +50,45 @@ std::string OpenVolgende(Programma& programma, Dialogen& dialogen) {
   }
   VraagOpenNaam(programma, dialogen);
   if (programma.DialoogNaam.empty()) return {};
-  EisProjectNaam(programma.DialoogNaam);
+  EisOpslagNaam(programma.DialoogNaam);  // in the dialog a name in capitals is refused
   return Openen(programma, dialogen, programma.DialoogNaam);
 }
 
-void Bewaar(const Programma& programma, Dialogen& dialogen) {
-  if (programma.DialoogNaam.empty()) return;
-  EisProjectNaam(programma.DialoogNaam);
-  const Zandloper zandloper(dialogen);
-  SchrijfProject(programma.Project, programma.DialoogNaam);
+/// What was read of the file under this name, if it is the one that the project came from: about any other
+/// the dialog asked.
+std::optional<Herinnering> GelezenVan(const Programma& programma, const fs::path& pad) {
+  const auto& bestand = programma.VanSchijf;
+  return bestand && IsZelfdePad(bestand->Pad, pad) ? std::optional(bestand->Gelezen) : std::nullopt;
+}
+
+/// Saves under the chosen name; Overschrijven when that is done, else what the user answered to the question
+/// about a file that was changed meanwhile.
+Antwoord Bewaar(const Programma& programma, Dialogen& dialogen) {
+  const fs::path& pad = programma.DialoogNaam;
+  if (pad.empty()) return Antwoord::Overschrijven;
+  EisOpslagNaam(pad);
+  return OverBestand(PadTekst(pad), [&] {
+    const Bewaardoel doel{pad, Staart::Blijft, GelezenVan(programma, pad), true};
+    return BewaarMetVraag(doel, ProjectBytes(programma.Project), dialogen).Hoe;
+  });
+}
+
+fs::path InstellingenPad(const Programma& programma) {
+  return programma.DataDir / InstellingenNaam;
 }
 
 void NaarDataDir(const Programma& programma) {
+  const std::string bestand = PadTekst(InstellingenPad(programma));
   std::error_code code;
   fs::current_path(programma.DataDir, code);
-  if (code == std::errc::permission_denied) throw Fout(FoutNummer::GeenToestemming);
-  if (code) throw Fout(FoutNummer::PadNietGevonden);
+  if (code == std::errc::permission_denied) throw Fout(FoutNummer::GeenToestemming).MetBestand(bestand);
+  if (code) throw Fout(FoutNummer::PadNietGevonden).MetBestand(bestand);
+}
+
+/// Writes the settings, unless another program's stand there and nothing was changed here.
+Antwoord BewaarInstellingen(const Programma& programma, Dialogen& dialogen) {
+  const Bewaardoel doel{InstellingenPad(programma), Staart::Vervalt, programma.Instellingen.Gelezen, false};
+  return BewaarMetVraag(doel, InstellingenBytes(programma.Instellingen), dialogen).Hoe;
 }
 
 /// A relative name means another file once the current directory has changed.
@@ -88,14 +107,16 @@ bool IsGeannuleerd(const Fout& fout) {
 void mnuNieuw_Click(Programma& programma) {
   programma.Project.Kop.MyDate = programma.Vandaag;
   programma.DialoogNaam.clear();
+  programma.VanSchijf.reset();
 }
 
 std::string Openen(Programma& programma, Dialogen& dialogen, const fs::path& pad) {
   const Zandloper zandloper(dialogen);
-  Project gelezen = LeesProject(pad);
+  GelezenProject gelezen = LeesProjectBestand(pad);
   fs::path naam = Volledig(pad);
   std::string panel1 = NaarCp1252Getoond(PadTekst(naam.filename()));
-  programma.Project = std::move(gelezen);
+  programma.Project = std::move(gelezen.Project);
+  programma.VanSchijf = {naam, gelezen.Bestand};
   programma.DialoogNaam = std::move(naam);
   return panel1;
 }
@@ -104,7 +125,9 @@ OpenUitkomst mnuOpen_Click(Programma& programma, Dialogen& dialogen) {
   std::string panel1;
   while (const auto fout = Probeer([&] { panel1 = OpenVolgende(programma, dialogen); })) {
     if (IsGeannuleerd(*fout)) return {};
-    if (dialogen.Toon(OnverwachteFout("mnuOpen_Click", "MDIMurvane", *fout)) == Antwoord::OK) continue;
+    if (dialogen.Toon(OnverwachteFout("mnuOpen_Click", "MDIMurvane", *fout, Knoppen::OkCancel)) ==
+        Antwoord::OK)
+      continue;
     programma.OpenBestand.clear();
     return {};
   }
@@ -113,17 +136,23 @@ OpenUitkomst mnuOpen_Click(Programma& programma, Dialogen& dialogen) {
 
 OpslagUitkomst OpSlag(Programma& programma, Dialogen& dialogen) {
   bool gekozen = false;
+  Antwoord antwoord = Antwoord::Anders;
   const auto stap = [&] {
     if (!gekozen) VraagOpslaanNaam(programma, dialogen);
     gekozen = true;
-    Bewaar(programma, dialogen);
+    antwoord = Bewaar(programma, dialogen);
+    gekozen = antwoord != Antwoord::Anders;
   };
-  while (const auto fout = Probeer(stap)) {
+  while (antwoord == Antwoord::Anders) {
+    const auto fout = Probeer(stap);
+    if (!fout) continue;
     if (IsGeannuleerd(*fout)) return OpslagUitkomst::Geannuleerd;
     if (fout->Nummer() == FoutNummer::OngeldigeBestandsnaam) gekozen = false;
-    if (dialogen.Toon(OnverwachteFout("OpSlag", "frmMurvane", *fout)) != Antwoord::OK)
+    if (dialogen.Toon(OnverwachteFout("OpSlag", "frmMurvane", *fout, Knoppen::OkCancel)) != Antwoord::OK)
       return OpslagUitkomst::Opgegeven;
   }
+  if (antwoord != Antwoord::Overschrijven) return OpslagUitkomst::Opgegeven;
+  programma.VanSchijf.reset();
   return OpslagUitkomst::Gesloten;
 }
 
@@ -134,6 +163,7 @@ bool mnuSluiten_Click(Programma& programma, Dialogen& dialogen) {
                       Knoppen::OkCancel};
   if (dialogen.Toon(vraag) != Antwoord::OK) return false;
   programma.DialoogNaam.clear();
+  programma.VanSchijf.reset();
   return true;
 }
 
@@ -144,13 +174,13 @@ Vervolg mnuExit_Click(Programma& programma, Dialogen& dialogen, bool projectOpen
       "bestandsgegevens?",
       Knoppen::OkCancel};
   if (projectOpen && dialogen.Toon(vraag) != Antwoord::OK) return Vervolg::GaatDoor;
+  Antwoord antwoord = Antwoord::Overschrijven;
   const auto fout = Probeer([&] {
     NaarDataDir(programma);
-    const Zandloper zandloper(dialogen);
-    SchrijfInstellingen(programma.Instellingen, programma.DataDir / InstellingenNaam);
+    antwoord = BewaarInstellingen(programma, dialogen);
   });
   if (fout) dialogen.Toon(OnverwachteFout("mnuExit_Click", "MDIMurvane", *fout));
-  return Vervolg::Einde;
+  return antwoord == Antwoord::Overschrijven ? Vervolg::Einde : Vervolg::GaatDoor;
 }
 
 Vervolg Form_Unload(Programma& programma, Dialogen& dialogen, bool projectOpen,

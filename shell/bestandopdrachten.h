@@ -3,7 +3,7 @@
 // to do next and keeps the project in memory whole whatever fails.
 //
 // A failure shows its box. OK runs the failed step again; a refused file name (Fout 52) goes back to the
-// dialog that gave it. Leaving the box by Escape or its close button ends the command.
+// dialog that gave it. Cancel, Escape or the box's close button ends the command.
 
 #include <filesystem>
 #include <functional>
@@ -32,10 +32,12 @@ struct OpenUitkomst {
 enum class OpslagUitkomst {
   Gesloten,     ///< written, or no name chosen: the window closes the project (Settings, Reset)
   Geannuleerd,  ///< the dialog was cancelled: everything stays as it was
-  Opgegeven,    ///< the user gave up after a failure: everything stays as it was
+  Opgegeven,    ///< the user gave up after a failure, or will not overwrite: everything stays as it was
 };
 
-/// Asks for a name and saves the project under it.
+/// Asks for a name and saves the project under it. When the file that the project was read from was changed
+/// by another program meanwhile, a project that was not changed leaves it alone, and for one that was the
+/// user is asked: to overwrite, to give another name, or neither.
 [[nodiscard]] OpslagUitkomst OpSlag(Programma& programma, Dialogen& dialogen);
 
 /// Asks whether to close without saving. True: the window closes its other windows, then the project (Reset,
@@ -43,7 +45,8 @@ enum class OpslagUitkomst {
 [[nodiscard]] bool mnuSluiten_Click(Programma& programma, Dialogen& dialogen);
 
 /// Leaves the program: asks first when a project is open, makes DataDir the current directory and writes the
-/// settings there. A write that fails is told and keeps nobody in the program.
+/// settings there, unless only another program changed them. When both did the user is asked, and stays in
+/// the program when he will not overwrite. A write that fails is told and keeps nobody in the program.
 [[nodiscard]] Vervolg mnuExit_Click(Programma& programma, Dialogen& dialogen, bool projectOpen);
 
 /// The project window closes with the program: makes DataDir the current directory and, when a project is

@@ -59,7 +59,9 @@ Melding MisluktMelding(const fs::path& map, const Fout& fout) {
   std::string tekst = "De eigen gegevensmap kan niet worden gebruikt";
   if (!map.empty()) tekst += ":\n" + PadTekst(map);
   tekst += "\nMurVane werkt met de meegeleverde gegevens; wijzigingen daarin worden mogelijk niet bewaard.\n";
-  return {MeldingSoort::Kritiek, "Opstartfout", NaarCp1252Getoond(tekst + fout.Melding())};
+  Melding melding{MeldingSoort::Kritiek, "Opstartfout", NaarCp1252Getoond(tekst)};
+  VoegFoutToe(melding, fout);
+  return melding;
 }
 
 /// The command line as it is understood once the current directory is another one.

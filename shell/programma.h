@@ -5,6 +5,7 @@
 #include <chrono>
 #include <cstdint>
 #include <filesystem>
+#include <optional>
 
 #include "basis/tekst.h"
 #include "calc/resultaten.h"
@@ -38,6 +39,13 @@ struct Programma {
   std::filesystem::path OpenBestand;         ///< the project that the command line named, until it was opened
   DatumVeld Vandaag;                         ///< the day of the start
   char Decimaal = ',';                       ///< the region's decimal sign
+
+  /// The file that the open project was read from, for as long as it is open.
+  struct Projectbestand {
+    std::filesystem::path Pad;
+    Herinnering Gelezen;
+  };
+  std::optional<Projectbestand> VanSchijf;
 
   /// The file name that stands in the file dialog: the one chosen last, or the project that was opened. The
   /// next dialog proposes it. Closing a project and making a new one empty it.

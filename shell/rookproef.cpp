@@ -7,23 +7,23 @@
 
 namespace murvane {
 
-void StilleDialogen::Schrijf(std::string_view titel, std::string_view tekst) {
+void StilleDialogen::Schrijf(std::string_view titel, std::string_view utf8) {
   gevraagd_ = true;
-  uit_ << Toonbaar(NaarUtf8(titel)) << ": " << Toonbaar(NaarUtf8(tekst), "\n") << '\n';
+  uit_ << Toonbaar(NaarUtf8(titel)) << ": " << Toonbaar(utf8, "\n") << '\n';
 }
 
 Antwoord StilleDialogen::Toon(const Melding& melding) {
-  Schrijf(melding.Titel, melding.Tekst);
+  Schrijf(melding.Titel, GetoondeTekst(melding));
   return Antwoord::Cancel;
 }
 
 std::string StilleDialogen::Invoer(const InvoerVraag& vraag) {
-  Schrijf(vraag.Titel, vraag.Tekst);
+  Schrijf(vraag.Titel, NaarUtf8(vraag.Tekst));
   return {};
 }
 
 std::filesystem::path StilleDialogen::OpenDialoog(const BestandVraag& vraag) {
-  Schrijf(vraag.Titel, vraag.Filter);
+  Schrijf(vraag.Titel, NaarUtf8(vraag.Filter));
   throw Fout(FoutNummer::DialoogGeannuleerd);
 }
 

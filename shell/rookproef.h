@@ -32,7 +32,7 @@ class StilleDialogen final : public Dialogen {
   void Wachten(bool /*aan*/) override {}
 
  private:
-  void Schrijf(std::string_view titel, std::string_view tekst);
+  void Schrijf(std::string_view titel, std::string_view utf8);
 
   std::ostream& uit_;
   bool gevraagd_ = false;

@@ -5,6 +5,7 @@
 #include <system_error>
 
 #include "basis/bestand.h"
+#include "basis/bewaar.h"
 #include "basis/fout.h"
 
 namespace murvane {
@@ -97,11 +98,16 @@ std::string InstellingenBytes(const Instellingen& instellingen) {
 }
 
 Instellingen LeesInstellingen(const std::filesystem::path& pad) {
-  return OverBestand(PadTekst(pad), [&pad] { return InstellingenUitBytes(LeesBestand(pad, RuimGenoeg)); });
+  return OverBestand(PadTekst(pad), [&pad] {
+    const Inhoud inhoud = LeesInhoud(pad);
+    Instellingen uit = InstellingenUitBytes(inhoud.Bytes);
+    uit.Gelezen = Onthoud(inhoud, InstellingenBytes(uit));
+    return uit;
+  });
 }
 
 void SchrijfInstellingen(const Instellingen& instellingen, const std::filesystem::path& pad) {
-  VervangBestand(pad, InstellingenBytes(instellingen));
+  SchrijfBeeld(pad, InstellingenBytes(instellingen), Staart::Vervalt);
 }
 
 void ZetGebruikersnaam(Instellingen& instellingen, std::string_view antwoord) {

@@ -4,9 +4,11 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 
+#include "basis/stempel.h"
 #include "basis/tekst.h"
 #include "reports/lettertype.h"
 
@@ -18,6 +20,7 @@ struct Instellingen {
   DrukInstelling Druk;                           ///< font and styles of the printed form
   Tekst<35> GebruikerLabel{StandaardGebruiker};  ///< user name for labels: its first "&" doubled
   Tekst<35> Gebruikersnaam{StandaardGebruiker};  ///< user name as printed
+  std::optional<Herinnering> Gelezen{};          ///< of the file that they were read from
 };
 
 /// The settings of a file image. Lines end with CR LF or LF; a number line holds one integer with blanks
@@ -30,7 +33,8 @@ struct Instellingen {
 /// them.
 [[nodiscard]] std::string InstellingenBytes(const Instellingen& instellingen);
 
-/// Reading and writing the file; failures of LeesBestand and VervangBestand, with the file's name.
+/// Reading and writing the file; failures of LeesInhoud and VervangBestand, with the file's name. Writing
+/// overwrites whatever stands there.
 [[nodiscard]] Instellingen LeesInstellingen(const std::filesystem::path& pad);
 void SchrijfInstellingen(const Instellingen& instellingen, const std::filesystem::path& pad);
 

@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
@@ -13,11 +14,17 @@
 #include <array>
 #include <atomic>
 #include <cerrno>
+#include <chrono>
 #include <csignal>
 #include <cstring>
+#include <fstream>
+#include <latch>
 #include <memory>
+#include <set>
 #include <thread>
+#include <utility>
 
+#include "basis/greep.h"
 #include "tests/hulp/bestanden.h"
 #include "tests/hulp/ingreep.h"
 
@@ -155,6 +162,52 @@ TEST(LeesBestand, IsFout75ForADiskThatFailsHalfway) {
   Ingreep ingreep([&i](Aanroep wat) { return wat == Aanroep::Lees && ++i == 3 ? EIO : 0; });
   ingreep.GrootsteStuk = 3;
   EXPECT_EQ(LeesNummer(map / Naam), 75);
+}
+
+// Reading a file that has to be a regular one.
+
+TEST(LeesInhoud, GivesTheBytesAndTheStampOfAFile) {
+  const TijdelijkeMap map;
+  Schrijf(map / Naam, "honderd bytes");
+  const Inhoud inhoud = LeesInhoud(map / Naam);
+  EXPECT_EQ(inhoud.Bytes, "honderd bytes");
+  EXPECT_EQ(inhoud.Stempel.Grootte, 13U);
+  EXPECT_EQ(inhoud.Stempel.Gelezen, 13U);
+  EXPECT_EQ(inhoud.Stempel.Hash, HashVan("honderd bytes"));
+  struct stat is {};
+  ASSERT_EQ(::stat((map / Naam).c_str(), &is), 0);
+  EXPECT_EQ(inhoud.Stempel.Tijd, is.st_mtim.tv_sec * 1'000'000'000 + is.st_mtim.tv_nsec);
+}
+
+TEST(LeesInhoud, StopsWhereNoProjectOrCatalogueGoes) {
+  const TijdelijkeMap map;
+  Schrijf(map / Naam, std::string(RuimGenoeg + 5, 'x'));
+  const Inhoud inhoud = LeesInhoud(map / Naam);
+  EXPECT_EQ(inhoud.Bytes, std::string(RuimGenoeg, 'x'));
+  EXPECT_EQ(inhoud.Stempel.Grootte, RuimGenoeg + 5);
+  EXPECT_EQ(inhoud.Stempel.Gelezen, RuimGenoeg);
+}
+
+TEST(LeesInhoud, IsFout75AtOnceForWhatIsNoRegularFile) {
+  const TijdelijkeMap map;
+  ASSERT_EQ(::mkfifo((map / "pijp.mrv").c_str(), 0666), 0);  // nobody writes to it
+  fs::create_symlink("pijp.mrv", map / "link.mrv");
+  fs::create_directory(map / "map.mrv");
+  for (const fs::path& pad : {map / "pijp.mrv", map / "link.mrv", map / "map.mrv", fs::path("/dev/zero")}) {
+    EXPECT_EQ(NummerVan([&] { return LeesInhoud(pad).Bytes.size(); }), 75) << pad;
+    EXPECT_EQ(BestandVan([&] { return LeesInhoud(pad); }), PadTekst(pad));
+  }
+  EXPECT_EQ(NummerVan([&] { return LeesInhoud(map / "weg").Bytes.size(); }), 53);
+  EXPECT_EQ(NummerVan([&] { return LeesInhoud("").Bytes.size(); }), 52);
+}
+
+TEST(LeesInhoud, TellsOfAFileThatCannotBeAskedOrRead) {
+  const TijdelijkeMap map;
+  Schrijf(map / Naam, "x");
+  for (const Aanroep wat : {Aanroep::Open, Aanroep::FStat, Aanroep::Lees}) {
+    const Ingreep ingreep([wat](Aanroep dit) { return dit == wat ? EIO : 0; });
+    EXPECT_EQ(NummerVan([&] { return LeesInhoud(map / Naam).Bytes.size(); }), 75);
+  }
 }
 
 // What a save leaves.
@@ -367,6 +420,61 @@ TEST(VervangBestand, FollowsAsManyLinksAsTheSystemDoes) {
   EXPECT_EQ(Lees(map / "link0"), "bereikt");
 }
 
+// The system's protection of links in shared directories is its own: /proc/sys/fs/protected_symlinks.
+TEST(VervangBestand, LeavesItToTheSystemWhoseLinksAreFollowed) {
+  const TijdelijkeMap map;
+  fs::permissions(map.Pad(), fs::perms::all | fs::perms::sticky_bit);
+  fs::create_directory(map / "doel");
+  fs::permissions(map / "doel", fs::perms::all);
+  Schrijf(map / "doel" / "er al", "oud");
+  fs::permissions(map / "doel" / "er al", fs::perms(0666));
+  const bool beheerder = ::geteuid() == 0;  // only it can have another's link here
+  bool beschermd = false;
+  std::ifstream("/proc/sys/fs/protected_symlinks") >> beschermd;
+  for (const char* naam : {"er al", "nog niet"}) {
+    fs::create_symlink(fs::path("doel") / naam, map / naam);
+    EXPECT_TRUE(!beheerder || ::lchown((map / naam).c_str(), 65533, 65533) == 0);
+    const int nummer = AlsGewoneGebruiker([&] { return Bewaar(map / naam, "nieuw"); });
+    EXPECT_EQ(nummer, beheerder && beschermd ? 70 : 0) << naam;
+  }
+}
+
+TEST(VervangBestand, FollowsNoLinkThatTheSystemRefuses) {
+  const TijdelijkeMap map;
+  Schrijf(map / "doel", "oud");
+  fs::create_symlink("doel", map / "link");
+  fs::create_symlink("nog niet", map / "los");
+  for (const char* naam : {"link", "los"}) {
+    int geopend = 0;
+    const Ingreep ingreep([&](Aanroep wat) { return wat == Aanroep::Open && ++geopend == 1 ? EACCES : 0; });
+    EXPECT_EQ(Bewaar(map / naam, "nieuw"), 70);
+    EXPECT_EQ(geopend, 1);
+  }
+  EXPECT_EQ(Lees(map / "doel"), "oud");
+  EXPECT_THAT(map.Namen(), ElementsAre("doel", "link", "los"));
+}
+
+TEST(VervangBestand, LeavesNothingBehindALinkToNothingWhenItFails) {
+  const TijdelijkeMap map;
+  fs::create_symlink("nog niet", map / "los");
+  for (const Aanroep wat : {Aanroep::LStat, Aanroep::Schrijf, Aanroep::Leeg, Aanroep::Hernoem}) {
+    const Ingreep ingreep([wat](Aanroep dit) { return dit == wat ? EIO : 0; });
+    EXPECT_EQ(Bewaar(map / "los", "nieuw"), 75);
+    EXPECT_THAT(map.Namen(), ElementsAre("los")) << static_cast<int>(wat);
+  }
+}
+
+// The text of such a link is that of the old name and " (deleted)".
+TEST(VervangBestand, RefusesAFileThatHasNoNameAnyMore) {
+  const TijdelijkeMap map;
+  Schrijf(map / Naam, "oud");
+  const int nummer = ::open((map / Naam).c_str(), O_RDWR | O_CLOEXEC);
+  fs::remove(map / Naam);
+  EXPECT_EQ(Bewaar("/proc/self/fd/" + std::to_string(nummer), "nieuw"), 75);
+  ::close(nummer);
+  EXPECT_THAT(map.Namen(), IsEmpty());
+}
+
 TEST(VervangBestand, WritesStraightToWhatIsNotARegularFile) {
   const TijdelijkeMap map;
   fs::create_symlink("/dev/null", map / "niets");
@@ -545,8 +653,9 @@ TEST(VervangBestand, LeavesNoNewFileWhenTheDiskIsFullAtAnyByte) {
 }
 
 /// One failing system call of a save of 3 new bytes over an old file of 6 whose tail stays. Its calls are:
-/// Open 1, Sluit 1   whether the old file may be written
-/// Open 2            the new file; then Stat, FStat and Rechten
+/// Open 1, LeesLink, LStat, FStat 1, Sluit 1   the old file, which may be written, and where it stands; the
+///                   last three are asked in another way when one fails
+/// Open 2, Grendel   the new file; then Stat, FStat 2 and Rechten
 /// Schrijf 1         the new bytes
 /// Open 3, Zoek 1, Lees 1, Schrijf 2, Lees 2, Sluit 2   the old tail
 /// Leeg 1, Sluit 3, Hernoem 1
@@ -559,23 +668,25 @@ struct Hapering {
 };
 
 constexpr Hapering Haperingen[] = {
-    {Aanroep::Open, 1, EACCES, 70},    {Aanroep::Open, 1, EROFS, 70},     {Aanroep::Open, 1, ETXTBSY, 75},
-    {Aanroep::Open, 1, EMFILE, 75},    {Aanroep::Open, 1, EINTR, 0},      {Aanroep::Sluit, 1, EIO, 0},
-    {Aanroep::Open, 2, ENOSPC, 61},    {Aanroep::Open, 2, EDQUOT, 61},    {Aanroep::Open, 2, EACCES, 70},
-    {Aanroep::Open, 2, EMFILE, 75},    {Aanroep::Open, 2, EINVAL, 52},    {Aanroep::Open, 2, EILSEQ, 52},
-    {Aanroep::Open, 2, EINTR, 0},      {Aanroep::Open, 2, EEXIST, 0},     {Aanroep::Stat, 1, EIO, 75},
-    {Aanroep::FStat, 1, EIO, 75},      {Aanroep::Rechten, 1, EPERM, 70},  {Aanroep::Rechten, 1, EIO, 75},
-    {Aanroep::Schrijf, 1, ENOSPC, 61}, {Aanroep::Schrijf, 1, EDQUOT, 61}, {Aanroep::Schrijf, 1, EFBIG, 61},
-    {Aanroep::Schrijf, 1, EIO, 75},    {Aanroep::Schrijf, 1, EINTR, 0},   {Aanroep::Open, 3, EACCES, 70},
-    {Aanroep::Open, 3, EMFILE, 75},    {Aanroep::Zoek, 1, EIO, 75},       {Aanroep::Lees, 1, EIO, 75},
-    {Aanroep::Lees, 1, EINTR, 0},      {Aanroep::Lees, 2, EIO, 75},       {Aanroep::Schrijf, 2, ENOSPC, 61},
-    {Aanroep::Schrijf, 2, EIO, 75},    {Aanroep::Sluit, 2, EIO, 0},       {Aanroep::Leeg, 1, EIO, 75},
-    {Aanroep::Leeg, 1, ENOSPC, 61},    {Aanroep::Leeg, 1, EDQUOT, 61},    {Aanroep::Leeg, 1, EINTR, 0},
-    {Aanroep::Sluit, 3, EIO, 75},      {Aanroep::Sluit, 3, ENOSPC, 61},   {Aanroep::Sluit, 3, EDQUOT, 61},
-    {Aanroep::Sluit, 3, EINTR, 0},     {Aanroep::Hernoem, 1, EACCES, 70}, {Aanroep::Hernoem, 1, EPERM, 70},
-    {Aanroep::Hernoem, 1, EROFS, 70},  {Aanroep::Hernoem, 1, EBUSY, 75},  {Aanroep::Hernoem, 1, EXDEV, 75},
-    {Aanroep::Hernoem, 1, ENOSPC, 61}, {Aanroep::Hernoem, 1, EISDIR, 75}, {Aanroep::Open, 4, EACCES, 0},
-    {Aanroep::Leeg, 2, EINVAL, 0},     {Aanroep::Sluit, 4, EIO, 0}};
+    {Aanroep::Open, 1, EACCES, 70},    {Aanroep::Open, 1, EROFS, 70},      {Aanroep::Open, 1, ETXTBSY, 75},
+    {Aanroep::Open, 1, EMFILE, 75},    {Aanroep::Open, 1, EINTR, 0},       {Aanroep::Sluit, 1, EIO, 0},
+    {Aanroep::Open, 2, ENOSPC, 61},    {Aanroep::Open, 2, EDQUOT, 61},     {Aanroep::Open, 2, EACCES, 70},
+    {Aanroep::Open, 2, EMFILE, 75},    {Aanroep::Open, 2, EINVAL, 52},     {Aanroep::Open, 2, EILSEQ, 52},
+    {Aanroep::Open, 2, EINTR, 0},      {Aanroep::Open, 2, EEXIST, 0},      {Aanroep::Stat, 1, EIO, 75},
+    {Aanroep::LeesLink, 1, ENOENT, 0}, {Aanroep::LStat, 1, EIO, 0},        {Aanroep::FStat, 1, EIO, 0},
+    {Aanroep::Open, 1, ELOOP, 75},     {Aanroep::Open, 1, EWOULDBLOCK, 0}, {Aanroep::Grendel, 1, ENOLCK, 0},
+    {Aanroep::Grendel, 1, EINTR, 0},   {Aanroep::FStat, 2, EIO, 75},       {Aanroep::Rechten, 1, EPERM, 70},
+    {Aanroep::Rechten, 1, EIO, 75},    {Aanroep::Schrijf, 1, ENOSPC, 61},  {Aanroep::Schrijf, 1, EDQUOT, 61},
+    {Aanroep::Schrijf, 1, EFBIG, 61},  {Aanroep::Schrijf, 1, EIO, 75},     {Aanroep::Schrijf, 1, EINTR, 0},
+    {Aanroep::Open, 3, EACCES, 70},    {Aanroep::Open, 3, EMFILE, 75},     {Aanroep::Zoek, 1, EIO, 75},
+    {Aanroep::Lees, 1, EIO, 75},       {Aanroep::Lees, 1, EINTR, 0},       {Aanroep::Lees, 2, EIO, 75},
+    {Aanroep::Schrijf, 2, ENOSPC, 61}, {Aanroep::Schrijf, 2, EIO, 75},     {Aanroep::Sluit, 2, EIO, 0},
+    {Aanroep::Leeg, 1, EIO, 75},       {Aanroep::Leeg, 1, ENOSPC, 61},     {Aanroep::Leeg, 1, EDQUOT, 61},
+    {Aanroep::Leeg, 1, EINTR, 0},      {Aanroep::Sluit, 3, EIO, 75},       {Aanroep::Sluit, 3, ENOSPC, 61},
+    {Aanroep::Sluit, 3, EDQUOT, 61},   {Aanroep::Sluit, 3, EINTR, 0},      {Aanroep::Hernoem, 1, EACCES, 70},
+    {Aanroep::Hernoem, 1, EPERM, 70},  {Aanroep::Hernoem, 1, EROFS, 70},   {Aanroep::Hernoem, 1, EBUSY, 75},
+    {Aanroep::Hernoem, 1, EXDEV, 75},  {Aanroep::Hernoem, 1, ENOSPC, 61},  {Aanroep::Hernoem, 1, EISDIR, 75},
+    {Aanroep::Open, 4, EACCES, 0},     {Aanroep::Leeg, 2, EINVAL, 0},      {Aanroep::Sluit, 4, EIO, 0}};
 
 TEST(VervangBestand, LeavesTheOldFileOrTheNewOneWhenASystemCallFails) {
   for (const auto& [wat, hoeveelste, code, nummer] : Haperingen) {
@@ -644,17 +755,127 @@ TEST(VervangBestand, FlushesTheFileBeforeItTakesItsName) {
   EXPECT_EQ(volgorde, "slhl");  // the last one is the directory's
 }
 
-TEST(VervangBestand, FindsANameBesideFilesThatKilledSavesLeft) {
+TEST(VervangBestand, TriesAnotherNameBesideTheFileWhenOneIsTaken) {
   const TijdelijkeMap map;
-  const std::string begin = "~murvane-" + std::to_string(::getpid()) + "-";
   Schrijf(map / Naam, "oud");
-  for (int i = 0; i < 99; ++i) Schrijf(map / (begin + std::to_string(i)), "rest");
-  EXPECT_EQ(Bewaar(map / Naam, "nieuw"), 0);
-  EXPECT_EQ(map.Namen().size(), 100U);
-  Schrijf(map / (begin + "99"), "rest");
-  EXPECT_EQ(Bewaar(map / Naam, "nieuwer"), 75);
+  const auto bewaar = [&](int bezet) {
+    int open = 0;  // the first one is that of the old file
+    const Ingreep ingreep(
+        [&](Aanroep wat) { return wat == Aanroep::Open && ++open > 1 && open <= 1 + bezet ? EEXIST : 0; });
+    return Bewaar(map / Naam, "nieuw");
+  };
+  EXPECT_EQ(bewaar(99), 0);
   EXPECT_EQ(Lees(map / Naam), "nieuw");
-  for (int i = 0; i < 100; ++i) EXPECT_EQ(Lees(map / (begin + std::to_string(i))), "rest");
+  EXPECT_EQ(bewaar(1000), 75);
+  EXPECT_THAT(map.Namen(), ElementsAre(Naam));
+}
+
+TEST(VervangBestand, NamesNoFileBesideItselfTwice) {
+  std::set<std::string> namen;
+  for (int i = 0; i < 10000; ++i) namen.insert(EigenNaam());
+  EXPECT_EQ(namen.size(), 10000U);
+  EXPECT_TRUE(namen.begin()->starts_with(std::to_string(::getpid()) + "-"));
+}
+
+// All of them stand between opening their new file and writing it at the same moment.
+TEST(VervangBestand, Saves256FilesOfOneDirectoryAtOnce) {
+  constexpr int Draden = 256;
+  const TijdelijkeMap map;
+  std::latch allen(Draden);
+  std::array<int, Draden> fouten{};
+  std::vector<std::thread> draden;
+  for (int i = 0; i < Draden; ++i) {
+    draden.emplace_back([&, i] {
+      const Ingreep ingreep([&allen](Aanroep wat) {
+        if (wat == Aanroep::Schrijf) allen.arrive_and_wait();
+        return 0;
+      });
+      fouten[static_cast<std::size_t>(i)] = Bewaar(map / ("p" + std::to_string(i)), std::to_string(i));
+      if (fouten[static_cast<std::size_t>(i)] != 0) allen.count_down();
+    });
+  }
+  for (std::thread& draad : draden) draad.join();
+  EXPECT_EQ(fouten, (std::array<int, Draden>{}));
+  EXPECT_EQ(map.Namen().size(), static_cast<std::size_t>(Draden));
+  for (int i = 0; i < Draden; ++i) EXPECT_EQ(Lees(map / ("p" + std::to_string(i))), std::to_string(i));
+}
+
+// What killed saves left.
+
+/// A file that was written so many hours ago.
+fs::path Rest(const TijdelijkeMap& map, std::string_view naam, int uren) {
+  Schrijf(map / naam, "rest");
+  fs::last_write_time(map / naam, fs::file_time_type::clock::now() - std::chrono::hours(uren));
+  return map / naam;
+}
+
+TEST(RuimRestenOp, RemovesWhatNobodyTouchedForADay) {
+  const TijdelijkeMap map;
+  Rest(map, "~murvane-1-0", 25);
+  Rest(map, "~murvane-4711-00112233aabbccdd", 1000);
+  Rest(map, "~murvane-1-1", 23);
+  Rest(map, "~murvane", 25);
+  Rest(map, "murvane-1-2", 25);
+  Rest(map, "kantoor.mrv", 25);
+  Rest(map, "oud", 25);
+  fs::create_symlink("oud", map / "~murvane-link");
+  fs::create_directory(map / "~murvane-map");
+  fs::last_write_time(map / "~murvane-map", fs::file_time_type::clock::now() - std::chrono::hours(25));
+  ASSERT_EQ(::mkfifo((map / "~murvane-pijp").c_str(), 0600), 0);
+  const auto bezet = Rest(map, "~murvane-bezet", 25);
+  const int nummer = ::open(bezet.c_str(), O_RDONLY | O_CLOEXEC);
+  ASSERT_EQ(::flock(nummer, LOCK_EX), 0);
+  RuimRestenOp(map.Pad());
+  ::close(nummer);
+  EXPECT_THAT(map.Namen(), ElementsAre("kantoor.mrv", "murvane-1-2", "oud", "~murvane", "~murvane-1-1",
+                                       "~murvane-bezet", "~murvane-link", "~murvane-map", "~murvane-pijp"));
+  RuimRestenOp(map / "geen map");
+}
+
+TEST(RuimRestenOp, LeavesWhatItCannotAskAfter) {
+  const TijdelijkeMap map;
+  Rest(map, "~murvane-1-0", 25);
+  for (const auto& [wat, code] :
+       {std::pair{Aanroep::Open, EACCES}, {Aanroep::FStat, EIO}, {Aanroep::Grendel, ENOLCK}}) {
+    const Ingreep ingreep([w = wat, c = code](Aanroep dit) { return dit == w ? c : 0; });
+    RuimRestenOp(map.Pad());
+    EXPECT_THAT(map.Namen(), ElementsAre("~murvane-1-0"));
+  }
+}
+
+TEST(RuimRestenOp, IsDoneByTheNextSaveBesideThem) {
+  const TijdelijkeMap map;
+  fs::create_directory(map / "daar");
+  fs::create_symlink("daar/a.mrv", map / "link.mrv");
+  for (const char* naam : {"nieuw.mrv", "daar/a.mrv", "link.mrv"}) {
+    Rest(map, "daar/~murvane-1-0", 25);
+    Rest(map, "~murvane-1-0", 25);
+    EXPECT_EQ(Bewaar(map / naam, "x"), 0);
+    const bool daar = fs::path(naam) != "nieuw.mrv";
+    EXPECT_EQ(fs::exists(map / "daar/~murvane-1-0"), !daar) << naam;
+    EXPECT_EQ(fs::exists(map / "~murvane-1-0"), daar) << naam;
+  }
+  Rest(map, "~murvane-1-0", 25);
+  VervangBestand(map / "nieuw.mrv", "y", Staart::Vervalt, Resten::Blijven);
+  EXPECT_TRUE(fs::exists(map / "~murvane-1-0"));
+}
+
+TEST(RuimRestenOp, LeavesAFileThatIsBeingWrittenForMoreThanADay) {
+  const TijdelijkeMap map;
+  int gezien = 0;
+  bool bezig = false;
+  Ingreep ingreep([&](Aanroep wat) {
+    if (wat != Aanroep::Leeg || bezig) return 0;
+    bezig = true;  // what follows is watched too
+    for (const std::string& naam : map.Namen()) {
+      fs::last_write_time(map / naam, fs::file_time_type::clock::now() - std::chrono::hours(25));
+      RuimRestenOp(map.Pad());
+      gezien += fs::exists(map / naam) ? 1 : 0;
+    }
+    return 0;
+  });
+  EXPECT_EQ(Bewaar(map / Naam, "nieuw"), 0);
+  EXPECT_EQ(gezien, 1);
 }
 
 // A program that is killed.

@@ -91,6 +91,7 @@ TEST(HuidigeFout, IsTheFoutThatWasCaught) {
 TEST(HuidigeFout, GivesOtherExceptionsTheirNumber) {
   EXPECT_EQ(Gevangen(std::bad_alloc()).Nummer(), FoutNummer::OnvoldoendeGeheugen);
   EXPECT_EQ(Gevangen(std::filesystem::filesystem_error("pad", {})).Nummer(), FoutNummer::PadToegang);
+  EXPECT_EQ(Gevangen(std::filesystem::filesystem_error("zin", "/een/pad", {})).Bestand(), "/een/pad");
   EXPECT_EQ(Gevangen(std::runtime_error("iets")).Nummer(), FoutNummer::InterneFout);
   EXPECT_EQ(Gevangen(7).Nummer(), FoutNummer::InterneFout);
 }

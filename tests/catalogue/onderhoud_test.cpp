@@ -701,8 +701,11 @@ TEST_P(ElkVenster, TellsAFailedSaveUnderTheNameOfFrmDuctAndLosesNothing) {
   v.Wijzig();
   const Onderhoud was = v.o;
   const std::string bytes = v.Met([](auto& catalogus) { return CatalogusBytes(catalogus); });
-  v.script.Box({MeldingSoort::Kritiek, "MurVane",
-                "Onverwachte fout in procedure cmdSluiten_Click van Form frmDuct.\nFout 61 - Schijf vol."});
+  v.script.Box(
+      {MeldingSoort::Kritiek, "MurVane",
+       "Onverwachte fout in procedure cmdSluiten_Click van Form frmDuct.\nFout 61 - De schijf is vol; "
+       "het bestand '" +
+           std::string(v.Verschil().Bestand) + "' is niet geschreven."});
   {
     const Schijfgrens vol(100);
     EXPECT_FALSE(cmdSluiten_Click(v.o, v.catalogi, map.Pad(), v.script));
@@ -711,9 +714,10 @@ TEST_P(ElkVenster, TellsAFailedSaveUnderTheNameOfFrmDuctAndLosesNothing) {
   EXPECT_EQ(v.Met([](auto& catalogus) { return CatalogusBytes(catalogus); }), bytes);
   EXPECT_EQ(v.o.Velden, was.Velden);
   EXPECT_TRUE(v.o.Invoer);
-  v.script.Box(
-      {MeldingSoort::Kritiek, "MurVane",
-       "Onverwachte fout in procedure cmdSluiten_Click van Form frmDuct.\nFout 76 - Map niet gevonden."});
+  v.script.Box({MeldingSoort::Kritiek, "MurVane",
+                "Onverwachte fout in procedure cmdSluiten_Click van Form frmDuct.\nFout 76 - De map 'geen "
+                "map' is niet "
+                "gevonden."});
   EXPECT_FALSE(cmdSluiten_Click(v.o, v.catalogi, map / "geen map", v.script));
   EXPECT_TRUE(cmdSluiten_Click(v.o, v.catalogi, map.Pad(), v.script));
   EXPECT_EQ(Lees(pad), bytes);

@@ -403,8 +403,10 @@ TEST(OverzichtOpslaan, IsSilentWhenTheDialogIsCancelledAndTellsAFailure) {
   Opslaan(o, script);
   const auto pad = map / "geen map" / "a.plf";
   script.Opslaan(vraag, pad);
-  script.Box({MeldingSoort::Kritiek, "MurVane",
-              "Onverwachte fout in procedure Opslaan van Form frmOverzicht.\nFout 76 - Map niet gevonden."});
+  script.Box(
+      {MeldingSoort::Kritiek, "MurVane",
+       "Onverwachte fout in procedure Opslaan van Form frmOverzicht.\nFout 76 - De map 'geen map' is niet "
+       "gevonden."});
   Opslaan(o, script);
 }
 

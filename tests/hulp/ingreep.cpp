@@ -1,6 +1,7 @@
 #include "tests/hulp/ingreep.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -57,6 +58,9 @@ int __real_fchmod(int nummer, mode_t rechten);
 int __real_fchown(int nummer, uid_t eigenaar, gid_t groep);
 int __real_stat(const char* pad, struct stat* uit);
 int __real_fstat(int nummer, struct stat* uit);
+int __real_lstat(const char* pad, struct stat* uit);
+ssize_t __real_readlink(const char* pad, char* naar, size_t n);
+int __real_flock(int nummer, int wat);
 ssize_t __real_getxattr(const char* pad, const char* naam, void* naar, size_t n);
 int __real_fsetxattr(int nummer, const char* naam, const void* van, size_t n, int vlaggen);
 
@@ -102,6 +106,15 @@ int __wrap_stat(const char* pad, struct stat* uit) {
 }
 int __wrap_fstat(int nummer, struct stat* uit) {
   return Faalt(Aanroep::FStat) ? -1 : __real_fstat(nummer, uit);
+}
+int __wrap_lstat(const char* pad, struct stat* uit) {
+  return Faalt(Aanroep::LStat) ? -1 : __real_lstat(pad, uit);
+}
+ssize_t __wrap_readlink(const char* pad, char* naar, size_t n) {
+  return Faalt(Aanroep::LeesLink) ? -1 : __real_readlink(pad, naar, n);
+}
+int __wrap_flock(int nummer, int wat) {
+  return Faalt(Aanroep::Grendel) ? -1 : __real_flock(nummer, wat);
 }
 ssize_t __wrap_getxattr(const char* pad, const char* naam, void* naar, size_t n) {
   if (bezig == nullptr || bezig->Lijst.empty()) return __real_getxattr(pad, naam, naar, n);

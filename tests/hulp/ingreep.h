@@ -10,7 +10,23 @@
 
 namespace murvane::proef {
 
-enum class Aanroep { Open, Zoek, Lees, Schrijf, Leeg, Sluit, Hernoem, Rechten, Eigenaar, Stat, FStat, Lijst };
+enum class Aanroep {
+  Open,
+  Zoek,
+  Lees,
+  Schrijf,
+  Leeg,
+  Sluit,
+  Hernoem,
+  Rechten,
+  Eigenaar,
+  Stat,
+  FStat,
+  LStat,
+  LeesLink,
+  Grendel,
+  Lijst
+};
 
 /// While it lives, `besluit` is asked at every watched system call of this thread: 0 lets it happen, any
 /// other value is the errno with which it fails. A close that fails does close, as it does on the real

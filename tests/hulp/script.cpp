@@ -11,22 +11,24 @@ namespace fs = std::filesystem;
 
 namespace {
 
+// Whole questions in words, UTF-8.
+
 std::string Woorden(const Melding& m) {
   return "box " + std::to_string(static_cast<int>(m.Soort)) + "/" +
-         std::to_string(static_cast<int>(m.Knoppen)) + " [" + m.Titel + "] " + m.Tekst;
+         std::to_string(static_cast<int>(m.Knoppen)) + " [" + NaarUtf8(m.Titel) + "] " + GetoondeTekst(m);
 }
 std::string Woorden(const InvoerVraag& v) {
-  return "input box [" + v.Titel + "] " + v.Tekst + " {" + v.Standaard + "}";
+  return NaarUtf8("input box [" + v.Titel + "] " + v.Tekst + " {" + v.Standaard + "}");
 }
 std::string Woorden(const BestandVraag& v) {
-  return " dialog [" + v.Titel + "] " + v.Filter + " in {" + PadTekst(v.BeginMap) + "} name {" +
-         PadTekst(v.Naam) + "}" + (v.OverschrijfVraag ? " overwrite-prompt" : "") +
+  return " dialog [" + NaarUtf8(v.Titel) + "] " + NaarUtf8(v.Filter) + " in {" + PadTekst(v.BeginMap) +
+         "} name {" + PadTekst(v.Naam) + "}" + (v.OverschrijfVraag ? " overwrite-prompt" : "") +
          (v.BestandMoetBestaan ? " must-exist" : "") + (v.MapBlijft ? " keep-directory" : "") +
-         (v.Extensie.empty() ? "" : " extension {" + v.Extensie + "}");
+         (v.Extensie.empty() ? "" : " extension {" + NaarUtf8(v.Extensie) + "}");
 }
 std::string Woorden(const AfdrukVraag& v) {
-  return std::string("print dialog") + (v.NaarBestandMogelijk ? " to-file" : "") +
-         (v.Liggend ? " landscape" : "") + " {" + std::string(v.Document) + "}";
+  return NaarUtf8(std::string("print dialog") + (v.NaarBestandMogelijk ? " to-file" : "") +
+                  (v.Liggend ? " landscape" : "") + " {" + std::string(v.Document) + "}");
 }
 
 }  // namespace
@@ -54,17 +56,17 @@ Script& Script::Afdrukken(const AfdrukVraag& vraag, std::optional<AfdrukKeuze> a
 }
 
 void Script::IsKlaar() {
-  for (const Stap& stap : stappen_) meldFout_("never asked: " + NaarUtf8(stap.Vraag));
+  for (const Stap& stap : stappen_) meldFout_("never asked: " + stap.Vraag);
   stappen_.clear();
   if (wacht_) meldFout_("the wait cursor was left");
   wacht_ = false;
 }
 
 Script::Stap Script::Neem(const std::string& vraag) {
-  if (wacht_) meldFout_("asked under the wait cursor: " + NaarUtf8(vraag));
+  if (wacht_) meldFout_("asked under the wait cursor: " + vraag);
   if (stappen_.empty() || stappen_.front().Vraag != vraag) {
     const std::string verwacht = stappen_.empty() ? "nothing" : stappen_.front().Vraag;
-    meldFout_("asked: " + NaarUtf8(vraag) + "\nexpected: " + NaarUtf8(verwacht));
+    meldFout_("asked: " + vraag + "\nexpected: " + verwacht);
     return {};
   }
   Stap stap = std::move(stappen_.front());

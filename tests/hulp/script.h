@@ -50,7 +50,7 @@ class Script final : public Dialogen {
 
  private:
   struct Stap {
-    std::string Vraag;  ///< the whole question in words
+    std::string Vraag;  ///< the whole question in words, UTF-8
     Antwoord Gekozen = Antwoord::Cancel;
     std::string Tekst;
     std::optional<std::filesystem::path> Pad;

@@ -175,7 +175,7 @@ TEST_F(Printopdracht, ToAFileSavesTheTextReport) {
 TEST_F(Printopdracht, ToAFileTellsWhatFailsUnderItsOwnName) {
   script_.Afdrukken({true}, Keuze(1, true))
       .Opslaan(PrnVraag(), map_ / "weg/x.prn")
-      .Box(Onverwacht("AfdrukPrinter van Form frmMurvane", "76 - Map niet gevonden"));
+      .Box(Onverwacht("AfdrukPrinter van Form frmMurvane", "76 - De map 'weg' is niet gevonden"));
   Print();
   script_.Afdrukken({true}, Keuze(1, true)).Opslaan(PrnVraag(), std::nullopt);
   Print();
@@ -252,7 +252,8 @@ TEST_F(Prnopdracht, TellsWhatFailsAndKeepsTheOldFile) {
   proef::Schrijf(map_ / "oud.prn", "oud");
   programma_.Rapport.RapElementen = std::string(5000, 'e');
   script_.Opslaan(PrnVraag(), map_ / "oud.prn")
-      .Box(Onverwacht("Afdruk van Form frmResultaat", "61 - Schijf vol"));
+      .Box(Onverwacht("Afdruk van Form frmResultaat",
+                      "61 - De schijf is vol; het bestand 'oud.prn' is niet geschreven"));
   {
     const proef::Schijfgrens vol(1000);
     Afdruk(programma_, script_);
@@ -355,7 +356,7 @@ TEST_F(Bitmapopdracht, WritesEachPageUnderItsNumberAndNotTheNameItself) {
 TEST_F(Bitmapopdracht, RefusesAnotherExtension) {
   programma_.Voorbeeld = {true, 1, 2};
   script_.Opslaan(BmpVraag(), map_ / "x.BMP")
-      .Box(Onverwacht("Opslaan van Form frmPreView", "52 - Ongeldige bestandsnaam"));
+      .Box(Onverwacht("Opslaan van Form frmPreView", "52 - De bestandsnaam 'x.BMP' is ongeldig"));
   OpslaanAlsBitmap(programma_, script_, Beeld);
   script_.Opslaan(BmpVraag(), fs::path()).Opslaan(BmpVraag(), std::nullopt);
   OpslaanAlsBitmap(programma_, script_, Beeld);
@@ -367,7 +368,7 @@ TEST_F(Bitmapopdracht, GoesOnWithTheNextPageWhenOneFails) {
   programma_.Voorbeeld = {true, 1, 3};
   fs::create_directory(map_ / "x2.bmp");
   script_.Opslaan(BmpVraag(), map_ / "x.bmp")
-      .Box(Onverwacht("Opslaan van Form frmPreView", "75 - Geen toegang tot het bestand of de map"));
+      .Box(Onverwacht("Opslaan van Form frmPreView", "75 - Geen toegang tot het bestand of de map 'x2.bmp'"));
   OpslaanAlsBitmap(programma_, script_, Beeld);
   EXPECT_EQ(map_.Namen(), (Regels{"x1.bmp", "x2.bmp", "x3.bmp"}));
 }

@@ -21,22 +21,30 @@ using proef::Aanroep;
 using proef::Ingreep;
 using proef::Script;
 
-Melding Onverwacht(std::string_view procedureEnForm, std::string_view fout) {
+Melding Onverwacht(std::string_view procedureEnForm, std::string_view fout, Knoppen knoppen) {
   return {
       MeldingSoort::Kritiek, "MurVane",
-      "Onverwachte fout in procedure " + std::string(procedureEnForm) + ".\nFout " + std::string(fout) + "."};
+      "Onverwachte fout in procedure " + std::string(procedureEnForm) + ".\nFout " + NaarCp1252(fout) + ".",
+      knoppen};
 }
+// Opening and saving try again after OK, so there has to be another way out.
 Melding OpenFout(std::string_view fout) {
-  return Onverwacht("mnuOpen_Click van Form MDIMurvane", fout);
+  return Onverwacht("mnuOpen_Click van Form MDIMurvane", fout, Knoppen::OkCancel);
 }
 Melding OpslagFout(std::string_view fout) {
-  return Onverwacht("OpSlag van Form frmMurvane", fout);
+  return Onverwacht("OpSlag van Form frmMurvane", fout, Knoppen::OkCancel);
 }
 Melding ExitFout(std::string_view fout) {
-  return Onverwacht("mnuExit_Click van Form MDIMurvane", fout);
+  return Onverwacht("mnuExit_Click van Form MDIMurvane", fout, Knoppen::OK);
 }
 
-constexpr const char* VerkeerdeNaam = "52 - Ongeldige bestandsnaam";
+std::string VerkeerdeNaam(const std::string& naam) {
+  return "52 - De bestandsnaam '" + naam + "' is ongeldig";
+}
+/// A name that is refused before the system is asked.
+std::string GeenProjectnaam(const std::string& naam) {
+  return VerkeerdeNaam(naam) + ": een projectbestand eindigt op mrv, in kleine letters";
+}
 
 const Melding SluitVraag{
     MeldingSoort::Vraag, "Bestand sluiten",
@@ -164,7 +172,7 @@ TEST_F(mnuOpen, RefusedNameGoesBackToTheDialog) {
     const fs::path verkeerd = MaakBestand(naam);
     const fs::path goed = MaakBestand("goed.mrv");
     programma_.DialoogNaam.clear();
-    script_.Open(OpenVraag(), verkeerd).Box(OpenFout(VerkeerdeNaam)).Open(OpenVraag(verkeerd), goed);
+    script_.Open(OpenVraag(), verkeerd).Box(OpenFout(GeenProjectnaam(naam))).Open(OpenVraag(verkeerd), goed);
     EXPECT_EQ(Open().Panel1, "goed.mrv") << naam;
     IsVanSchijf();
   }
@@ -172,10 +180,10 @@ TEST_F(mnuOpen, RefusedNameGoesBackToTheDialog) {
 
 TEST_F(mnuOpen, RefusedNameCanBeGivenUpInTheBoxOrInTheDialog) {
   const fs::path verkeerd = MaakBestand("a.MRV");
-  script_.Open(OpenVraag(), verkeerd).Box(OpenFout(VerkeerdeNaam), Antwoord::Cancel);
+  script_.Open(OpenVraag(), verkeerd).Box(OpenFout(GeenProjectnaam("a.MRV")), Antwoord::Cancel);
   EXPECT_FALSE(Open().Geopend);
   script_.Open(OpenVraag(verkeerd), verkeerd)
-      .Box(OpenFout(VerkeerdeNaam))
+      .Box(OpenFout(GeenProjectnaam("a.MRV")))
       .Open(OpenVraag(verkeerd), std::nullopt);
   EXPECT_FALSE(Open().Geopend);
   IsOngewijzigd();
@@ -189,15 +197,14 @@ TEST_F(mnuOpen, TellsWhyAFileCannotBeReadAndAsksForAnother) {
   proef::Zet(lang, 610, proef::I16(501));
   proef::Schrijf(map_ / "lang.mrv", lang);
   const struct {
-    std::string naam;
-    const char* fout;
+    std::string naam, fout;
   } rijen[] = {
-      {"weg.mrv", "53 - Bestand niet gevonden"},
-      {"weg/weg.mrv", "76 - Map niet gevonden"},
-      {"map.mrv", "75 - Geen toegang tot het bestand of de map"},
-      {"kort.mrv", "62 - Het bestand eindigt te vroeg"},
-      {"lang.mrv", "9 - Index buiten het bereik"},
-      {std::string(300, 'x') + ".mrv", VerkeerdeNaam},
+      {"weg één.mrv", "53 - Het bestand 'weg één.mrv' is niet gevonden"},
+      {"geen map/weg.mrv", "76 - De map 'geen map' is niet gevonden"},
+      {"map.mrv", "75 - Geen toegang tot het bestand of de map 'map.mrv'"},
+      {"kort.mrv", "62 - Het bestand 'kort.mrv' eindigt te vroeg"},
+      {"lang.mrv", "9 - Index buiten het bereik in het bestand 'lang.mrv'"},
+      {std::string(300, 'x') + ".mrv", VerkeerdeNaam(std::string(300, 'x') + ".mrv")},
   };
   const fs::path bestand = MaakBestand("goed.mrv");
   for (const auto& rij : rijen) {
@@ -216,9 +223,9 @@ TEST_F(mnuOpen, TellsWhyAFileCannotBeReadAndAsksForAnother) {
 TEST_F(mnuOpen, TellsOfAFileThatMayNotBeRead) {
   const fs::path bestand = MaakBestand("dicht.mrv");
   auto dicht = std::make_unique<Ingreep>([](Aanroep wat) { return wat == Aanroep::Open ? EACCES : 0; });
-  script_.Open(OpenVraag(), bestand).Box(OpenFout("70 - Geen toestemming"), Antwoord::OK, [&] {
-    dicht.reset();
-  });
+  script_.Open(OpenVraag(), bestand)
+      .Box(OpenFout("70 - Geen toestemming voor het bestand 'dicht.mrv'"), Antwoord::OK,
+           [&] { dicht.reset(); });
   script_.Open(OpenVraag(bestand), bestand);
   EXPECT_TRUE(Open().Geopend);
   IsVanSchijf();
@@ -226,7 +233,7 @@ TEST_F(mnuOpen, TellsOfAFileThatMayNotBeRead) {
 
 TEST_F(mnuOpen, ReadsTheFileOfTheCommandLineAgainAfterOK) {
   programma_.OpenBestand = map_ / "later.mrv";
-  const Melding weg = OpenFout("53 - Bestand niet gevonden");
+  const Melding weg = OpenFout("53 - Het bestand 'later.mrv' is niet gevonden");
   script_.Box(weg).Box(weg, Antwoord::OK, [this] { (void)MaakBestand("later.mrv"); });
   const OpenUitkomst uit = Open();
   EXPECT_TRUE(uit.Geopend);
@@ -238,7 +245,7 @@ TEST_F(mnuOpen, ReadsTheFileOfTheCommandLineAgainAfterOK) {
 
 TEST_F(mnuOpen, ForgetsAFileOfTheCommandLineThatIsGivenUp) {
   programma_.OpenBestand = map_ / "weg.mrv";
-  script_.Box(OpenFout("53 - Bestand niet gevonden"), Antwoord::Cancel);
+  script_.Box(OpenFout("53 - Het bestand 'weg.mrv' is niet gevonden"), Antwoord::Cancel);
   const OpenUitkomst uit = Open();
   EXPECT_FALSE(uit.Geopend);
   EXPECT_EQ(uit.Panel1, "");
@@ -291,7 +298,7 @@ TEST_F(OpSlagTest, RefusedNameGoesBackToTheDialog) {
   for (const char* naam : {"a", "a.MRV", "a.Mrv", "a.mrv ", "a.prn", "rv"}) {
     const fs::path verkeerd = map_ / naam;
     programma_.DialoogNaam.clear();
-    script_.Opslaan(OpslaanVraag(), verkeerd).Box(OpslagFout(VerkeerdeNaam));
+    script_.Opslaan(OpslaanVraag(), verkeerd).Box(OpslagFout(GeenProjectnaam(naam)));
     script_.Opslaan(OpslaanVraag(verkeerd), map_ / "goed.mrv");
     EXPECT_EQ(Opslaan(), OpslagUitkomst::Gesloten) << naam;
     EXPECT_EQ(map_.Namen(), (std::vector<std::string>{"data één", "goed.mrv"}));
@@ -301,9 +308,9 @@ TEST_F(OpSlagTest, RefusedNameGoesBackToTheDialog) {
 
 TEST_F(OpSlagTest, RefusedNameCanBeGivenUpInTheBoxOrInTheDialog) {
   const fs::path verkeerd = map_ / "a.MRV";
-  script_.Opslaan(OpslaanVraag(), verkeerd).Box(OpslagFout(VerkeerdeNaam), Antwoord::Cancel);
+  script_.Opslaan(OpslaanVraag(), verkeerd).Box(OpslagFout(GeenProjectnaam("a.MRV")), Antwoord::Cancel);
   EXPECT_EQ(Opslaan(), OpslagUitkomst::Opgegeven);
-  script_.Opslaan(OpslaanVraag(verkeerd), verkeerd).Box(OpslagFout(VerkeerdeNaam));
+  script_.Opslaan(OpslaanVraag(verkeerd), verkeerd).Box(OpslagFout(GeenProjectnaam("a.MRV")));
   script_.Opslaan(OpslaanVraag(verkeerd), std::nullopt);
   EXPECT_EQ(Opslaan(), OpslagUitkomst::Geannuleerd);
   EXPECT_EQ(map_.Namen(), std::vector<std::string>{"data één"});
@@ -311,14 +318,14 @@ TEST_F(OpSlagTest, RefusedNameCanBeGivenUpInTheBoxOrInTheDialog) {
 
 TEST_F(OpSlagTest, NameThatTheSystemRefusesGoesBackToTheDialogToo) {
   const fs::path verkeerd = map_ / (std::string(300, 'x') + ".mrv");
-  script_.Opslaan(OpslaanVraag(), verkeerd).Box(OpslagFout(VerkeerdeNaam));
+  script_.Opslaan(OpslaanVraag(), verkeerd).Box(OpslagFout(VerkeerdeNaam(verkeerd.filename().string())));
   script_.Opslaan(OpslaanVraag(verkeerd), map_ / "goed.mrv");
   EXPECT_EQ(Opslaan(), OpslagUitkomst::Gesloten);
 }
 
 TEST_F(OpSlagTest, FailedWriteIsDoneAgainUnderTheSameName) {
   const fs::path bestand = map_ / "nieuw" / "a.mrv";
-  const Melding fout = OpslagFout("76 - Map niet gevonden");
+  const Melding fout = OpslagFout("76 - De map 'nieuw' is niet gevonden");
   script_.Opslaan(OpslaanVraag(), bestand).Box(fout).Box(fout, Antwoord::OK, [this] {
     fs::create_directory(map_ / "nieuw");
   });
@@ -335,8 +342,8 @@ TEST_F(OpSlagTest, NameRefusedWhileWritingAgainIsAskedForAnew) {
     return ++keer == 1 ? ENOSPC : EINVAL;
   });
   script_.Opslaan(OpslaanVraag(), bestand)
-      .Box(OpslagFout("61 - Schijf vol"))
-      .Box(OpslagFout(VerkeerdeNaam), Antwoord::OK, [&] { schijf.reset(); })
+      .Box(OpslagFout("61 - De schijf is vol; het bestand 'a.mrv' is niet geschreven"))
+      .Box(OpslagFout(VerkeerdeNaam("a.mrv")), Antwoord::OK, [&] { schijf.reset(); })
       .Opslaan(OpslaanVraag(bestand), map_ / "b.mrv");
   EXPECT_EQ(Opslaan(), OpslagUitkomst::Gesloten);
   EXPECT_EQ(map_.Namen(), (std::vector<std::string>{"b.mrv", "data één"}));
@@ -348,10 +355,10 @@ TEST_F(OpSlagTest, GivenUpLeavesProjectAndFileAsTheyWere) {
     int code;
     const char* fout;
   } rijen[] = {
-      {Aanroep::Open, EACCES, "70 - Geen toestemming"},
-      {Aanroep::Schrijf, ENOSPC, "61 - Schijf vol"},
-      {Aanroep::Leeg, EIO, "75 - Geen toegang tot het bestand of de map"},
-      {Aanroep::Hernoem, EACCES, "70 - Geen toestemming"},
+      {Aanroep::Open, EACCES, "70 - Geen toestemming voor het bestand 'oud.mrv'"},
+      {Aanroep::Schrijf, ENOSPC, "61 - De schijf is vol; het bestand 'oud.mrv' is niet geschreven"},
+      {Aanroep::Leeg, EIO, "75 - Geen toegang tot het bestand of de map 'oud.mrv'"},
+      {Aanroep::Hernoem, EACCES, "70 - Geen toestemming voor het bestand 'oud.mrv'"},
   };
   const fs::path bestand = map_ / "oud.mrv";
   proef::Schrijf(bestand, "oud");
@@ -436,7 +443,7 @@ TEST_F(mnuExit, AsksFirstWhenAProjectIsOpen) {
 TEST_F(mnuExit, EndsAlsoWhenTheDirectoryIsGone) {
   fs::remove_all(programma_.DataDir);
   for (const Antwoord antwoord : {Antwoord::OK, Antwoord::Cancel}) {
-    script_.Box(ExitFout("76 - Map niet gevonden"), antwoord);
+    script_.Box(ExitFout("76 - De map 'data één' is niet gevonden"), antwoord);
     EXPECT_EQ(Exit(false), Vervolg::Einde);
     EXPECT_EQ(script_.KeerGewacht(), 0);  // nothing was written elsewhere
   }
@@ -447,8 +454,9 @@ TEST_F(mnuExit, EndsAlsoWhenTheSettingsCannotBeWritten) {
     Aanroep wat;
     int code;
     const char* fout;
-  } rijen[] = {{Aanroep::Open, EACCES, "70 - Geen toestemming"},
-               {Aanroep::Schrijf, ENOSPC, "61 - Schijf vol"}};
+  } rijen[] = {
+      {Aanroep::Open, EACCES, "70 - Geen toestemming voor het bestand 'murvane.set'"},
+      {Aanroep::Schrijf, ENOSPC, "61 - De schijf is vol; het bestand 'murvane.set' is niet geschreven"}};
   for (const auto& rij : rijen) {
     script_.Box(ExitFout(rij.fout));
     {
@@ -475,7 +483,8 @@ TEST_F(mnuExit, TellsOfADirectoryThatMayNotBeEntered) {
       Melding& melding;
     } stil(gezien);
     return mnuExit_Click(programma_, stil, false) == Vervolg::Einde &&
-           gezien == ExitFout("70 - Geen toestemming");
+           GetoondeTekst(gezien) ==
+               GetoondeTekst(ExitFout("70 - Geen toestemming voor het bestand 'murvane.set'"));
   });
   fs::permissions(dicht, fs::perms::all);
   EXPECT_EQ(goed, 1);
@@ -508,7 +517,7 @@ TEST_F(FormUnload, EndsAlsoWhenTheSaveIsCancelled) {
 TEST_F(FormUnload, KeepsTheProjectOpenWhenAFailedSaveIsGivenUp) {
   script_.Box(AfsluitVraag, Antwoord::Yes)
       .Opslaan(OpslaanVraag(), map_ / "weg" / "a.mrv")
-      .Box(OpslagFout("76 - Map niet gevonden"), Antwoord::Cancel);
+      .Box(OpslagFout("76 - De map 'weg' is niet gevonden"), Antwoord::Cancel);
   EXPECT_EQ(Form_Unload(programma_, script_, true, Bewaard), Vervolg::GaatDoor);
   IsOngewijzigd();
 }

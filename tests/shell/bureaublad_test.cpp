@@ -155,7 +155,7 @@ TEST_F(Werkplekken, OnlyFilesAreCopied) {
 
 TEST_F(Werkplekken, AFullDiskIsToldAndTheDeliveredDataTaken) {
   proef::Schrijf(map_ / "usr/share/murvane/data/Duct.dat", std::string(5000, 'x'));
-  script_.Box(Mislukt("Fout 61 - Schijf vol."));
+  script_.Box(Mislukt("Fout 61 - De schijf is vol; het bestand 'Duct.dat' is niet geschreven."));
   {
     const proef::Schijfgrens vol(1000);
     EXPECT_EQ(Kies().Map, map_ / "usr/share/murvane/data");
@@ -186,7 +186,7 @@ TEST_F(Werkplekken, AUserWithoutADirectoryIsTold) {
 
 TEST_F(Werkplekken, WithoutDeliveredDataItStaysWhereItIs) {
   fs::remove_all(map_ / "usr/share");
-  script_.Box(Mislukt("Fout 53 - Bestand niet gevonden."));
+  script_.Box(Mislukt("Fout 53 - Het bestand 'murvane.set' is niet gevonden."));
   EXPECT_EQ(Kies().Map, map_ / "werk");
   EXPECT_EQ(fs::current_path(), map_ / "werk");
   EXPECT_FALSE(fs::exists(Eigen()));

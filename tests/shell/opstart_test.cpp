@@ -181,7 +181,7 @@ TEST_F(Opstart, EndsAtACatalogueAbove500Records) {
     proef::Schrijf(Map("hier") / Bestanden[k], Catalogusbeeld(k, 500));
     EXPECT_EQ(Start(), Vervolg::GaatDoor) << k;
     proef::Schrijf(Map("hier") / Bestanden[k], Catalogusbeeld(k, 501));
-    script_.Box(Onverwacht("9 - Index buiten het bereik"));
+    script_.Box(Onverwacht("9 - Index buiten het bereik in het bestand '" + std::string(Bestanden[k]) + "'"));
     EXPECT_EQ(Start(), Vervolg::Einde) << k;
   }
 }
@@ -201,16 +201,17 @@ TEST_F(Opstart, EndsAtAnyOtherFailure) {
     std::string bytes;
     const char* fout;
   } rijen[] = {
-      {"murvane.set", "", "62 - Het bestand eindigt te vroeg (regel 1)"},
+      {"murvane.set", "", "62 - Het bestand 'murvane.set' eindigt te vroeg (regel 1)"},
       {"murvane.set", "F\r\n 12 \r\n 3 \r\n 2 \r\n 1 \r\nJ\r\n",
-       "62 - Het bestand eindigt te vroeg (regel 7)"},
-      {"murvane.set", "F\r\ntwaalf\r\n 3 \r\n 2 \r\n 1 \r\nJ\r\nJ\r\n", "13 - Geen geldig getal (regel 2)"},
+       "62 - Het bestand 'murvane.set' eindigt te vroeg (regel 7)"},
+      {"murvane.set", "F\r\ntwaalf\r\n 3 \r\n 2 \r\n 1 \r\nJ\r\nJ\r\n",
+       "13 - Geen geldig getal in het bestand 'murvane.set' (regel 2)"},
       {"murvane.set", "F\r\n 32768 \r\n 3 \r\n 2 \r\n 1 \r\nJ\r\nJ\r\n",
-       "6 - Overloop: een getal is te groot of onbepaald (regel 2)"},
-      {"Duct.dat", Catalogusbeeld(1, 1).substr(0, 291), "62 - Het bestand eindigt te vroeg"},
-      {"Fan.dat", Catalogusbeeld(2, 2).substr(0, 289), "62 - Het bestand eindigt te vroeg"},
-      {"Rduct.dat", "\1", "62 - Het bestand eindigt te vroeg"},
-      {"Rplaf.dat", "", "62 - Het bestand eindigt te vroeg"},
+       "6 - Overloop: een getal is te groot of onbepaald in het bestand 'murvane.set' (regel 2)"},
+      {"Duct.dat", Catalogusbeeld(1, 1).substr(0, 291), "62 - Het bestand 'Duct.dat' eindigt te vroeg"},
+      {"Fan.dat", Catalogusbeeld(2, 2).substr(0, 289), "62 - Het bestand 'Fan.dat' eindigt te vroeg"},
+      {"Rduct.dat", "\1", "62 - Het bestand 'Rduct.dat' eindigt te vroeg"},
+      {"Rplaf.dat", "", "62 - Het bestand 'Rplaf.dat' eindigt te vroeg"},
   };
   for (const auto& rij : rijen) {
     MaakMap("hier");
@@ -226,7 +227,7 @@ TEST_F(Opstart, ADirectoryInPlaceOfAFileIsNoMissingFile) {
     MaakMap("hier");
     fs::remove(Map("hier") / bestand);
     fs::create_directory(Map("hier") / bestand);
-    script_.Box(Onverwacht("75 - Geen toegang tot het bestand of de map"));
+    script_.Box(Onverwacht("75 - Geen toegang tot het bestand of de map '" + std::string(bestand) + "'"));
     EXPECT_EQ(Start(), Vervolg::Einde) << bestand;
     fs::remove(Map("hier") / bestand);
   }
@@ -234,7 +235,7 @@ TEST_F(Opstart, ADirectoryInPlaceOfAFileIsNoMissingFile) {
 
 TEST_F(Opstart, EndsWhenTheDataDirectoryItselfIsGone) {
   fs::remove_all(Map("hier"));
-  script_.Box(Onverwacht("76 - Map niet gevonden"));
+  script_.Box(Onverwacht("76 - De map 'hier' is niet gevonden"));
   EXPECT_EQ(Start(), Vervolg::Einde);
 }
 
@@ -249,8 +250,8 @@ TEST_F(Opstart, ReadsTheFilesInOrderSoThatTheFirstFailureCounts) {
     MaakMap("hier");  // the other way round
     proef::Schrijf(Map("hier") / Bestanden[eerste], "");
     fs::remove(Map("hier") / Bestanden[eerste + 1]);
-    script_.Box(Onverwacht(eerste == 0 ? "62 - Het bestand eindigt te vroeg (regel 1)"
-                                       : "62 - Het bestand eindigt te vroeg"));
+    script_.Box(Onverwacht("62 - Het bestand '" + std::string(Bestanden[eerste]) + "' eindigt te vroeg" +
+                           (eerste == 0 ? " (regel 1)" : "")));
     EXPECT_EQ(Start(), Vervolg::Einde) << eerste;
   }
 }

@@ -178,6 +178,48 @@ TEST_F(Dialoogvensters, AQuestionOfYesAndNoIsLeftByItsButtonsOnly) {
   }
 }
 
+TEST_F(Dialoogvensters, TheQuestionAboutAChangedFileHasItsOwnButtonsAndChangesNothingByItself) {
+  const struct {
+    Knoppen Welke;
+    QStringList Opschriften;
+  } rijen[] = {{Knoppen::OverschrijvenCancel, {"Annuleren", "Overschrijven"}},
+               {Knoppen::OverschrijvenAndersCancel, {"Anders opslaan…", "Annuleren", "Overschrijven"}}};
+  const auto druk = [](const QString& opschrift) {
+    return [opschrift](QDialog& box) {
+      for (QAbstractButton* const knop : box.findChildren<QPushButton*>())
+        if (knop->text() == opschrift) return knop->click();
+      ADD_FAILURE() << opschrift.toStdString();
+      box.close();
+    };
+  };
+  for (const auto& rij : rijen) {
+    EXPECT_EQ(Vraag(rij.Welke,
+                    [&rij](QDialog& box) {
+                      EXPECT_EQ(Opschriften(box), rij.Opschriften);
+                      const auto* const focus = qobject_cast<QPushButton*>(box.focusWidget());
+                      ASSERT_NE(focus, nullptr);
+                      EXPECT_EQ(focus->text(), "Annuleren");
+                      EXPECT_TRUE(focus->isDefault());
+                      Robot::Druk(box, Qt::Key_Return);
+                    }),
+              Antwoord::Cancel);
+    EXPECT_EQ(Vraag(rij.Welke, [](QDialog& box) { Robot::Druk(box, Qt::Key_Escape); }), Antwoord::Cancel);
+    EXPECT_EQ(Vraag(rij.Welke, [](QDialog& box) { box.close(); }), Antwoord::Cancel);
+    EXPECT_EQ(Vraag(rij.Welke, druk("Overschrijven")), Antwoord::Overschrijven);
+    EXPECT_EQ(Vraag(rij.Welke, druk("Annuleren")), Antwoord::Cancel);
+  }
+  EXPECT_EQ(Vraag(Knoppen::OverschrijvenAndersCancel, druk("Anders opslaan…")), Antwoord::Anders);
+}
+
+TEST_F(Dialoogvensters, ABoxShowsAFileNameInItsOwnCharacters) {
+  robot.Dan([](QDialog& dialoog) {
+    EXPECT_EQ(dynamic_cast<QMessageBox&>(dialoog).text(),
+              "'Łódź <b>&x.mrv' is intussen door een ander programma gewijzigd.");
+    Robot::Druk(dialoog, Qt::Key_Escape);
+  });
+  EXPECT_EQ(dialogen.Toon(GewijzigdVraag(PadVan("/d/Łódź <b>&x.mrv"), false)), Antwoord::Cancel);
+}
+
 TEST_F(Dialoogvensters, TheFirstButtonIsTheDefault) {
   const std::array<std::pair<Knoppen, QMessageBox::StandardButton>, 3> rijen = {
       {{Knoppen::OK, QMessageBox::Ok},

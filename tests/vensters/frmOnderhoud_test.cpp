@@ -301,8 +301,10 @@ TEST_F(OnderhoudVensters, StayOpenWhenASaveFails) {
     Open(soort);
     std::filesystem::create_directory(map / OnderhoudVan(soort).Bestand);
     script.Box({MeldingSoort::Kritiek, "MurVane",
-                "Onverwachte fout in procedure cmdSluiten_Click van Form frmDuct.\nFout 75 - " +
-                    std::string(Beschrijving(FoutNummer::PadToegang)) + "."});
+                "Onverwachte fout in procedure cmdSluiten_Click van Form frmDuct.\nFout 75 - Geen toegang "
+                "tot het bestand of "
+                "de map '" +
+                    std::string(OnderhoudVan(soort).Bestand) + "'."});
     Alt(Qt::Key_S);
     EXPECT_TRUE(venster->isVisible());
     EXPECT_FALSE(venster->IsBewaard());
@@ -781,6 +783,46 @@ TEST_F(UitHoofdvenster, SluitenFillsTheListsOfTheProjectAgainAndTheCloseButtonDo
   EXPECT_EQ(lstTotaal->item(11)->text(), "Anders");
   EXPECT_EQ(lstTotaal->count(), programma.Catalogi.CatElementen.Aantal);
   EXPECT_EQ(map.Namen(), (std::vector<std::string>{"Duct.dat", "Fan.dat"}));
+}
+
+TEST_F(UitHoofdvenster, SluitenOfAnUnchangedListShowsWhatAnotherProgramMadeOfIt) {
+  SchrijfCatalogus(programma.Catalogi.CatFans, map / "Fan.dat");
+  programma.Catalogi.CatFans = LeesSpectra(map / "Fan.dat");
+  Kies("mnuNieuw");
+  auto* const lstFan = ZoekIn<QListWidget>(hoofd.get(), "lstFan");
+  SpectrumCatalogus hun = programma.Catalogi.CatFans;
+  hun.Records[1].SpecNaam = "Van een ander";
+  ZodraOpen([&](QWidget* venster) {
+    SchrijfCatalogus(hun, map / "Fan.dat");
+    ZoekIn<QPushButton>(venster, "cmdSluiten")->click();
+    EXPECT_FALSE(venster->isVisible());
+  });
+  Kies("mnuFan");
+  EXPECT_EQ(lstFan->item(0)->text(), "Van een ander");
+  EXPECT_EQ(CatalogusBytes(programma.Catalogi.CatFans), CatalogusBytes(hun));
+}
+
+TEST_F(UitHoofdvenster, AListThatBothChangedStaysOpenUntilTheUserOverwrites) {
+  SchrijfCatalogus(programma.Catalogi.CatFans, map / "Fan.dat");
+  programma.Catalogi.CatFans = LeesSpectra(map / "Fan.dat");
+  Kies("mnuNieuw");
+  SpectrumCatalogus hun = programma.Catalogi.CatFans;
+  hun.Records[1].SpecNaam = "Van een ander";
+  programma.Catalogi.CatFans.Records[1].SpecNaam = "Van ons";
+  ZodraOpen([&](QWidget* venster) {
+    SchrijfCatalogus(hun, map / "Fan.dat");
+    auto* const cmdSluiten = ZoekIn<QPushButton>(venster, "cmdSluiten");
+    script.Box(GewijzigdVraag(map / "Fan.dat", false), Antwoord::Cancel);
+    cmdSluiten->click();
+    EXPECT_TRUE(venster->isVisible());
+    EXPECT_EQ(proef::Lees(map / "Fan.dat"), CatalogusBytes(hun));
+    script.Box(GewijzigdVraag(map / "Fan.dat", false), Antwoord::Overschrijven);
+    cmdSluiten->click();
+    EXPECT_FALSE(venster->isVisible());
+  });
+  Kies("mnuFan");
+  EXPECT_EQ(ZoekIn<QListWidget>(hoofd.get(), "lstFan")->item(0)->text(), "Van ons");
+  EXPECT_EQ(proef::Lees(map / "Fan.dat"), CatalogusBytes(programma.Catalogi.CatFans));
 }
 
 /// Deletes the last record of the list in a window, and leaves by the button in its title bar.

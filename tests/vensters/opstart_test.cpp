@@ -142,7 +142,9 @@ TEST_F(EchteStart, ACatalogueOf501RecordsEndsTheProgram) {
     bytes.resize(2 + 501 * 300, ' ');
     Schrijf(data / naam, bytes);
     Box("MurVane",
-        "Onverwachte fout in procedure MDIForm_Load van Form MDIMurvane.\nFout 9 - Index buiten het bereik.");
+        QString("Onverwachte fout in procedure MDIForm_Load van Form MDIMurvane.\nFout 9 - Index buiten "
+                "het bereik in het bestand '%1'.")
+            .arg(naam));
     EXPECT_EQ(Start(PadTekst(BronData / "kantoor.mrv")), Vervolg::Einde) << naam;
     EXPECT_EQ(venster, nullptr);
   }
@@ -150,7 +152,9 @@ TEST_F(EchteStart, ACatalogueOf501RecordsEndsTheProgram) {
 
 TEST_F(EchteStart, AProjectThatCannotBeReadIsToldOnceAndForgotten) {
   Box("MurVane",
-      "Onverwachte fout in procedure mnuOpen_Click van Form MDIMurvane.\nFout 53 - Bestand niet gevonden.",
+      "Onverwachte fout in procedure mnuOpen_Click van Form MDIMurvane.\nFout 53 - Het bestand 'weg één.mrv' "
+      "is "
+      "niet gevonden.",
       Qt::Key_Escape);
   EXPECT_EQ(Start(PadTekst(map / "weg één.mrv")), Vervolg::GaatDoor);
   EXPECT_TRUE(programma.OpenBestand.empty());

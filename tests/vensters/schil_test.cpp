@@ -142,9 +142,11 @@ TEST_F(Schil, TheInformationWindowTellsProductUserAndNotes) {
 }
 
 TEST_F(Schil, MissingNotesAreToldAndTheInformationOpens) {
-  script.Box({MeldingSoort::Kritiek, "MurVane",
-              "Onverwachte fout in procedure Form_Load van Form frmAbout.\nFout 53 - Bestand niet gevonden.",
-              Knoppen::OK});
+  script.Box(
+      {MeldingSoort::Kritiek, "MurVane",
+       std::string(
+           "Onverwachte fout in procedure Form_Load van Form frmAbout.\nFout 53 - Het bestand 'levering é.txt' is niet gevonden."_cp),
+       Knoppen::OK});
   frmAbout info(instellingen, map / "levering é.txt", script, nullptr);
   info.show();
   EXPECT_TRUE(info.isVisible());
@@ -358,7 +360,8 @@ TEST_F(HoofdMenu, TheInformationWindowIsNotOpenedTwice) {
 
 TEST_F(HoofdMenu, TheInformationWindowWithoutItsNotesIsLeftWithTheIconsCommandEnabled) {
   script.Box({MeldingSoort::Kritiek, "MurVane",
-              "Onverwachte fout in procedure Form_Load van Form frmAbout.\nFout 53 - Bestand niet gevonden.",
+              "Onverwachte fout in procedure Form_Load van Form frmAbout.\nFout 53 - Het bestand "
+              "'levering.txt' is niet gevonden.",
               Knoppen::OK},
              Antwoord::OK, [this] { EXPECT_FALSE(Actie("mnuTaakInfo")->isEnabled()); });
   const auto sluit = [this] { venster->findChild<frmAbout*>()->reject(); };
