@@ -206,7 +206,7 @@ void MDIMurvane::VulVensterMenu(QMenu& menu) {
   menu.clear();
   for (QMdiSubWindow* const kader : gebied_->subWindowList(QMdiArea::CreationOrder)) {
     const bool isProject = kader->widget() == project_;
-    QAction* const actie = menu.addAction(isProject ? QString("Project") : kader->windowTitle());
+    QAction* const actie = menu.addAction(isProject ? "Project" : ZonderSneltoets(kader->windowTitle()));
     actie->setCheckable(true);
     actie->setChecked(kader == gebied_->activeSubWindow());
     connect(actie, &QAction::triggered, gebied_, [this, kader] { gebied_->setActiveSubWindow(kader); });
