@@ -185,6 +185,7 @@ bool VulGrafiek(Programma& programma, Dialogen& dialogen, const GrafiekKeuze& ki
   if (VraagtGrafiekKeuze(type)) programma.KiesGrafiek = kiesGrafiek();
   const auto fout = Probeer([&] {
     const Zandloper zandloper(dialogen);
+    programma.Grafiek.As.Decimaal = programma.Decimaal;
     Grafiek2(programma.Project, programma.Resultaten, programma.KiesGrafiek, programma.Grafiek);
   });
   if (fout) MeldGrafiekfout(dialogen);

@@ -382,6 +382,14 @@ TEST_F(Grafiekopdracht, AsksAndShows) {
   EXPECT_EQ(script_.KeerGewacht(), 1);
 }
 
+TEST_F(Grafiekopdracht, TakesTheDecimalSignOfTheProgram) {
+  for (const char decimaal : {'.', ','}) {
+    programma_.Decimaal = decimaal;
+    EXPECT_TRUE(VulGrafiek(programma_, script_, Kiest(kiesgrafiek::EenMeter)));
+    EXPECT_EQ(programma_.Grafiek.As.Decimaal, decimaal);
+  }
+}
+
 TEST_F(Grafiekopdracht, WaitsForTheChartAndNotForTheUser) {
   const auto kies = [this]() -> std::int16_t {
     EXPECT_EQ(script_.KeerGewacht(), 0);
