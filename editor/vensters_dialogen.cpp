@@ -4,6 +4,7 @@
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QGridLayout>
@@ -15,10 +16,14 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QShowEvent>
+#include <system_error>
+#include <vector>
 
 #include "basis/bestand.h"
 #include "basis/fout.h"
 #include "basis/vensters_hulp.h"
+#include "editor/vensters_plakken.h"
+#include "reports/preview.h"
 #include "reports/vensters_vlak.h"
 
 namespace murvane {
@@ -103,14 +108,55 @@ QString FilterVan(const std::string& filter) {
   return tekst.left(tekst.indexOf(" (")) + " (" + tekst.mid(streep + 1) + ")";
 }
 
+/// The toolkit's file dialog, with a question of its own about what is overwritten.
+class Bestandvenster : public QFileDialog {
+ public:
+  Bestandvenster(QWidget* ouder, const BestandVraag& vraag)
+      : QFileDialog(ouder, VanCp(vraag.Titel)), vraag_(vraag) {
+    setOption(DontConfirmOverwrite);
+  }
+
+  void accept() override {
+    const bool akkoord = !vraag_.OverschrijfVraag || selectedFiles().isEmpty() ||
+                         MagOverschrijven(VanQt(selectedFiles().constFirst()));
+    if (akkoord) QFileDialog::accept();
+  }
+
+ private:
+  /// A name that no pages can be saved under is refused once the dialog has gone.
+  [[nodiscard]] std::vector<std::filesystem::path> Doelen(const std::filesystem::path& naam) const {
+    std::vector<std::filesystem::path> uit = {naam};
+    if (vraag_.Bladen > 0 && Probeer([&] { uit = BitmapNamen(naam, vraag_.Bladen); })) uit.clear();
+    return uit;
+  }
+
+  bool MagOverschrijven(const std::filesystem::path& naam) {
+    QStringList erAl;
+    std::error_code geen;
+    if (std::filesystem::is_directory(naam, geen)) return true;  // the dialog goes into it
+    for (const auto& doel : Doelen(naam))
+      if (std::filesystem::exists(doel, geen)) erAl << NaarQt(doel.filename());
+    if (erAl.isEmpty()) return true;
+    const QString vraag =
+        QCoreApplication::translate("QFileDialog", "%1 already exists.\nDo you want to replace it?");
+    QMessageBox box(QMessageBox::Warning, windowTitle(), {}, QMessageBox::Yes | QMessageBox::No, this);
+    box.setTextFormat(Qt::PlainText);
+    box.setText(erAl.size() == 1 ? QString(vraag).replace("%1", erAl.constFirst())
+                                 : erAl.join('\n') + "\n\nDeze bestanden bestaan al. Wilt u ze vervangen?");
+    box.setDefaultButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
+  }
+
+  const BestandVraag& vraag_;
+};
+
 std::filesystem::path Vraag(QWidget* ouder, const BestandVraag& vraag, QFileDialog::AcceptMode wijze) {
-  QFileDialog dialoog(ouder, VanCp(vraag.Titel));
+  Bestandvenster dialoog(ouder, vraag);
   // The toolkit's own dialog: the system's would speak the system's language.
   dialoog.setOption(QFileDialog::DontUseNativeDialog);
   dialoog.setAcceptMode(wijze);
   dialoog.setNameFilter(FilterVan(vraag.Filter));
   dialoog.setFileMode(vraag.BestandMoetBestaan ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
-  dialoog.setOption(QFileDialog::DontConfirmOverwrite, !vraag.OverschrijfVraag);
   const std::filesystem::path map = vraag.Naam.has_parent_path() ? vraag.Naam.parent_path() : vraag.BeginMap;
   dialoog.setDirectory(map.empty() ? QDir::currentPath() : NaarQt(map));
   dialoog.setDefaultSuffix(VanCp(vraag.Extensie));

@@ -22,7 +22,8 @@ std::string Woorden(const BestandVraag& v) {
   return " dialog [" + v.Titel + "] " + v.Filter + " in {" + PadTekst(v.BeginMap) + "} name {" +
          PadTekst(v.Naam) + "}" + (v.OverschrijfVraag ? " overwrite-prompt" : "") +
          (v.BestandMoetBestaan ? " must-exist" : "") + (v.MapBlijft ? " keep-directory" : "") +
-         (v.Extensie.empty() ? "" : " extension {" + v.Extensie + "}");
+         (v.Extensie.empty() ? "" : " extension {" + v.Extensie + "}") +
+         (v.Bladen == 0 ? "" : " pages " + std::to_string(v.Bladen));
 }
 std::string Woorden(const AfdrukVraag& v) {
   return std::string("print dialog") + (v.NaarBestandMogelijk ? " to-file" : "") +

@@ -51,7 +51,13 @@ class Afdrukken : public testing::Test {
     vraag.Extensie = "prn";
     return vraag;
   }
-  static BestandVraag BmpVraag() { return Opslaan("Bitmap-bestanden (*.bmp)|*.bmp"); }
+  /// A name without an extension gets one; the files of the pages are what is overwritten.
+  [[nodiscard]] BestandVraag BmpVraag() const {
+    BestandVraag vraag = Opslaan("Bitmap-bestanden (*.bmp)|*.bmp");
+    vraag.Extensie = "bmp";
+    vraag.Bladen = programma_.Voorbeeld.LaatstePagina;
+    return vraag;
+  }
 
   /// The sheet that the printer's next document is drawn on stays here for the test to look at.
   struct Doorgeef final : Vlak {
