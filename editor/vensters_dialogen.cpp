@@ -226,13 +226,14 @@ Antwoord SchermDialogen::Toon(const Melding& melding) {
 std::string SchermDialogen::Invoer(const InvoerVraag& vraag) {
   QInputDialog dialoog(Ouder());
   dialoog.setWindowTitle(VanCp(vraag.Titel));
-  dialoog.setLabelText(VanCp(vraag.Tekst).replace('&', "&&"));  // the label takes one for a mnemonic
+  dialoog.setLabelText(ZonderSneltoets(VanCp(vraag.Tekst)));
   if (auto* const label = dialoog.findChild<QLabel*>()) label->setTextFormat(Qt::PlainText);
   dialoog.setTextValue(VanCp(vraag.Standaard));
   if (auto* const veld = dialoog.findChild<QLineEdit*>()) {
     veld->setAccessibleName(dialoog.windowTitle());
     veld->setAccessibleDescription(VanCp(vraag.Tekst) + "\nLeeg is hetzelfde als Annuleren.");
     PasTitel(*veld, dialoog.windowTitle());
+    BewaakTekst(*veld);
   }
   return dialoog.exec() == QDialog::Accepted ? NaarCp(dialoog.textValue()) : std::string();
 }
