@@ -177,6 +177,9 @@ class Afdrukvenster : public QPrintDialog {
     vinkje_ = new QCheckBox("Afdrukken naar &bestand (tekstrapport, *.prn)", this);
     vinkje_->setObjectName("chkNaarBestand");
     vinkje_->setAccessibleDescription("Bewaart het rapport als tekst en drukt niets af.");
+    // The button that prints looks at the name of the printer's file, unless that is disabled.
+    if (auto* const printer = findChild<QWidget*>("printerGroup"))
+      connect(vinkje_, &QCheckBox::toggled, printer, &QWidget::setDisabled);
     indeling->insertWidget(indeling->count() - 1, vinkje_);
   }
   [[nodiscard]] bool NaarBestand() const { return vinkje_ != nullptr && vinkje_->isChecked(); }
