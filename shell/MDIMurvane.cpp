@@ -279,7 +279,7 @@ void MDIMurvane::ToonToestand() {
   const bool isBerekend = balk.Paneel1Beeld != 0 && statusBar()->currentMessage().isEmpty();
   if (isBerekend && beeld_->isHidden()) ZetStatusBeeld();
   beeld_->setVisible(isBerekend);
-  paneel1_->setText(VanCp(balk.Paneel1));
+  paneel1_->setText(QString::fromStdString(balk.Paneel1));
   paneel2_->setText(VanCp(balk.Paneel2));
   paneel3_->setText(VanCp(balk.Paneel3));
 }

@@ -94,7 +94,7 @@ std::string Openen(Programma& programma, Dialogen& dialogen, const fs::path& pad
   const Zandloper zandloper(dialogen);
   Project gelezen = LeesProject(pad);
   fs::path naam = Volledig(pad);
-  std::string panel1 = NaarCp1252Getoond(PadTekst(naam.filename()));
+  std::string panel1 = PadTekst(naam.filename());
   programma.Project = std::move(gelezen);
   programma.DialoogNaam = std::move(naam);
   return panel1;
