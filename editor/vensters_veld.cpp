@@ -319,6 +319,7 @@ void Keuzevak::ZetTekst(const QString& tekst) {
   }
   setEditText(tekst);
   lineEdit()->setCursorPosition(0);
+  ZetAchtergrond(*this, VeldKleur);  // what the program puts in a box is right
 }
 
 void Keuzevak::wheelEvent(QWheelEvent* event) {

@@ -248,6 +248,8 @@ TEST_F(Plakken, AWallsNameGoesByTheRuleToo) {
   QApplication::sendEvent(keuze, &toets);
   EXPECT_EQ(keuze->currentText(), "Wandl");
   EXPECT_TRUE(rood());
+  OpenVoorbeeld("kantoor.mrv");
+  EXPECT_FALSE(rood()) << "of the project before";
 }
 
 TEST_F(Plakken, ARecordsNameGoesByTheRuleToo) {
