@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <optional>
 
 #include "basis/fout.h"
 #include "basis/utf8.h"
@@ -150,6 +149,11 @@ std::string NaarCp1252Getoond(std::string_view utf8) {
     }
   }
   return uit;
+}
+
+std::optional<char> TypbaarTeken(char32_t teken) {
+  const bool bestuurt = teken < ' ' || (teken >= 0x7F && teken < 0xA0);
+  return bestuurt ? std::nullopt : ByteVan(teken);
 }
 
 }  // namespace murvane

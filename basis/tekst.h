@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -59,6 +60,10 @@ class Tekst {
 /// The same for a text that is only shown, as a file's name: "?" for each character outside the code page and
 /// for each byte that is no part of UTF-8.
 [[nodiscard]] std::string NaarCp1252Getoond(std::string_view utf8);
+
+/// A character (a Unicode code point) that can be typed, in Windows-1252; nothing for one that the code page
+/// lacks and for a control character.
+[[nodiscard]] std::optional<char> TypbaarTeken(char32_t teken);
 
 namespace intern {
 

@@ -29,6 +29,10 @@ std::string NaarCp(const QString& tekst) {
   return uit;
 }
 
+QString ZonderSneltoets(QString tekst) {
+  return tekst.replace('&', "&&");
+}
+
 QColor KleurVan(std::uint32_t bgr) {
   return QColor(static_cast<int>(bgr & 0xFF), static_cast<int>(bgr >> 8 & 0xFF),
                 static_cast<int>(bgr >> 16 & 0xFF));

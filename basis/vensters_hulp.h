@@ -21,6 +21,10 @@ namespace murvane {
 /// Text of the screen for the program; a character that the code page lacks becomes a question mark.
 [[nodiscard]] std::string NaarCp(const QString& tekst);
 
+/// A text for a menu, a button or a label that belongs to a control: the toolkit takes an "&" there for the
+/// mark of a mnemonic, unless it is doubled.
+[[nodiscard]] QString ZonderSneltoets(QString tekst);
+
 /// The colour of a blue-green-red number.
 [[nodiscard]] QColor KleurVan(std::uint32_t bgr);
 

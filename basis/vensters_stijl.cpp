@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QIconEngine>
+#include <QLabel>
 #include <QMdiSubWindow>
 #include <QPainter>
 #include <QStyleOption>
@@ -167,6 +168,8 @@ QPalette Leesbaar(QPalette palet) {
 void Stijl::polish(QWidget* vak) {
   QProxyStyle::polish(vak);
   if (IsSchuifvak(vak)) vak->installEventFilter(this);
+  auto* const label = qobject_cast<QLabel*>(vak);
+  if (label != nullptr && label->textFormat() == Qt::AutoText) label->setTextFormat(Qt::PlainText);
 }
 
 void Stijl::unpolish(QWidget* vak) {

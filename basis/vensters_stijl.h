@@ -19,6 +19,8 @@ class Stijl : public QProxyStyle {
 
   using QProxyStyle::polish;
   using QProxyStyle::unpolish;
+  /// Also makes a label that would guess whether its text is mark-up show it as it stands: those of the
+  /// program, of the toolkit's own boxes, and tool tips. A name out of a file loads no pictures.
   void polish(QWidget* vak) override;
   void unpolish(QWidget* vak) override;
   void drawPrimitive(PrimitiveElement deel, const QStyleOption* optie, QPainter* schilder,

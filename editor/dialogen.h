@@ -2,6 +2,7 @@
 // What the program asks and tells its user, behind one abstract seam: the windows stand on its other side, a
 // script does in a test. Texts are Windows-1252, file names are paths.
 
+#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <memory>
@@ -32,6 +33,7 @@ struct BestandVraag {
   bool BestandMoetBestaan = false;   ///< takes no name of a file that does not exist
   bool MapBlijft = false;            ///< leaves the current directory alone
   std::string Extensie{};            ///< added to a name to save under that has none; empty adds nothing
+  std::int16_t Bladen = 0;           ///< so many numbered files are saved instead, those of BitmapNamen
 
   friend bool operator==(const BestandVraag&, const BestandVraag&) = default;
 };

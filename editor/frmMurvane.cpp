@@ -394,7 +394,7 @@ void frmMurvane::Open(int n) {
     if (opening.SSTab2Zichtbaar) SSTab2->setCurrentIndex(static_cast<int>(opening.Beeld.OpPagina));
     SSTab2->setVisible(opening.SSTab2Zichtbaar);
     ZetOpschriften(project_.Elementen[static_cast<std::size_t>(n)].ElementType);
-    lblElement->setText(VanCp(TrimRechts(RijProject(project_, n))));
+    lblElement->setText(ZonderSneltoets(VanCp(TrimRechts(RijProject(project_, n)))));
     tekening_->ZetType(project_.Elementen[static_cast<std::size_t>(n)].ElementType);
     tekening_->Belicht({});
   }

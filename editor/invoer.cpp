@@ -153,15 +153,6 @@ const VeldRegel& Zoek(Voorwaarde voldoet) {
   return *regel;
 }
 
-bool InCodepagina(char32_t teken) {
-  if (teken < 0x80 || (teken >= 0xA0 && teken <= 0xFF)) return teken >= ' ';
-  // the 27 characters that stand where Unicode has control characters
-  constexpr std::u32string_view Overige =
-      U"\u20AC\u201A\u0192\u201E\u2026\u2020\u2021\u02C6\u2030\u0160\u2039\u0152\u017D"
-      U"\u2018\u2019\u201C\u201D\u2022\u2013\u2014\u02DC\u2122\u0161\u203A\u0153\u017E\u0178";
-  return Overige.find(teken) != std::u32string_view::npos;
-}
-
 VeldId VolgendeInReeks(const VeldRegel& regel, VeldId veld) {
   const int volgende = veld.Index + 1;
   return {veld.Naam, volgende < regel.Eerste + regel.Aantal ? volgende : regel.Eerste};
@@ -185,7 +176,7 @@ Toets MagToets(const VeldRegel& regel, char32_t teken) {
   constexpr char32_t Backspace = 8;
   constexpr char32_t Escape = 27;
   const bool mag = teken == Backspace || teken == Escape ||
-                   (regel.Toetsen.empty() ? InCodepagina(teken)
+                   (regel.Toetsen.empty() ? TypbaarTeken(teken).has_value()
                                           : teken < 0x80 && regel.Toetsen.find(static_cast<char>(teken)) !=
                                                                 std::string_view::npos);
   return {.Toegestaan = mag, .Achtergrond = mag ? VeldKleur : FoutKleur};

@@ -69,8 +69,8 @@ struct Toets {
 };
 
 /// Whether a field takes a typed character (a Unicode code point; 8 is backspace, 27 Escape, both always
-/// allowed). A field without a key filter takes whatever the code page has. Enter is VolgendVeld's, and what
-/// is pasted is judged when the field is left.
+/// allowed). A field without a key filter takes whatever the code page has. Enter is VolgendVeld's; what is
+/// pasted goes through NeemGeplakt and is judged when the field is left.
 [[nodiscard]] Toets MagToets(const VeldRegel& regel, char32_t teken);
 
 /// Where Enter goes: the first successor that is `beschikbaar` (shown and enabled); a successor that is not

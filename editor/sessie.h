@@ -36,7 +36,7 @@ inline constexpr std::string_view GeenInvoer = "Geen invoer";
 
 struct Sessie {
   murvane::Toestand Toestand = Toestand::GeenProject;
-  std::string Bestand{GeenBestand};     ///< panel 1, Windows-1252
+  std::string Bestand{GeenBestand};     ///< panel 1: a file's own name, in UTF-8
   std::int16_t Vlag = vlag::Gewijzigd;  ///< Berekend's last flag; nothing reads it back
   std::string Aanroep;                  ///< Berekend's last caller, by number; it decides nothing
 };
@@ -131,7 +131,7 @@ inline constexpr Tab StartPagina = Tab::Projectgegevens;
 
 // ---- What the windows show ----
 
-/// The status bar.
+/// The status bar. Panel 1 is UTF-8, as a file's name may have any character.
 struct StatusBalk {
   std::string Paneel1;
   int Paneel1Beeld = 0;  ///< number in the main window's image list; 0 for none
@@ -171,7 +171,8 @@ Gevolg Reset(Sessie& sessie, Elementlijst& lijst, Project& project);
 /// The state of a new project, behind Reset.
 void ZetNieuw(Sessie& sessie, Elementlijst& lijst);
 
-/// The state of a project that was read; `naam` is the bare file name. The project counts as changed.
+/// The state of a project that was read; `naam` is the bare file name, in UTF-8. The project counts as
+/// changed.
 Gevolg ZetGeopend(Sessie& sessie, Elementlijst& lijst, std::string_view naam);
 
 /// The end of every project, saved or not: Reset and Settings.

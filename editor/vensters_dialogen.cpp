@@ -4,6 +4,7 @@
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QGridLayout>
@@ -16,10 +17,14 @@
 #include <QPrinter>
 #include <QPushButton>
 #include <QShowEvent>
+#include <system_error>
+#include <vector>
 
 #include "basis/bestand.h"
 #include "basis/fout.h"
 #include "basis/vensters_hulp.h"
+#include "editor/vensters_plakken.h"
+#include "reports/preview.h"
 #include "reports/vensters_vlak.h"
 
 namespace murvane {
@@ -123,14 +128,55 @@ QString FilterVan(const std::string& filter) {
   return tekst.left(tekst.indexOf(" (")) + " (" + tekst.mid(streep + 1) + ")";
 }
 
+/// The toolkit's file dialog, with a question of its own about what is overwritten.
+class Bestandvenster : public QFileDialog {
+ public:
+  Bestandvenster(QWidget* ouder, const BestandVraag& vraag)
+      : QFileDialog(ouder, VanCp(vraag.Titel)), vraag_(vraag) {
+    setOption(DontConfirmOverwrite);
+  }
+
+  void accept() override {
+    const bool akkoord = !vraag_.OverschrijfVraag || selectedFiles().isEmpty() ||
+                         MagOverschrijven(VanQt(selectedFiles().constFirst()));
+    if (akkoord) QFileDialog::accept();
+  }
+
+ private:
+  /// A name that no pages can be saved under is refused once the dialog has gone.
+  [[nodiscard]] std::vector<std::filesystem::path> Doelen(const std::filesystem::path& naam) const {
+    std::vector<std::filesystem::path> uit = {naam};
+    if (vraag_.Bladen > 0 && Probeer([&] { uit = BitmapNamen(naam, vraag_.Bladen); })) uit.clear();
+    return uit;
+  }
+
+  bool MagOverschrijven(const std::filesystem::path& naam) {
+    QStringList erAl;
+    std::error_code geen;
+    if (std::filesystem::is_directory(naam, geen)) return true;  // the dialog goes into it
+    for (const auto& doel : Doelen(naam))
+      if (std::filesystem::exists(doel, geen)) erAl << NaarQt(doel.filename());
+    if (erAl.isEmpty()) return true;
+    const QString vraag =
+        QCoreApplication::translate("QFileDialog", "%1 already exists.\nDo you want to replace it?");
+    QMessageBox box(QMessageBox::Warning, windowTitle(), {}, QMessageBox::Yes | QMessageBox::No, this);
+    box.setTextFormat(Qt::PlainText);
+    box.setText(erAl.size() == 1 ? QString(vraag).replace("%1", erAl.constFirst())
+                                 : erAl.join('\n') + "\n\nDeze bestanden bestaan al. Wilt u ze vervangen?");
+    box.setDefaultButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
+  }
+
+  const BestandVraag& vraag_;
+};
+
 std::filesystem::path Vraag(QWidget* ouder, const BestandVraag& vraag, QFileDialog::AcceptMode wijze) {
-  QFileDialog dialoog(ouder, VanCp(vraag.Titel));
+  Bestandvenster dialoog(ouder, vraag);
   // The toolkit's own dialog: the system's would speak the system's language.
   dialoog.setOption(QFileDialog::DontUseNativeDialog);
   dialoog.setAcceptMode(wijze);
   dialoog.setNameFilter(FilterVan(vraag.Filter));
   dialoog.setFileMode(vraag.BestandMoetBestaan ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
-  dialoog.setOption(QFileDialog::DontConfirmOverwrite, !vraag.OverschrijfVraag);
   const std::filesystem::path map = vraag.Naam.has_parent_path() ? vraag.Naam.parent_path() : vraag.BeginMap;
   dialoog.setDirectory(map.empty() ? QDir::currentPath() : NaarQt(map));
   dialoog.setDefaultSuffix(VanCp(vraag.Extensie));
@@ -151,6 +197,9 @@ class Afdrukvenster : public QPrintDialog {
     vinkje_ = new QCheckBox("Afdrukken naar &bestand (tekstrapport, *.prn)", this);
     vinkje_->setObjectName("chkNaarBestand");
     vinkje_->setAccessibleDescription("Bewaart het rapport als tekst en drukt niets af.");
+    // The button that prints looks at the name of the printer's file, unless that is disabled.
+    if (auto* const printer = findChild<QWidget*>("printerGroup"))
+      connect(vinkje_, &QCheckBox::toggled, printer, &QWidget::setDisabled);
     indeling->insertWidget(indeling->count() - 1, vinkje_);
   }
   [[nodiscard]] bool NaarBestand() const { return vinkje_ != nullptr && vinkje_->isChecked(); }
@@ -201,13 +250,14 @@ Antwoord SchermDialogen::Toon(const Melding& melding) {
 std::string SchermDialogen::Invoer(const InvoerVraag& vraag) {
   QInputDialog dialoog(Ouder());
   dialoog.setWindowTitle(VanCp(vraag.Titel));
-  dialoog.setLabelText(VanCp(vraag.Tekst).replace('&', "&&"));  // the label takes one for a mnemonic
+  dialoog.setLabelText(ZonderSneltoets(VanCp(vraag.Tekst)));
   if (auto* const label = dialoog.findChild<QLabel*>()) label->setTextFormat(Qt::PlainText);
   dialoog.setTextValue(VanCp(vraag.Standaard));
   if (auto* const veld = dialoog.findChild<QLineEdit*>()) {
     veld->setAccessibleName(dialoog.windowTitle());
     veld->setAccessibleDescription(VanCp(vraag.Tekst) + "\nLeeg is hetzelfde als Annuleren.");
     PasTitel(*veld, dialoog.windowTitle());
+    BewaakTekst(*veld);
   }
   return dialoog.exec() == QDialog::Accepted ? NaarCp(dialoog.textValue()) : std::string();
 }

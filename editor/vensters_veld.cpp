@@ -14,6 +14,7 @@
 
 #include "basis/vensters_hulp.h"
 #include "basis/vensters_stijl.h"
+#include "editor/vensters_plakken.h"
 
 namespace murvane {
 
@@ -46,19 +47,11 @@ bool IsEnter(int toets) {
   return toets == Qt::Key_Return || toets == Qt::Key_Enter;
 }
 
-/// The character that a key types; 0 for a key that edits, moves or is a shortcut.
-char32_t Teken(const QKeyEvent& event) {
-  const auto tekens = event.text().toUcs4();
-  if (tekens.isEmpty() || tekens.front() < ' ' || tekens.front() == 0x7F) return 0;
-  const bool sneltoets = (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == Qt::ControlModifier;
-  return sneltoets ? 0 : tekens.front();
-}
-
 /// Alt and a letter belong to a button or a menu, also when that is disabled; AltGr types, and is Ctrl and
 /// Alt where it is no key of its own.
 bool IsMnemonic(const QKeyEvent& event) {
   return (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == Qt::AltModifier &&
-         Teken(event) != 0;
+         TypTeken(event) != 0;
 }
 
 int VakBreedte(const QWidget& vak) {
@@ -107,6 +100,7 @@ InvoerVeld::InvoerVeld(VeldId veld, const VeldRegel& regel, const QString& naam,
   setReadOnly(regel_.AlleenLezen);
   Beschrijf();
   ZetAchtergrond(*this, kleur_);
+  BewaakPlakken(*this, [this](std::uint32_t bgr) { ZetKleur(bgr); });
 }
 
 void InvoerVeld::ZetKleur(std::uint32_t bgr) {
@@ -133,7 +127,7 @@ void InvoerVeld::keyPressEvent(QKeyEvent* event) {
     ZetKleur(MagToets(regel_, 27).Achtergrond);
     return emit Escape();
   }
-  const char32_t teken = event->key() == Qt::Key_Backspace ? 8 : Teken(*event);
+  const char32_t teken = event->key() == Qt::Key_Backspace ? 8 : TypTeken(*event);
   if (teken != 0 && !isReadOnly()) {
     const murvane::Toets toets = MagToets(regel_, teken);
     ZetKleur(toets.Achtergrond);
@@ -306,6 +300,7 @@ Keuzevak::Keuzevak(const QString& objectNaam, const QString& naam, QWidget* oude
   setMaxVisibleItems(20);
   ZetAchtergrond(*this, VeldKleur);  // its box follows, also when the theme changes
   lineEdit()->setAccessibleName(naam);
+  BewaakTekst(*this);
 }
 
 void Keuzevak::ZetRijen(const QStringList& rijen) {
@@ -324,6 +319,7 @@ void Keuzevak::ZetTekst(const QString& tekst) {
   }
   setEditText(tekst);
   lineEdit()->setCursorPosition(0);
+  ZetAchtergrond(*this, VeldKleur);  // what the program puts in a box is right
 }
 
 void Keuzevak::wheelEvent(QWheelEvent* event) {
@@ -332,7 +328,9 @@ void Keuzevak::wheelEvent(QWheelEvent* event) {
 
 void Keuzevak::focusOutEvent(QFocusEvent* event) {
   QComboBox::focusOutEvent(event);
-  if (WordtVerlaten(*this, event->reason())) emit Verlaten();
+  if (!WordtVerlaten(*this, event->reason())) return;
+  ZetAchtergrond(*this, VeldKleur);
+  emit Verlaten();
 }
 
 }  // namespace murvane

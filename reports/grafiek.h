@@ -42,6 +42,7 @@ struct VerticaleAs {
   int Minimum = 0;
   int Maximum = 0;
   int Verdelingen = 0;  ///< major divisions
+  char Decimaal = ',';  ///< the decimal sign of a division that is not whole
 
   friend bool operator==(const VerticaleAs&, const VerticaleAs&) = default;
 };

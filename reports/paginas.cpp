@@ -148,6 +148,7 @@ GrafiekUitkomst Drukker::Druk(bool metGrafiek, std::int16_t grafiekKeuze) {
   if (Inhoud() == Breuk::Einde) return uitkomst;
   if (metGrafiek) {
     try {
+      grafiek_.As.Decimaal = f_.Decimaal;
       Grafiek2(f_.Project, f_.Resultaten, grafiekKeuze, grafiek_);
     } catch (const std::exception&) {
       uitkomst = GrafiekUitkomst::Mislukt;

@@ -8,6 +8,7 @@
 #include <QGraphicsScene>
 #include <QGraphicsTextItem>
 #include <QLegend>
+#include <QLocale>
 #include <QPainter>
 #include <QTextDocument>
 #include <QTextOption>
@@ -116,7 +117,7 @@ void VoegAssenToe(QChart& kaart, const Grafiek& grafiek, QBarSeries& reeks) {
   auto* niveau = new QValueAxis;
   niveau->setRange(grafiek.As.Minimum, grafiek.As.Maximum);
   niveau->setTickCount(grafiek.As.Verdelingen + 1);
-  niveau->setLabelFormat("%d");
+  niveau->setLabelFormat("%.3g");  // decimals only at a division that is not whole
   Kleed(*niveau, VanCp(grafiek.As.Titel));
   kaart.addAxis(rijen, Qt::AlignBottom);
   kaart.addAxis(niveau, Qt::AlignLeft);
@@ -164,6 +165,8 @@ std::unique_ptr<QGraphicsScene> MaakTafereel(const Grafiek& grafiek, QSizeF groo
   const double onder = ZetVoetnoot(*tafereel, grafiek, grootte);
   auto* kaart = new QChart;
   tafereel->addItem(kaart);
+  kaart->setLocale(grafiek.As.Decimaal == ',' ? QLocale(QLocale::Dutch) : QLocale::c());
+  kaart->setLocalizeNumbers(true);
   kaart->setTheme(QChart::ChartThemeLight);
   kaart->setBackgroundVisible(false);
   kaart->setMargins(QMargins(4, 4, 4, 2));

@@ -206,7 +206,7 @@ void MDIMurvane::VulVensterMenu(QMenu& menu) {
   menu.clear();
   for (QMdiSubWindow* const kader : gebied_->subWindowList(QMdiArea::CreationOrder)) {
     const bool isProject = kader->widget() == project_;
-    QAction* const actie = menu.addAction(isProject ? QString("Project") : kader->windowTitle());
+    QAction* const actie = menu.addAction(isProject ? "Project" : ZonderSneltoets(kader->windowTitle()));
     actie->setCheckable(true);
     actie->setChecked(kader == gebied_->activeSubWindow());
     connect(actie, &QAction::triggered, gebied_, [this, kader] { gebied_->setActiveSubWindow(kader); });
@@ -279,7 +279,7 @@ void MDIMurvane::ToonToestand() {
   const bool isBerekend = balk.Paneel1Beeld != 0 && statusBar()->currentMessage().isEmpty();
   if (isBerekend && beeld_->isHidden()) ZetStatusBeeld();
   beeld_->setVisible(isBerekend);
-  paneel1_->setText(VanCp(balk.Paneel1));
+  paneel1_->setText(QString::fromStdString(balk.Paneel1));
   paneel2_->setText(VanCp(balk.Paneel2));
   paneel3_->setText(VanCp(balk.Paneel3));
 }

@@ -66,6 +66,14 @@ BestandVraag PdfVraag(const Programma& programma) {
   return vraag;
 }
 
+/// What is overwritten are the files of the pages, not the one that is named.
+BestandVraag BmpVraag(const Programma& programma) {
+  BestandVraag vraag = OpslaanVraag(BitmapFilter);
+  vraag.Extensie = "bmp";
+  vraag.Bladen = programma.Voorbeeld.LaatstePagina;
+  return vraag;
+}
+
 void BewaarTekst(const Programma& programma, Dialogen& dialogen, const Opdrachtnaam& naam) {
   (void)Doe(dialogen, naam, [&] {
     const fs::path bestand = dialogen.OpslaanDialoog(PrnVraag());
@@ -167,7 +175,7 @@ void LaadVoorbeeld(Programma& programma, Dialogen& dialogen, const GrafiekKeuze&
 void OpslaanAlsBitmap(const Programma& programma, Dialogen& dialogen, const BitmapMaker& maakBitmap) {
   std::vector<fs::path> namen;
   (void)Doe(dialogen, Bitmapopdracht, [&] {
-    const fs::path naam = dialogen.OpslaanDialoog(OpslaanVraag(BitmapFilter));
+    const fs::path naam = dialogen.OpslaanDialoog(BmpVraag(programma));
     if (naam.empty()) return;
     namen = OverBestand(PadTekst(naam), [&] { return BitmapNamen(naam, programma.Voorbeeld.LaatstePagina); });
   });
@@ -186,6 +194,7 @@ bool VulGrafiek(Programma& programma, Dialogen& dialogen, const GrafiekKeuze& ki
   if (VraagtGrafiekKeuze(type)) programma.KiesGrafiek = kiesGrafiek();
   const auto fout = Probeer([&] {
     const Zandloper zandloper(dialogen);
+    programma.Grafiek.As.Decimaal = programma.Decimaal;
     Grafiek2(programma.Project, programma.Resultaten, programma.KiesGrafiek, programma.Grafiek);
   });
   if (fout) MeldGrafiekfout(dialogen);

@@ -114,7 +114,7 @@ std::string Openen(Programma& programma, Dialogen& dialogen, const fs::path& pad
   const Zandloper zandloper(dialogen);
   GelezenProject gelezen = LeesProjectBestand(pad);
   fs::path naam = Volledig(pad);
-  std::string panel1 = NaarCp1252Getoond(PadTekst(naam.filename()));
+  std::string panel1 = PadTekst(naam.filename());
   programma.Project = std::move(gelezen.Project);
   programma.VanSchijf = {naam, gelezen.Bestand};
   programma.DialoogNaam = std::move(naam);

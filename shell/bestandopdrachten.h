@@ -17,13 +17,13 @@ namespace murvane {
 /// A new project's part outside the window, behind Reset: today as its date, no file name.
 void mnuNieuw_Click(Programma& programma);
 
-/// Reads a project file into the program; the text for panel 1 of the status bar (Windows-1252), its bare
-/// name. Failures of LeesProject; the project then stays as it was.
+/// Reads a project file into the program; the text for panel 1 of the status bar (UTF-8), its bare name.
+/// Failures of LeesProject; the project then stays as it was.
 std::string Openen(Programma& programma, Dialogen& dialogen, const std::filesystem::path& pad);
 
 struct OpenUitkomst {
   bool Geopend = false;  ///< the window shows the project; otherwise it runs Settings: there is no project
-  std::string Panel1;    ///< for panel 1, when a file was read; otherwise empty
+  std::string Panel1;    ///< for panel 1, UTF-8, when a file was read; otherwise empty
 };
 
 /// Opens the file that the command line named, once and without a dialog, or the one that the user chooses.

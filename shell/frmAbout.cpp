@@ -22,15 +22,19 @@ namespace {
 
 constexpr int Kolommen = 88;  ///< letters beside each other in the window
 
-/// The user's name is made for a label: its "&" is doubled.
+/// The user's name is made for a label, its first "&" doubled: every one is shown as it was entered.
+QString Ingevoerd(QString tekst) {
+  const qsizetype eerste = tekst.indexOf('&');
+  if (eerste >= 0 && tekst.indexOf("&&") == eerste) tekst.remove(eerste, 1);
+  return tekst;
+}
+
 QLabel* Product(const std::string& tekst, VerloopVlak* ouder) {
   QLabel* const label = ouder->MaakLabel("lblProduct", tekst);
+  label->setText(Ingevoerd(label->text()));
   QFont letter = label->font();
   letter.setBold(true);
   label->setFont(letter);
-  auto* const knop = new QPushButton(ouder);  // a label turns "&&" into "&" only for a control of its own
-  knop->hide();
-  label->setBuddy(knop);
   return label;
 }
 

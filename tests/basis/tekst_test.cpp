@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <optional>
 #include <string>
 
 #include "basis/fout.h"
@@ -165,6 +166,25 @@ TEST(NaarCp1252Getoond, PutsAQuestionMarkForWhatTheCodePageLacks) {
       {"\xED\xA0\x80", "???"},      // a surrogate
   };
   for (const auto& rij : rijen) EXPECT_EQ(NaarCp1252Getoond(rij.utf8), rij.getoond) << rij.utf8;
+}
+
+// The bytes 81, 8D, 8F, 90 and 9D stand for control characters, as do those below a blank and 7F.
+TEST(TypbaarTeken, IsEveryCharacterOfTheCodePageThatIsNoControlCharacter) {
+  int aantal = 0;
+  for (int code = 0; code < 0x110000; ++code) {
+    const auto byte = TypbaarTeken(static_cast<char32_t>(code));
+    if (!byte) continue;
+    ++aantal;
+    const std::string utf8 = NaarUtf8({&*byte, 1});
+    EXPECT_EQ(NaarCp1252(utf8), std::string(1, *byte));
+    EXPECT_TRUE(code >= 0x80 || *byte == static_cast<char>(code)) << code;
+  }
+  EXPECT_EQ(aantal, 256 - 32 - 1 - 5);
+  EXPECT_EQ(TypbaarTeken(U'\u20AC'), '\x80');
+  EXPECT_EQ(TypbaarTeken(U'\u00FF'), '\xFF');
+  EXPECT_EQ(TypbaarTeken(U'\u0178'), '\x9F');
+  for (const char32_t teken : {char32_t{0x1B}, char32_t{0x7F}, char32_t{0x81}, U'\u0141', U'\u202E'})
+    EXPECT_EQ(TypbaarTeken(teken), std::nullopt) << static_cast<unsigned>(teken);
 }
 
 }  // namespace

@@ -413,6 +413,19 @@ TEST(GeopendProject, IsNotCalculatedAndShowsItsNameTypeAndCount) {
   EXPECT_EQ(project.ElementCount, 3);
 }
 
+TEST(GeopendProject, IsOpenWhateverItsFileIsCalled) {
+  const Project project = Vol();
+  for (const std::string_view naam : {GeenBestand, NieuweNaam, std::string_view("Łódź.mrv")}) {
+    Sessie sessie;
+    Elementlijst lijst;
+    (void)ZetGeopend(sessie, lijst, naam);
+    EXPECT_TRUE(ProjectOpen(sessie)) << naam;
+    EXPECT_TRUE(MenuAan("mnuOpslaan", sessie.Toestand)) << naam;
+    EXPECT_EQ(StatusVan(sessie, project).Paneel1, naam);
+    EXPECT_EQ(StatusVan(sessie, project).Paneel3, "3 kanaalelementen");
+  }
+}
+
 TEST(SluitProject, EndsWithoutAProjectFromEveryState) {
   for (const Toestand toestand : AlleToestanden) {
     Sessie sessie = In(toestand);

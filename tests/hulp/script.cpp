@@ -24,7 +24,8 @@ std::string Woorden(const BestandVraag& v) {
   return " dialog [" + NaarUtf8(v.Titel) + "] " + NaarUtf8(v.Filter) + " in {" + PadTekst(v.BeginMap) +
          "} name {" + PadTekst(v.Naam) + "}" + (v.OverschrijfVraag ? " overwrite-prompt" : "") +
          (v.BestandMoetBestaan ? " must-exist" : "") + (v.MapBlijft ? " keep-directory" : "") +
-         (v.Extensie.empty() ? "" : " extension {" + NaarUtf8(v.Extensie) + "}");
+         (v.Extensie.empty() ? "" : " extension {" + NaarUtf8(v.Extensie) + "}") +
+         (v.Bladen == 0 ? "" : " pages " + std::to_string(v.Bladen));
 }
 std::string Woorden(const AfdrukVraag& v) {
   return NaarUtf8(std::string("print dialog") + (v.NaarBestandMogelijk ? " to-file" : "") +

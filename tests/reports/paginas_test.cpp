@@ -624,6 +624,13 @@ TEST(DrukRapport, OfCrosstalkHasItsChartToo) {
             "Overspraakdemping Lpz - Lpo  (afgerond op gehele decibellen)");
 }
 
+TEST(DrukRapport, GivesItsChartTheDecimalSign) {
+  Geval g;
+  g.decimaal = '.';
+  (void)g.Druk(1, kiesgrafiek::Galmveld);
+  EXPECT_EQ(g.blad.Plaatjes().at(0).Grafiek.As.Decimaal, '.');
+}
+
 TEST(DrukRapport, HasAChartOnlyWhenItIsWantedAndChosen) {
   const struct {
     std::int16_t wens, keuze;

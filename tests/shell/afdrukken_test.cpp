@@ -51,7 +51,13 @@ class Afdrukken : public testing::Test {
     vraag.Extensie = "prn";
     return vraag;
   }
-  static BestandVraag BmpVraag() { return Opslaan("Bitmap-bestanden (*.bmp)|*.bmp"); }
+  /// A name without an extension gets one; the files of the pages are what is overwritten.
+  [[nodiscard]] BestandVraag BmpVraag() const {
+    BestandVraag vraag = Opslaan("Bitmap-bestanden (*.bmp)|*.bmp");
+    vraag.Extensie = "bmp";
+    vraag.Bladen = programma_.Voorbeeld.LaatstePagina;
+    return vraag;
+  }
 
   /// The sheet that the printer's next document is drawn on stays here for the test to look at.
   struct Doorgeef final : Vlak {
@@ -381,6 +387,14 @@ TEST_F(Grafiekopdracht, AsksAndShows) {
   EXPECT_EQ(programma_.KiesGrafiek, 1);
   EXPECT_EQ(programma_.Grafiek.Titel.at(0), TitelEenMeter);
   EXPECT_EQ(script_.KeerGewacht(), 1);
+}
+
+TEST_F(Grafiekopdracht, TakesTheDecimalSignOfTheProgram) {
+  for (const char decimaal : {'.', ','}) {
+    programma_.Decimaal = decimaal;
+    EXPECT_TRUE(VulGrafiek(programma_, script_, Kiest(kiesgrafiek::EenMeter)));
+    EXPECT_EQ(programma_.Grafiek.As.Decimaal, decimaal);
+  }
 }
 
 TEST_F(Grafiekopdracht, WaitsForTheChartAndNotForTheUser) {

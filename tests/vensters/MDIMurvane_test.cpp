@@ -58,6 +58,21 @@ TEST_F(Hoofdvenster, HasTheMenusInTheirOrder) {
   EXPECT_FALSE(Actie("mnuBestandSB")->isEnabled());
 }
 
+// The panel's text went through the code page, which has no place for some letters.
+TEST_F(Hoofdvenster, Panel1ShowsAFileInItsOwnCharacters) {
+  for (const char* const naam : {"Łódź.mrv", "Ω één.mrv", "Geen bestand.mrv"}) {
+    std::filesystem::copy_file(Data / "kantoor.mrv", map / naam);
+    programma.OpenBestand = map / naam;
+    venster->OpenVanOpdrachtregel();
+    EXPECT_EQ(Paneel(1), naam);
+    EXPECT_EQ(Aan(), NietBerekend);
+    script.Box(VraagSluiten);
+    Kies("mnuSluiten");
+    EXPECT_EQ(Paneel(1), "Geen bestand");
+    EXPECT_EQ(Aan(), GeenProject);
+  }
+}
+
 TEST_F(Hoofdvenster, StartsWithoutAProject) {
   EXPECT_TRUE(venster->windowTitle().startsWith("MurVane"));
   EXPECT_EQ(Aan(), GeenProject);

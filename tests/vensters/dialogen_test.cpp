@@ -361,6 +361,77 @@ TEST_F(Dialoogvensters, AsksBeforeItOverwritesInDutch) {
   EXPECT_EQ(dialogen.OpslaanDialoog(Opslaan()), map / "er al.mrv");
 }
 
+/// Pages saved under numbers, as those of the preview are.
+class Bladendialoog : public Dialoogvensters {
+ protected:
+  [[nodiscard]] BestandVraag Bladen(std::int16_t aantal) const {
+    BestandVraag vraag{"Opslaan als", "Bitmap-bestanden (*.bmp)|*.bmp", map.Pad(), {}, true, false, true};
+    vraag.Extensie = "bmp";
+    vraag.Bladen = aantal;
+    return vraag;
+  }
+};
+
+// The question was about the name in the dialog, which is not written, and not about those that are.
+TEST_F(Bladendialoog, AsksAboutTheFilesThatWillBeWritten) {
+  for (const char* const naam : {"x.bmp", "x1.bmp", "x3.bmp", "x4.bmp"}) Schrijf(map / naam, "oud");
+  robot.Dan([](QDialog& dialoog) {
+    TypNaam(dialoog, "x.bmp");
+    EXPECT_TRUE(dialoog.isVisible());  // the first answer was no
+    TypNaam(dialoog, "x.bmp");
+  });
+  const auto vraag = [](QMessageBox::StandardButton antwoord) {
+    return [antwoord](QDialog& dialoog) {
+      auto& box = dynamic_cast<QMessageBox&>(dialoog);
+      EXPECT_EQ(box.text(), "x1.bmp\nx3.bmp\n\nDeze bestanden bestaan al. Wilt u ze vervangen?");
+      EXPECT_EQ(box.windowTitle(), "Opslaan als");
+      EXPECT_EQ(Opschriften(box), (QStringList{"&Ja", "&Nee"}));
+      EXPECT_EQ(box.defaultButton(), box.button(QMessageBox::No));
+      QTest::mouseClick(box.button(antwoord), Qt::LeftButton);
+    };
+  };
+  robot.Dan(vraag(QMessageBox::No)).Dan(vraag(QMessageBox::Yes));
+  EXPECT_EQ(dialogen.OpslaanDialoog(Bladen(3)), map / "x.bmp");
+}
+
+TEST_F(Bladendialoog, AsksAboutOneFileAsOfAnyOther) {
+  Schrijf(map / "x2.bmp", "oud");
+  robot.Dan([](QDialog& dialoog) { TypNaam(dialoog, "x"); });
+  robot.Dan([](QDialog& dialoog) {
+    auto& box = dynamic_cast<QMessageBox&>(dialoog);
+    EXPECT_TRUE(box.text().startsWith("x2.bmp bestaat")) << box.text().toStdString();
+    box.button(QMessageBox::Yes)->click();
+  });
+  EXPECT_EQ(dialogen.OpslaanDialoog(Bladen(2)), map / "x.bmp");
+}
+
+TEST_F(Bladendialoog, AsksNothingAboutTheNameItself) {
+  Schrijf(map / "x.bmp", "oud");
+  Schrijf(map / "x3.bmp", "oud");
+  robot.Dan([](QDialog& dialoog) { TypNaam(dialoog, "x"); });  // which gets the extension
+  EXPECT_EQ(dialogen.OpslaanDialoog(Bladen(2)), map / "x.bmp");
+}
+
+TEST_F(Bladendialoog, LeavesAWrongExtensionToTheCommand) {
+  Schrijf(map / "x.BMP", "oud");
+  Schrijf(map / "x.png", "oud");
+  for (const char* const naam : {"x.BMP", "x.png"}) {
+    robot.Dan([naam](QDialog& dialoog) { TypNaam(dialoog, naam); });
+    EXPECT_EQ(dialogen.OpslaanDialoog(Bladen(1)), map / naam);
+  }
+}
+
+TEST_F(Bladendialoog, GoesIntoADirectoryWithoutAQuestion) {
+  fs::create_directory(map / "map.bmp");
+  Schrijf(map / "map1.bmp", "oud");
+  robot.Dan([this](QDialog& dialoog) {
+    TypNaam(dialoog, "map.bmp");
+    EXPECT_EQ(dynamic_cast<QFileDialog&>(dialoog).directory().absolutePath(), Pad(map / "map.bmp"));
+    TypNaam(dialoog, "y");
+  });
+  EXPECT_EQ(dialogen.OpslaanDialoog(Bladen(1)), map / "map.bmp" / "y.bmp");
+}
+
 TEST_F(Dialoogvensters, TheOpenDialogTakesOnlyAFileThatExists) {
   Schrijf(map / "een.mrv", "x");
   robot.Dan([this](QDialog& dialoog) {

@@ -4,14 +4,18 @@
 #include <gtest/gtest.h>
 
 #include <QCheckBox>
+#include <QDialogButtonBox>
+#include <QFileDialog>
 #include <QImage>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPdfWriter>
 #include <QProcess>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpression>
 #include <QStringList>
+#include <QTest>
 #include <cmath>
 #include <initializer_list>
 #include <map>
@@ -26,6 +30,7 @@
 #include "reports/vensters_grafiek.h"
 #include "reports/vensters_pdf.h"
 #include "reports/vensters_vlak.h"
+#include "shell/afdrukken.h"
 #include "shell/run.h"
 #include "tests/cli/hulp.h"
 #include "tests/hulp/opnemer.h"
@@ -333,6 +338,78 @@ TEST(Afdrukdialoog, OffersNoChoiceOfPages) {
   });
   SchermDialogen dialogen;
   EXPECT_EQ(proef::NummerVan([&] { return dialogen.AfdrukDialoog({}).Exemplaren; }), 32755);
+}
+
+/// The button that prints, in the dialog's own language.
+QPushButton* PrintKnop(const QDialog& dialoog) {
+  return dialoog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok);
+}
+
+// The button of the toolkit looked at the name of the printer's PDF first: it asked about overwriting a file
+// that is never written, or stayed where its directory is missing.
+TEST(Afdrukdialoog, TheButtonSavesTheTextWithoutLookingAtThePrintersFile) {
+  const proef::TijdelijkeMap map;
+  proef::Schrijf(map / "er al.pdf", "oud");
+  for (const char* const naam : {"er al.pdf", "geen map/x.pdf", "nieuw.pdf", "."}) {
+    proef::Robot robot;
+    robot.Dan([&](QDialog& dialoog) {
+      dialoog.findChild<QLineEdit*>("filename")->setText(QString::fromStdString(PadTekst(map / naam)));
+      QTest::mouseClick(dialoog.findChild<QCheckBox*>("chkNaarBestand"), Qt::LeftButton, {}, QPoint(8, 8));
+      ASSERT_TRUE(dialoog.findChild<QCheckBox*>("chkNaarBestand")->isChecked());
+      QTest::mouseClick(PrintKnop(dialoog), Qt::LeftButton);
+    });
+    SchermDialogen dialogen;
+    EXPECT_TRUE(dialogen.AfdrukDialoog({}).NaarBestand) << naam;
+    EXPECT_EQ(map.Namen(), std::vector<std::string>{"er al.pdf"});
+  }
+  EXPECT_EQ(proef::Lees(map / "er al.pdf"), "oud");
+}
+
+TEST(Afdrukdialoog, ThePrinterComesBackWithTheTickTakenAway) {
+  const proef::TijdelijkeMap map;
+  proef::Schrijf(map / "er al.pdf", "oud");
+  proef::Robot robot;
+  robot
+      .Dan([&](QDialog& dialoog) {
+        auto* const bestand = dialoog.findChild<QLineEdit*>("filename");
+        auto* const vinkje = dialoog.findChild<QCheckBox*>("chkNaarBestand");
+        bestand->setText(QString::fromStdString(PadTekst(map / "er al.pdf")));
+        vinkje->click();
+        EXPECT_FALSE(bestand->isEnabled());
+        vinkje->click();
+        EXPECT_TRUE(bestand->isEnabled());
+        QTest::mouseClick(PrintKnop(dialoog), Qt::LeftButton);
+        EXPECT_TRUE(dialoog.isVisible());  // the answer was no
+        dialoog.reject();
+      })
+      .Dan([](QDialog& vraag) { dynamic_cast<QMessageBox&>(vraag).button(QMessageBox::No)->click(); });
+  SchermDialogen dialogen;
+  EXPECT_EQ(proef::NummerVan([&] { return dialogen.AfdrukDialoog({}).Exemplaren; }), 32755);
+}
+
+// From the button to the dialog of the text report.
+TEST(Afdrukdialoog, TheTickEndsInTheSaveDialogOfTheReport) {
+  const proef::TijdelijkeMap map;
+  proef::Robot robot;
+  robot
+      .Dan([&](QDialog& dialoog) {
+        dialoog.findChild<QLineEdit*>("filename")
+            ->setText(QString::fromStdString(PadTekst(map / "geen map/x.pdf")));
+        dialoog.findChild<QCheckBox*>("chkNaarBestand")->click();
+        PrintKnop(dialoog)->click();
+      })
+      .Dan([&](QDialog& dialoog) {
+        EXPECT_EQ(dynamic_cast<QFileDialog&>(dialoog).nameFilters(), QStringList{"Uitvoerbestanden (*.prn)"});
+        dialoog.findChild<QLineEdit*>("fileNameEdit")
+            ->setText(QString::fromStdString(PadTekst(map / "rapport")));
+        proef::Robot::Druk(dialoog, Qt::Key_Return);
+      });
+  Programma programma;
+  programma.Rapport.RapKop = "kop";
+  SchermDialogen dialogen;
+  AfdrukPrinter(programma, dialogen, [] { return kiesgrafiek::Geen; });
+  EXPECT_EQ(map.Namen(), std::vector<std::string>{"rapport.prn"});
+  EXPECT_EQ(proef::Lees(map / "rapport.prn"), PrnBytes(programma.Rapport));
 }
 
 TEST(Afdrukdialoog, HasATickOfItsOwnForTheTextReport) {

@@ -20,6 +20,7 @@
 #include <QTextDocument>
 #include <QValueAxis>
 #include <cmath>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -125,6 +126,44 @@ TEST(Grafiekdelen, ScalesItsAxisAsTheChartSays) {
     EXPECT_EQ(niveau.tickCount(), as.Verdelingen + 1);
     EXPECT_EQ(niveau.titleText().toStdString(), as.Titel);
     EXPECT_EQ(KaartVan(*tafereel).axes(Qt::Horizontal).at(0)->titleText(), "Frequentie in Hz");
+  }
+}
+
+/// The labels of the vertical axis, upwards.
+QStringList Aslabels(const QGraphicsScene& tafereel) {
+  const QRectF vlak = Assenvlak(tafereel);
+  std::map<double, QString> opHoogte;
+  for (const QGraphicsItem* const deel : tafereel.items()) {
+    const auto* const tekst = dynamic_cast<const QGraphicsTextItem*>(deel);
+    if (tekst == nullptr || tekst->parentItem() == nullptr || tekst->rotation() != 0) continue;
+    const QRectF plek = tekst->sceneBoundingRect();
+    if (plek.right() <= vlak.left() && !tekst->toPlainText().isEmpty())
+      opHoogte[-plek.center().y()] = tekst->toPlainText();
+  }
+  QStringList uit;
+  for (const auto& [hoogte, tekst] : opHoogte) uit << tekst;
+  return uit;
+}
+
+// The scale of crosstalk keeps the 20 at the bottom of the chart before, and its divisions are then not
+// whole.
+TEST(Grafiekdelen, TellsWhatADivisionIsWhereItIsNotWhole) {
+  const struct {
+    VerticaleAs As;
+    QStringList Labels;
+  } rijen[] = {
+      {{"dB", 20, 80, 8, '.'}, {"20", "27.5", "35", "42.5", "50", "57.5", "65", "72.5", "80"}},
+      {{"dB", 20, 80, 8, ','}, {"20", "27,5", "35", "42,5", "50", "57,5", "65", "72,5", "80"}},
+      {{"dB", 20, 60, 6, ','}, {"20", "26,7", "33,3", "40", "46,7", "53,3", "60"}},  // steps of 40/6
+      {{"dB", 20, 50, 5, ','}, {"20", "26", "32", "38", "44", "50"}},
+      {{"dB", 20, 100, 10, ','}, {"20", "28", "36", "44", "52", "60", "68", "76", "84", "92", "100"}},
+      {{"dB(A)", 0, 50, 5, ','}, {"0", "10", "20", "30", "40", "50"}},
+  };
+  for (const auto& rij : rijen) {
+    Grafiek grafiek = Proefgrafiek();
+    grafiek.As = rij.As;
+    const auto tafereel = MaakTafereel(grafiek, Scherm);
+    EXPECT_EQ(Aslabels(*tafereel).join(' ').toStdString(), rij.Labels.join(' ').toStdString());
   }
 }
 

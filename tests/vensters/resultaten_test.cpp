@@ -308,7 +308,10 @@ TEST_F(Resultaatvensters, ThePreviewScrollsItsPage) {
 TEST_F(Resultaatvensters, ThePreviewSavesItsPagesAsBitmaps) {
   Bereken("kantoor.mrv");
   auto* const preview = OpenVoorbeeld();
-  script.Opslaan(Opslaan("Bitmap-bestanden (*.bmp)|*.bmp"), map / "één.bmp");
+  BestandVraag vraag = Opslaan("Bitmap-bestanden (*.bmp)|*.bmp");
+  vraag.Extensie = "bmp";
+  vraag.Bladen = 2;
+  script.Opslaan(vraag, map / "één.bmp");
   Klik("frmPreView", "save");
   EXPECT_EQ(map.Namen(), (std::vector<std::string>{"één1.bmp", "één2.bmp"}));
   const QImage beeld(QString::fromStdString(PadTekst(map / "één1.bmp")));

@@ -133,7 +133,7 @@ TEST_F(Schil, TheInformationWindowTellsProductUserAndNotes) {
   instellingen.GebruikerLabel = std::string_view("  Jansen && Zn");
   frmAbout info(instellingen, map / "levering.txt", script, nullptr);
   EXPECT_EQ(info.windowTitle(), "Info MurVane");
-  EXPECT_EQ(Tekst(info, "lblProduct"), "MurVane, productversie 6.07.0004\nGebruiker :\nJansen && Zn");
+  EXPECT_EQ(Tekst(info, "lblProduct"), "MurVane, productversie 6.07.0004\nGebruiker :\nJansen & Zn");
   EXPECT_EQ(Tekst(info, "lblOmschrijving"), VanCp(InfoTekst(instellingen).Omschrijving));
   const auto* levering = info.findChild<QPlainTextEdit*>("txtLevering");
   EXPECT_EQ(levering->toPlainText(), QString::fromUtf8("Eérste regel\nTweede"));
@@ -178,6 +178,19 @@ TEST_F(Schil, TheUsersAmpersandIsShownOnce) {
   };
   const QFontMetrics maten(vet);
   EXPECT_NEAR(breedte(beeld("W && W")) - breedte(beeld("W  W")), maten.horizontalAdvance("&"), 2);
+}
+
+// A label took the second "&" of a name for the mark of a mnemonic.
+TEST_F(Schil, EveryAmpersandOfTheUserIsShown) {
+  proef::Schrijf(map / "levering.txt", "x");
+  for (const char* const naam : {"A & B & C", "&A", "A&", "A && B", "<b>A</b>&B", "A"}) {
+    ZetGebruikersnaam(instellingen, naam);
+    frmAbout info(instellingen, map / "levering.txt", script, nullptr);
+    const auto* const label = info.findChild<QLabel*>("lblProduct");
+    EXPECT_TRUE(label->text().endsWith(QString("Gebruiker :\n") + naam)) << label->text().toStdString();
+    EXPECT_EQ(label->buddy(), nullptr) << "shows mnemonics";
+    EXPECT_EQ(label->textFormat(), Qt::PlainText);
+  }
 }
 
 TEST_F(Schil, OnlyADoubleClickOnTheIconOpensItsMenu) {
