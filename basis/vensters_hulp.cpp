@@ -10,6 +10,7 @@
 
 #include "basis/fout.h"
 #include "basis/tekst.h"
+#include "basis/vensters_stijl.h"
 
 namespace murvane {
 
@@ -38,13 +39,18 @@ QColor KleurVan(std::uint32_t bgr) {
                 static_cast<int>(bgr >> 16 & 0xFF));
 }
 
+/// What is selected has the theme's own colour, as everywhere; in black and white where that does not show on
+/// the ground.
 void ZetAchtergrond(QWidget& veld, std::uint32_t bgr) {
-  QPalette palet = veld.palette();
-  palet.setColor(QPalette::Base, KleurVan(bgr));
+  QPalette palet;
+  const QColor grond = KleurVan(bgr);
+  palet.setColor(QPalette::Base, grond);
   palet.setColor(QPalette::Text, Qt::black);
   palet.setColor(QPalette::PlaceholderText, QColor(90, 90, 90));
-  palet.setColor(QPalette::Highlight, QColor(31, 95, 168));
-  palet.setColor(QPalette::HighlightedText, Qt::white);
+  if (Contrast(palet.color(QPalette::Highlight), grond) < Zichtbaar) {
+    palet.setColor(QPalette::Highlight, Qt::black);
+    palet.setColor(QPalette::HighlightedText, Qt::white);
+  }
   veld.setPalette(palet);
 }
 

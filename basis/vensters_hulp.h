@@ -28,8 +28,7 @@ namespace murvane {
 /// The colour of a blue-green-red number.
 [[nodiscard]] QColor KleurVan(std::uint32_t bgr);
 
-/// Gives a field a fixed light background with dark text on it, and colours of a selection to match, whatever
-/// the theme.
+/// Gives a field a fixed light background with dark text on it, whatever the theme; a selection in it shows.
 void ZetAchtergrond(QWidget& veld, std::uint32_t bgr);
 
 /// Pixels around the content of a window, and between its parts.

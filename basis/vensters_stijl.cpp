@@ -6,6 +6,7 @@
 #include <QEvent>
 #include <QIconEngine>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMdiSubWindow>
 #include <QPainter>
 #include <QStyleOption>
@@ -36,9 +37,56 @@ class LuiIcoon final : public QIconEngine {
   QStyle::StandardPixmap welke_;
 };
 
-constexpr double RingZichtbaar = 1.5;  ///< contrast
 constexpr double ZwartWit = 20.5;      ///< nearly that of black and white, which is 21
 constexpr double LeesbaarVanaf = 4.0;  ///< somewhat under what WCAG 2.1 asks of text that is not disabled
+
+/// The buttons of a window in the menu bar, in the colours of the theme: the style's own are dark in a dark
+/// one.
+class Titelicoon final : public QIconEngine {
+ public:
+  explicit Titelicoon(QStyle::StandardPixmap welke) : welke_(welke) {}
+
+  [[nodiscard]] QIconEngine* clone() const override { return new Titelicoon(welke_); }
+  [[nodiscard]] bool isNull() override { return false; }
+  void paint(QPainter* schilder, const QRect& vlak, QIcon::Mode stand, QIcon::State /*aan*/) override {
+    const auto groep = stand == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
+    const double deel = std::min(vlak.width(), vlak.height()) / 10.0;
+    schilder->save();
+    schilder->setRenderHint(QPainter::Antialiasing);
+    schilder->setPen(QPen(QApplication::palette().color(groep, QPalette::ButtonText), 1));
+    schilder->translate(vlak.topLeft());
+    schilder->scale(deel, deel);
+    Teken(*schilder);
+    schilder->restore();
+  }
+  QPixmap pixmap(const QSize& maat, QIcon::Mode stand, QIcon::State aan) override {
+    QPixmap beeld(maat);
+    beeld.fill(Qt::transparent);
+    QPainter schilder(&beeld);
+    paint(&schilder, QRect(QPoint(), maat), stand, aan);
+    return beeld;
+  }
+
+ private:
+  /// On a square of ten by ten.
+  void Teken(QPainter& schilder) const {
+    if (welke_ == QStyle::SP_TitleBarMinButton) return schilder.drawLine(QLineF(2.5, 7, 7.5, 7));
+    if (welke_ == QStyle::SP_TitleBarMaxButton) return schilder.drawRect(QRectF(2.5, 2.5, 5, 5));
+    if (welke_ == QStyle::SP_TitleBarNormalButton) {
+      schilder.drawRect(QRectF(2.5, 4, 3.5, 3.5));
+      return schilder.drawPolyline(QPolygonF({{4, 4}, {4, 2.5}, {7.5, 2.5}, {7.5, 6}, {6, 6}}));
+    }
+    schilder.drawLine(QLineF(2.5, 2.5, 7.5, 7.5));
+    schilder.drawLine(QLineF(2.5, 7.5, 7.5, 2.5));
+  }
+
+  QStyle::StandardPixmap welke_;
+};
+
+bool IsTitelknop(QStyle::StandardPixmap welke) {
+  return welke == QStyle::SP_TitleBarMinButton || welke == QStyle::SP_TitleBarMaxButton ||
+         welke == QStyle::SP_TitleBarNormalButton || welke == QStyle::SP_TitleBarCloseButton;
+}
 
 double Lineair(double deel) {
   return deel <= 0.04045 ? deel / 12.92 : std::pow((deel + 0.055) / 1.055, 2.4);
@@ -74,7 +122,7 @@ void Ring(QPainter& schilder, const QRect& plek, const QColor& kleur, int dikte)
 /// The ring of a field, whose ground may be of the ring's own colour.
 QColor Ringkleur(const QPalette& vak) {
   const QColor ring = Ringkleur();
-  return Contrast(ring, vak.color(QPalette::Base)) >= RingZichtbaar ? ring : vak.color(QPalette::Text);
+  return Contrast(ring, vak.color(QPalette::Base)) >= Zichtbaar ? ring : vak.color(QPalette::Text);
 }
 
 /// A theme of black and white, in which the style's own shades and outlines are lost.
@@ -111,6 +159,12 @@ void Rand(QPainter& schilder, QStyle::PrimitiveElement deel, const QStyleOption&
     Ring(schilder, optie.rect, focus ? Ringkleur() : palet.color(QPalette::WindowText), focus ? 2 : 1);
   if (deel == QStyle::PE_PanelLineEdit && focus && Ringkleur(optie.palette) != Ringkleur())
     Ring(schilder, optie.rect.adjusted(1, 1, -1, -1), Ringkleur(optie.palette), 2);
+}
+
+/// A value has no field around it, only the ring when it has the focus.
+bool IsWaardeVlak(QStyle::PrimitiveElement deel, const QWidget* vak) {
+  const auto* const veld = qobject_cast<const QLineEdit*>(vak);
+  return deel == QStyle::PE_PanelLineEdit && veld != nullptr && IsWaarde(*veld);
 }
 
 bool IsSchuifvak(const QWidget* vak) {
@@ -150,6 +204,14 @@ double Contrast(const QColor& een, const QColor& ander) {
   return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
 }
 
+bool IsDonker(const QPalette& palet) {
+  return Helderheid(palet.color(QPalette::Window)) < Helderheid(palet.color(QPalette::WindowText));
+}
+
+bool IsWaarde(const QLineEdit& veld) {
+  return veld.isReadOnly() || veld.testAttribute(Qt::WA_ForceDisabled);
+}
+
 QPalette Leesbaar(QPalette palet) {
   constexpr std::array<std::pair<QPalette::ColorRole, QPalette::ColorRole>, 3> Paren = {
       {{QPalette::WindowText, QPalette::Window},
@@ -179,6 +241,10 @@ void Stijl::unpolish(QWidget* vak) {
 
 void Stijl::drawPrimitive(PrimitiveElement deel, const QStyleOption* optie, QPainter* schilder,
                           const QWidget* vak) const {
+  if (IsWaardeVlak(deel, vak)) {
+    if (optie->state & State_HasFocus) Ring(*schilder, optie->rect, Ringkleur(), 2);
+    return;
+  }
   if (deel != PE_FrameFocusRect) {
     QProxyStyle::drawPrimitive(deel, optie, schilder, vak);
     Omtrek(*schilder, deel, *optie);
@@ -202,6 +268,7 @@ void Stijl::drawControl(ControlElement deel, const QStyleOption* optie, QPainter
 }
 
 QIcon Stijl::standardIcon(StandardPixmap welke, const QStyleOption* optie, const QWidget* vak) const {
+  if (IsTitelknop(welke)) return QIcon(new Titelicoon(welke));
   const bool zelden = welke == SP_ToolBarHorizontalExtensionButton ||  // of a menu bar that does not fit
                       qobject_cast<const QMdiSubWindow*>(vak) != nullptr;
   return zelden ? QIcon(new LuiIcoon(*baseStyle(), welke)) : QProxyStyle::standardIcon(welke, optie, vak);

@@ -6,6 +6,7 @@
 #include <QProxyStyle>
 
 class QApplication;
+class QLineEdit;
 
 namespace murvane {
 
@@ -44,6 +45,15 @@ inline constexpr int Ringruimte = 1;
 
 /// The contrast of two colours as the eye takes it: from 1 for the same ones to 21 for black on white.
 [[nodiscard]] double Contrast(const QColor& een, const QColor& ander);
+
+/// The contrast from which two colours are told apart beside each other.
+inline constexpr double Zichtbaar = 1.5;
+
+/// A theme of light letters on a dark ground.
+[[nodiscard]] bool IsDonker(const QPalette& palet);
+
+/// A box whose text cannot be typed in, by itself and not because its window waits: it looks like text.
+[[nodiscard]] bool IsWaarde(const QLineEdit& veld);
 
 /// A palette in which text of disabled controls stands out from its ground.
 [[nodiscard]] QPalette Leesbaar(QPalette palet);

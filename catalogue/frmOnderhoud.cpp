@@ -285,14 +285,6 @@ void frmOnderhoud::ToonVak(InvoerVeld& vak) {
   vak.ZetKleur(veld.Achtergrond);
 }
 
-/// A locked field has the ground of the window.
-void frmOnderhoud::KleurSlot(InvoerVeld& vak) {
-  QPalette palet = vak.palette();
-  palet.setColor(QPalette::Disabled, QPalette::Base, palette().color(QPalette::Active, QPalette::Window));
-  palet.setColor(QPalette::Disabled, QPalette::Text, palette().color(QPalette::Active, QPalette::WindowText));
-  vak.setPalette(palet);
-}
-
 void frmOnderhoud::ToonToestand() {
   const bool invoer = onderhoud_.Invoer;
   for (const auto& [naam, vak] : besturing_) {
@@ -301,7 +293,6 @@ void frmOnderhoud::ToonToestand() {
   }
   for (InvoerVeld* const vak : velden_) vak->setEnabled(OnderhoudAan(vak->Veld().Naam, invoer));
   for (const auto& [naam, actie] : menus_) actie->setEnabled(OnderhoudAan(naam, invoer));
-  for (InvoerVeld* const vak : velden_) KleurSlot(*vak);
   paneel1_->setText(VanCp(OnderhoudPaneel1(onderhoud_)));
   paneel2_->setText(VanCp(OnderhoudPaneel2(omgeving_.Catalogi, onderhoud_.Soort)));
 }
@@ -320,12 +311,6 @@ void frmOnderhoud::Toon(const OnderhoudUitkomst& uitkomst) {
   ToonToestand();
   if (uitkomst.Focus) findChild<QWidget*>(ObjectNaam(*uitkomst.Focus))->setFocus(Qt::TabFocusReason);
   if (uitkomst.Box) (void)omgeving_.Dialogen.Toon(*uitkomst.Box);
-}
-
-void frmOnderhoud::changeEvent(QEvent* gebeurtenis) {
-  QDialog::changeEvent(gebeurtenis);
-  if (gebeurtenis->type() != QEvent::PaletteChange) return;
-  for (InvoerVeld* const vak : velden_) KleurSlot(*vak);
 }
 
 // ---- Fields ----

@@ -51,7 +51,6 @@ class frmOnderhoud : public QDialog {
  protected:
   void closeEvent(QCloseEvent* gebeurtenis) override;
   void keyPressEvent(QKeyEvent* gebeurtenis) override;
-  void changeEvent(QEvent* gebeurtenis) override;
 
  private:
   QMenuBar* BouwMenu();
@@ -70,7 +69,6 @@ class frmOnderhoud : public QDialog {
   void ToonToestand();
   void VulLijst();
   void Toon(const OnderhoudUitkomst& uitkomst);
-  void KleurSlot(InvoerVeld& vak);
   [[nodiscard]] OnderhoudVak& VakVan(VeldId veld);
 
   void Verlaat(InvoerVeld& vak);

@@ -91,7 +91,7 @@ void frmOverzicht::PasLetterAan() {
   const double vrij = txtOverzicht->viewport()->width() - 2 * txtOverzicht->document()->documentMargin();
   double punten = Grootste;
   while (punten > Kleinste && QFontMetricsF(VasteLetter(punten)).horizontalAdvance(regel) > vrij)
-    punten -= Stap;
+    punten = std::max(punten - Stap, Kleinste);
   txtOverzicht->setFont(VasteLetter(punten));
   const bool past = punten > Kleinste && breedste_ <= OverzichtBreedte;
   txtOverzicht->setHorizontalScrollBarPolicy(past ? Qt::ScrollBarAlwaysOff : Qt::ScrollBarAsNeeded);

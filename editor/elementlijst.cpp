@@ -183,6 +183,10 @@ std::string AantalTekst(int aantal) {
   return std::to_string(aantal) + " kanaalelementen";
 }
 
+std::string AantalGezegd(int aantal) {
+  return aantal == 1 ? "1 kanaalelement" : AantalTekst(aantal);
+}
+
 LijstUitkomst lstTotaal_Click(Elementlijst& lijst, int rij) {
   if (rij < -1 || rij >= MaxCatalogus) throw Fout(FoutNummer::IndexBuitenBereik);
   LijstUitkomst uit;

@@ -82,6 +82,8 @@ void LeegMaken(Project& project, int n);
 
 /// The status bar's text for a number of elements.
 [[nodiscard]] std::string AantalTekst(int aantal);
+/// The same as it is read aloud, where one is not more.
+[[nodiscard]] std::string AantalGezegd(int aantal);
 
 /// Click on a row of the catalogue: it becomes the active list and the page leaves the view. Fout 9 for a row
 /// outside -1 to 499.

@@ -18,7 +18,6 @@
 
 #include "basis/tekst.h"
 #include "basis/vensters_hulp.h"
-#include "basis/vensters_stijl.h"
 #include "editor/validate.h"
 #include "editor/vensters_tekening.h"
 #include "editor/vensters_veld.h"
@@ -65,19 +64,6 @@ QDate DatumVan(const std::string& tekst) {
 /// A handler's name for the box of a failure.
 std::string Procedure(const InvoerVeld& veld, const char* gebeurtenis) {
   return std::string(veld.Veld().Naam) + gebeurtenis;
-}
-
-void KleurLijst(Lijstvak& vak, bool actief) {
-  QPalette palet;
-  vak.setPalette(palet);
-  if (actief) return ZetAchtergrond(vak, ActieveKleur);
-  const QColor letters = palet.color(QPalette::ButtonText);
-  const QColor grond = palet.color(QPalette::Button);
-  palet.setColor(QPalette::Base, grond);
-  palet.setColor(QPalette::Text, letters);
-  palet.setColor(QPalette::Highlight, Meng(letters, grond, 0.2));  // its row is not what the buttons act on
-  palet.setColor(QPalette::HighlightedText, letters);
-  vak.setPalette(palet);
 }
 
 }  // namespace
@@ -222,8 +208,8 @@ void frmMurvane::ToonType() {
 void frmMurvane::ToonLijsten() {
   lstTotaal->ZetRij(TotaalRij(lijst_));
   lstProject->ZetRij(ProjectRij(lijst_));
-  KleurLijst(*lstTotaal, LijstKleur(lijst_, Lijst::lstTotaal) == ActieveKleur);
-  KleurLijst(*lstProject, LijstKleur(lijst_, Lijst::lstProject) == ActieveKleur);
+  lstTotaal->ZetActief(LijstKleur(lijst_, Lijst::lstTotaal) == ActieveKleur);
+  lstProject->ZetActief(LijstKleur(lijst_, Lijst::lstProject) == ActieveKleur);
   for (std::size_t i = 0; i < knoppen_.size(); ++i)
     knoppen_[i]->setEnabled(KnopAan(Toolbarknoppen[i], lijst_));
   if (lijst_.SSTab2) return;

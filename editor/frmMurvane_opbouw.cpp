@@ -277,8 +277,8 @@ QWidget* frmMurvane::BouwFanPrognose() {
 }
 
 QWidget* frmMurvane::BouwElementen() {
-  auto* const blad = new QWidget(this);
-  auto* const indeling = Kolom(blad);
+  auto* const blad = new Blad(this);
+  auto* const indeling = Kolom(blad->Blok(), 0);
   auto* const lijsten = new QHBoxLayout;
   lijsten->setSpacing(2 * Marge);
   lstTotaal = new Lijstvak("lstTotaal", "Lijst kanaalelementen", blad);

@@ -38,9 +38,10 @@ Blad::Blad(QWidget* ouder) : QWidget(ouder), blok_(new QWidget(this)) {
   LegVast();
 }
 
-/// The design: as wide and high as the letters make it pleasant to read.
+/// The design: as wide and high as the letters make it pleasant to read, two lists beside each other
+/// included.
 void Blad::LegVast() {
-  maat_ = QSize(175 * fontMetrics().averageCharWidth(), 45 * fontMetrics().lineSpacing())
+  maat_ = QSize(190 * fontMetrics().averageCharWidth(), 60 * fontMetrics().lineSpacing())
               .boundedTo({MeestePixels, MeestePixels});
   ResizeVenster venster;
   venster.BinnenBreedte = Twips(maat_.width() + Randen.width());

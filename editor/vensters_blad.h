@@ -1,6 +1,6 @@
 #pragma once
-// A sheet of the project window whose content keeps its width for reading and stands in the middle of a
-// larger window.
+// A sheet of the project window. The content of every sheet has the same place: it keeps its size for reading
+// and stands in the middle of a larger window.
 
 #include <QWidget>
 

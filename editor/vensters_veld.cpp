@@ -14,6 +14,7 @@
 
 #include "basis/vensters_hulp.h"
 #include "basis/vensters_stijl.h"
+#include "editor/elementlijst.h"
 #include "editor/vensters_plakken.h"
 
 namespace murvane {
@@ -99,14 +100,25 @@ InvoerVeld::InvoerVeld(VeldId veld, const VeldRegel& regel, const QString& naam,
   if (regel_.Soort == VeldSoort::Numeriek || regel_.Aantal > 0) setAlignment(Qt::AlignRight);
   setReadOnly(regel_.AlleenLezen);
   Beschrijf();
-  ZetAchtergrond(*this, kleur_);
+  Kleur();
   BewaakPlakken(*this, [this](std::uint32_t bgr) { ZetKleur(bgr); });
 }
 
 void InvoerVeld::ZetKleur(std::uint32_t bgr) {
   if (bgr == kleur_) return;
   kleur_ = bgr;
-  ZetAchtergrond(*this, bgr);
+  Kleur();
+}
+
+/// Only what can be typed in has the colour of a field. A value of a band without one stands under its
+/// caption.
+void InvoerVeld::Kleur() {
+  if (veld_.Index >= 0) setAlignment(IsWaarde(*this) ? Qt::AlignHCenter : Qt::AlignRight);
+  if (!IsWaarde(*this)) return ZetAchtergrond(*this, kleur_);
+  QPalette palet;
+  palet.setColor(QPalette::Base, palet.color(QPalette::Active, QPalette::Window));
+  palet.setColor(QPalette::Text, palet.color(QPalette::Active, QPalette::WindowText));
+  setPalette(palet);
 }
 
 void InvoerVeld::Beschrijf() {
@@ -118,6 +130,11 @@ void InvoerVeld::Beschrijf() {
 bool InvoerVeld::event(QEvent* event) {
   if (event->type() == QEvent::ToolTipChange) Beschrijf();
   return QLineEdit::event(event);
+}
+
+void InvoerVeld::changeEvent(QEvent* event) {
+  QLineEdit::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange || event->type() == QEvent::EnabledChange) Kleur();
 }
 
 void InvoerVeld::keyPressEvent(QKeyEvent* event) {
@@ -223,6 +240,31 @@ void Lijstvak::ZetRij(int rij) {
   if (rij < 0) clearSelection();
 }
 
+/// In a dark theme the colour of the active list would blind: it is a thin line there, and a shade of the
+/// ground.
+void Lijstvak::ZetActief(bool actief) {
+  QPalette palet;
+  strook_ = actief && IsDonker(palet);
+  if (actief && !strook_) return ZetAchtergrond(*this, ActieveKleur);
+  if (strook_) {
+    palet.setColor(QPalette::Base, Meng(KleurVan(ActieveKleur), palet.color(QPalette::Base), 0.15));
+  } else {
+    const QColor letters = palet.color(QPalette::ButtonText);
+    const QColor grond = palet.color(QPalette::Button);
+    palet.setColor(QPalette::Base, grond);
+    palet.setColor(QPalette::Text, letters);
+    palet.setColor(QPalette::Highlight, Meng(letters, grond, 0.2));  // its row is not what the buttons act on
+    palet.setColor(QPalette::HighlightedText, letters);
+  }
+  setPalette(palet);
+}
+
+void Lijstvak::paintEvent(QPaintEvent* event) {
+  constexpr int Dikte = 2;
+  QListWidget::paintEvent(event);
+  if (strook_) QPainter(viewport()).fillRect(0, 0, Dikte, viewport()->height(), KleurVan(ActieveKleur));
+}
+
 void Lijstvak::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return;  // only a click selects
   const bool opRij = itemAt(event->position().toPoint()) != nullptr;
@@ -320,6 +362,14 @@ void Keuzevak::ZetTekst(const QString& tekst) {
   setEditText(tekst);
   lineEdit()->setCursorPosition(0);
   ZetAchtergrond(*this, VeldKleur);  // what the program puts in a box is right
+}
+
+void Keuzevak::changeEvent(QEvent* event) {
+  QComboBox::changeEvent(event);
+  if (event->type() != QEvent::PaletteChange) return;
+  const bool rood = palette().color(QPalette::Base) == KleurVan(FoutKleur);
+  ZetAchtergrond(*this,
+                 rood ? FoutKleur : VeldKleur);  // the colour of a selection may not show in this theme
 }
 
 void Keuzevak::wheelEvent(QWheelEvent* event) {

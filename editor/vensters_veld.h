@@ -22,8 +22,9 @@ namespace murvane {
 /// The object name of a field: an element of an array adds its index.
 [[nodiscard]] QString ObjectNaam(VeldId veld);
 
-/// An input field: it swallows the characters that its rule refuses, and selects its text on entry. Its
-/// accessible description says what may be typed, behind what is wrong with the text that it holds.
+/// An input field, or a value that is only shown: text without a field around it. It swallows the characters
+/// that its rule refuses, and selects its text on entry. Its accessible description says what may be typed,
+/// behind what is wrong with the text that it holds.
 class InvoerVeld : public QLineEdit {
   Q_OBJECT
 
@@ -48,6 +49,7 @@ class InvoerVeld : public QLineEdit {
 
  protected:
   bool event(QEvent* event) override;
+  void changeEvent(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
@@ -55,6 +57,7 @@ class InvoerVeld : public QLineEdit {
 
  private:
   void Beschrijf();
+  void Kleur();
 
   VeldId veld_;
   const VeldRegel& regel_;
@@ -111,12 +114,15 @@ class Lijstvak : public QListWidget {
   void ZetRijen(const QStringList& rijen);
   void VoegRij(const QString& tekst);
   void ZetRij(int rij);
+  /// Shows whether the list is the one that the commands act on, in the colours that the theme has now.
+  void ZetActief(bool actief);
 
  signals:
   void Geklikt(int rij);
   void Toets(int qtToets);  ///< Enter, Insert or Delete; Enter is always Qt::Key_Return
 
  protected:
+  void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
@@ -130,6 +136,7 @@ class Lijstvak : public QListWidget {
   [[nodiscard]] bool ZoektNog() const;
 
   bool stil_ = false;
+  bool strook_ = false;  ///< along the left side, in the colour of the active list
   QElapsedTimer gezocht_;
 };
 
@@ -159,6 +166,7 @@ class Keuzevak : public QComboBox {
   void Verlaten();
 
  protected:
+  void changeEvent(QEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
 };

@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <utility>
 
 #include "basis/fout.h"
 #include "basis/vensters_hulp.h"
@@ -69,7 +70,6 @@ void frmCalc::BouwOp() {
   boven->setSpacing(2 * Marge);
   boven->addWidget(BouwInvoer());
   tekening_ = new Tekening(this);
-  tekening_->ZetBeeld(":/estimators/beelden/" + VanCp(venster.Beeld) + ".svg", VanCp(venster.Titel));
   tekening_->setMinimumSize(320, 200);
   boven->addWidget(tekening_, 1);
   indeling->addLayout(boven, 1);
@@ -203,10 +203,17 @@ bool frmCalc::BewaarVelden() {
   return terugNaar_ == nullptr;
 }
 
+/// Loaded only when it is another one.
+void frmCalc::ToonTekening(const QString& beeld) {
+  if (std::exchange(beeld_, beeld) == beeld) return;
+  tekening_->ZetBeeld(":/estimators/beelden/" + beeld + ".svg", windowTitle());
+}
+
 void frmCalc::ToonVoorproef() {
   Veilig("ToonVoorproef", [&] {
     std::vector<std::string> teksten;
     for (const InvoerVeld* const vak : velden_) teksten.push_back(NaarCp(vak->text()));
+    ToonTekening(VanCp(BeeldVan(invoer_, soort_, teksten, decimaal_)));
     const auto schatting = Voorproef(invoer_, soort_, teksten, decimaal_);
     lblOmschrijving->setText(schatting ? VanCp(schatting->Omschrijving) : QString());
     staven_->Zet(schatting ? std::optional(schatting->Demping) : std::nullopt);

@@ -65,6 +65,7 @@ class frmCalc : public QDialog {
   bool BewaarVelden();
   void GaTerug(InvoerVeld* veld);
   void ToonVoorproef();
+  void ToonTekening(const QString& beeld);
   void cmdOK_Click();
 
   /// Handles an event; a failure is shown and the window stays open.
@@ -82,6 +83,7 @@ class frmCalc : public QDialog {
   InvoerVeld* terugNaar_ = nullptr;  ///< an invalid field that is about to have the focus again
 
   std::vector<InvoerVeld*> velden_;  ///< in the order of the table
+  QString beeld_;                    ///< the drawing on show
   Tekening* tekening_ = nullptr;
   QLabel* lblOmschrijving = nullptr;
   Staven* staven_ = nullptr;

@@ -60,4 +60,15 @@ std::optional<Schatting> Voorproef(const SchatInvoer& invoer, Schatter soort,
   return schatting == nullptr ? std::nullopt : std::optional(*schatting);
 }
 
+std::string_view BeeldVan(const SchatInvoer& invoer, Schatter soort, std::span<const std::string> teksten,
+                          char decimaal) {
+  constexpr std::size_t Breedte = 1;
+  const SchatVenster& venster = VensterVan(soort);
+  if (soort != Schatter::KwartLambda) return venster.Beeld;
+  if (teksten.size() <= Breedte) throw Fout(FoutNummer::IndexBuitenBereik);
+  SchatInvoer proef = invoer;
+  const bool geldig = VerlaatVeld(proef, venster.Velden[Breedte], teksten[Breedte], decimaal).Geldig;
+  return geldig && proef.KwartLambda.B == 0 ? "kwartlambda-demper-rond" : venster.Beeld;
+}
+
 }  // namespace murvane

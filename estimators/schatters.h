@@ -18,7 +18,7 @@ struct SchatVenster {
   Schatter Soort;
   std::string_view Naam;  ///< of the window
   std::string_view Titel;
-  std::string_view Beeld;  ///< of the drawing
+  std::string_view Beeld;  ///< of the drawing, unless its duct is round: see BeeldVan
   std::span<const SchatVeld> Velden;
 };
 
@@ -34,5 +34,9 @@ void Form_Load(SchatInvoer& invoer, Schatter soort);
 /// the fields; nothing when one of them is no number or OK would refuse.
 [[nodiscard]] std::optional<Schatting> Voorproef(const SchatInvoer& invoer, Schatter soort,
                                                  std::span<const std::string> teksten, char decimaal);
+
+/// The drawing of an estimate for texts that stand in the fields: a duct without a width is round.
+[[nodiscard]] std::string_view BeeldVan(const SchatInvoer& invoer, Schatter soort,
+                                        std::span<const std::string> teksten, char decimaal);
 
 }  // namespace murvane

@@ -13,12 +13,14 @@
 #include "basis/vensters_hulp.h"
 #include "reports/vensters_vlak.h"
 #include "reports/vensters_werkbalk.h"
+#include "reports/vensters_zoom.h"
 
 namespace murvane {
 
 namespace {
 
 constexpr double TwipsPerPixel = 15;
+constexpr int MinsteStap = -7, MeesteStap = 7;  ///< half the size of paper, and the pictures' own pixels
 
 int Pixels(double twips) {
   return static_cast<int>(std::lround(twips / TwipsPerPixel));
@@ -32,14 +34,29 @@ void ZetBalk(QScrollBar& balk, const Schuifbalk& stand) {
   balk.setValue(static_cast<int>(stand.Waarde));
 }
 
+/// The point of the page in the middle of what is in view, as a part of the page; 0 for a page all in view.
+double Midden(const QScrollBar& balk, const Schuifbalk& stand, double pagina) {
+  return stand.Zichtbaar ? (balk.value() + stand.Lengte / 2) / pagina : 0;
+}
+
+void ZetMidden(QScrollBar& balk, const Schuifbalk& stand, double pagina, double deel) {
+  if (stand.Zichtbaar) balk.setValue(static_cast<int>(deel * pagina - stand.Lengte / 2));
+}
+
 }  // namespace
 
 Documentvak::Documentvak(QWidget* ouder) : QWidget(ouder) {
   setObjectName("Document");
   setAccessibleName("Bladzijde van het berekeningsformulier");
-  setAccessibleDescription("De pijltoetsen en Page Up en Page Down schuiven de bladzijde.");
+  setAccessibleDescription(
+      "De pijltoetsen en Page Up en Page Down schuiven de bladzijde; Ctrl met + en - "
+      "vergroot en verkleint haar.");
   setFocusPolicy(Qt::StrongFocus);
-  setFixedSize(Pixels(VoorbeeldBreedte), Pixels(VoorbeeldHoogte));
+  ZetMaal(1);
+}
+
+void Documentvak::ZetMaal(double maal) {
+  setFixedSize(Pixels(VoorbeeldBreedte * maal), Pixels(VoorbeeldHoogte * maal));
 }
 
 void Documentvak::Toon(const QImage& blad) {
@@ -62,7 +79,8 @@ frmPreView::frmPreView(VoorbeeldStand& stand, QWidget* ouder)
       DocumentContainer(new QWidget(this)),
       document_(new Documentvak(DocumentContainer)),
       HScroll1(new QScrollBar(Qt::Horizontal, this)),
-      VScroll1(new QScrollBar(Qt::Vertical, this)) {
+      VScroll1(new QScrollBar(Qt::Vertical, this)),
+      zoom_(new Zoom(this, this, MinsteStap, MeesteStap)) {
   setObjectName("frmPreView");
   setWindowTitle(VanCp(VoorbeeldTitelBegin));
   DocumentContainer->setObjectName("DocumentContainer");
@@ -77,6 +95,7 @@ frmPreView::frmPreView(VoorbeeldStand& stand, QWidget* ouder)
   VerbindBalk(*HScroll1);
   VerbindBalk(*VScroll1);
   connect(Toolbar1, &Werkbalk::ButtonClick, this, &frmPreView::ButtonClick);
+  connect(zoom_, &Zoom::Gewijzigd, this, &frmPreView::PasZoomToe);
   setFocusProxy(document_);
 }
 
@@ -93,7 +112,23 @@ void frmPreView::VerbindBalk(QScrollBar& balk) {
 }
 
 void frmPreView::Schuif() {
-  document_->move(-Pixels(HScroll1->value()), -Pixels(VScroll1->value()));
+  const double maal = zoom_->Maal();
+  const auto& [h, v] = balken_;
+  document_->move(Pixels(BladPlaats(h, HScroll1->value(), maal * VoorbeeldBreedte)),
+                  Pixels(BladPlaats(v, VScroll1->value(), maal * VoorbeeldHoogte)));
+}
+
+/// What stands in the middle stays there.
+void frmPreView::PasZoomToe() {
+  const double maal = zoom_->Maal();
+  const double breedte = document_->width() * TwipsPerPixel, hoogte = document_->height() * TwipsPerPixel;
+  const double x = Midden(*HScroll1, balken_.Horizontaal, breedte);
+  const double y = Midden(*VScroll1, balken_.Verticaal, hoogte);
+  document_->ZetMaal(maal);
+  DeelIn();
+  ZetMidden(*HScroll1, balken_.Horizontaal, maal * VoorbeeldBreedte, x);
+  ZetMidden(*VScroll1, balken_.Verticaal, maal * VoorbeeldHoogte, y);
+  ToonBlad();
 }
 
 void frmPreView::ToonBlad() {
@@ -128,6 +163,10 @@ bool frmPreView::focusNextPrevChild(bool verder) {
 
 void frmPreView::resizeEvent(QResizeEvent* gebeurtenis) {
   QWidget::resizeEvent(gebeurtenis);
+  DeelIn();
+}
+
+void frmPreView::DeelIn() {
   const int werkbalk = Toolbar1->sizeHint().height();
   const int dikte = VScroll1->sizeHint().width();
   Toolbar1->setGeometry(0, 0, width(), werkbalk);
@@ -136,8 +175,9 @@ void frmPreView::resizeEvent(QResizeEvent* gebeurtenis) {
                    dikte * TwipsPerPixel, dikte * TwipsPerPixel);
   DocumentContainer->setGeometry(Pixels(houder.Links), Pixels(houder.Boven), Pixels(houder.Breedte),
                                  Pixels(houder.Hoogte));
-  const Schuifbalken balken = SizeScrolls(houder, VoorbeeldBreedte, VoorbeeldHoogte);
-  const auto& [h, v] = balken;
+  const double maal = zoom_->Maal();
+  balken_ = SizeScrolls(houder, maal * VoorbeeldBreedte, maal * VoorbeeldHoogte);
+  const auto& [h, v] = balken_;
   ZetBalk(*HScroll1, h);
   ZetBalk(*VScroll1, v);
   HScroll1->setGeometry(Pixels(h.Langs), Pixels(h.Dwars), Pixels(h.Lengte), dikte);

@@ -12,6 +12,7 @@ namespace murvane {
 
 class Schildervlak;
 class Werkbalk;
+class Zoom;
 
 /// The page on show.
 class Documentvak : public QWidget {
@@ -20,6 +21,8 @@ class Documentvak : public QWidget {
  public:
   explicit Documentvak(QWidget* ouder);
   void Toon(const QImage& blad);
+  /// The size of the page, against that of paper.
+  void ZetMaal(double maal);
 
  protected:
   void paintEvent(QPaintEvent* gebeurtenis) override;
@@ -58,7 +61,9 @@ class frmPreView : public QWidget {
  private:
   void ButtonClick(const QString& sleutel);
   void VerbindBalk(QScrollBar& balk);
+  void DeelIn();
   void Schuif();
+  void PasZoomToe();
 
   VoorbeeldStand& stand_;
   std::unique_ptr<Schildervlak> vlak_;
@@ -67,6 +72,8 @@ class frmPreView : public QWidget {
   Documentvak* document_;
   QScrollBar* HScroll1;
   QScrollBar* VScroll1;
+  Zoom* zoom_;
+  Schuifbalken balken_;
 };
 
 }  // namespace murvane

@@ -53,6 +53,10 @@ Schuifbalken SizeScrolls(const Rechthoek& houder, double breedte, double hoogte)
           Balk(houder.Links + houder.Breedte, houder.Boven, houder.Hoogte, hoogte)};
 }
 
+double BladPlaats(const Schuifbalk& balk, double waarde, double pagina) {
+  return balk.Zichtbaar ? -waarde : (balk.Lengte - pagina) / 2;
+}
+
 Rechthoek PlaatsHouder(double breedte, double hoogte, double werkbalk, double balkBreedte,
                        double balkHoogte) {
   return {0, werkbalk, breedte - balkBreedte, hoogte - werkbalk - balkHoogte};

@@ -86,6 +86,9 @@ struct Schuifbalken {
 /// The scroll bars beside the visible part (`houder`) of a page of the given size. With value v the page
 /// stands at -v.
 [[nodiscard]] Schuifbalken SizeScrolls(const Rechthoek& houder, double breedte, double hoogte);
+/// Where a page of the given length stands along a bar with a value: in the middle of its room while the bar
+/// is hidden.
+[[nodiscard]] double BladPlaats(const Schuifbalk& balk, double waarde, double pagina);
 /// The visible part of the page inside a window: under the toolbar, beside the bars.
 [[nodiscard]] Rechthoek PlaatsHouder(double breedte, double hoogte, double werkbalk, double balkBreedte,
                                      double balkHoogte);

@@ -20,7 +20,7 @@ QT_QPA_PLATFORM=offscreen build/release/bin/murvane-druk data/kantoor.mrv --pdf 
 pdftoppm -r 75 -png -f 2 -l 2 -singlefile "$ruw/formulier.pdf" "$ruw/formulier"
 
 mkdir -p docs/beelden
-rm -f docs/beelden/*.png
+find docs/beelden -name '*.png' ! -name '*-voor.png' -delete  # what looked otherwise before stays to compare
 for beeld in "$ruw"/*.png; do
   # A window has few colours; without dates two runs give the same bytes.
   convert "$beeld" -strip +dither -colors 96 -define png:compression-level=9 \

@@ -91,6 +91,7 @@ MDIMurvane::MDIMurvane(Programma& programma, Dialogen& dialogen)
   connect(project_, &frmMurvane::ToestandGewijzigd, this, &MDIMurvane::ToonToestand);
   connect(project_, &frmMurvane::SluitVensters, this, &MDIMurvane::SluitVensters);
   connect(this, &QWidget::windowTitleChanged, this, &MDIMurvane::NoemVenster, Qt::QueuedConnection);
+  connect(gebied_, &QMdiArea::subWindowActivated, this, &MDIMurvane::NoemVenster, Qt::QueuedConnection);
   project_->ToonGeenProject();
   ToonToestand();
 }
@@ -217,7 +218,7 @@ void MDIMurvane::VulVensterMenu(QMenu& menu) {
 /// front from the main window's title once another has closed. A name that changes is put into it again.
 void MDIMurvane::NoemVenster() {
   const QMdiSubWindow* const voor = gebied_->currentSubWindow();
-  if (windowTitle().contains('[') || voor == nullptr) return;
+  if (windowTitle().contains('[') || voor == nullptr || !voor->isMaximized()) return;
   const QString naam = voor->widget()->windowTitle();
   voor->widget()->setWindowTitle(" ");
   voor->widget()->setWindowTitle(naam);
@@ -282,6 +283,8 @@ void MDIMurvane::ToonToestand() {
   paneel1_->setText(QString::fromStdString(balk.Paneel1));
   paneel2_->setText(VanCp(balk.Paneel2));
   paneel3_->setText(VanCp(balk.Paneel3));
+  paneel3_->setAccessibleName(
+      VanCp(ProjectOpen(sessie) ? AantalGezegd(programma_.Project.ElementCount) : balk.Paneel3));
 }
 
 void MDIMurvane::Voer(const Gevolg& gevolg) {
@@ -346,7 +349,18 @@ void MDIMurvane::Reken() {
   Voer(Berekend(project_->DeSessie(), vlag::Berekend, ""));
   zandloper.reset();
   project_->ZetVoortgang(0, 0);
-  kader->showMaximized();
+  ToonResultaat(*kader);
+}
+
+/// As wide as its text in the middle of a larger room, else as large as there is room.
+void MDIMurvane::ToonResultaat(QMdiSubWindow& kader) {
+  const QSize vrij = gebied_->viewport()->size();
+  const int breed = kader.sizeHint().width();
+  kader.showMaximized();
+  gebied_->setActiveSubWindow(&kader);  // which makes it as large as the project's, when that was in front
+  if (breed > vrij.width()) return;
+  kader.showNormal();
+  kader.setGeometry((vrij.width() - breed) / 2, 0, breed, vrij.height());
 }
 
 QMdiSubWindow* MDIMurvane::LaadResultaat() {
@@ -359,9 +373,7 @@ QMdiSubWindow* MDIMurvane::LaadResultaat() {
 
 void MDIMurvane::mnuPreview() {
   if (resultaat_ == nullptr) (void)LaadResultaat();
-  auto* kader = qobject_cast<QMdiSubWindow*>(resultaat_->parentWidget());
-  kader->showMaximized();
-  gebied_->setActiveSubWindow(kader);
+  ToonResultaat(*qobject_cast<QMdiSubWindow*>(resultaat_->parentWidget()));
 }
 
 void MDIMurvane::VerbindResultaat(frmResultaat& venster) {

@@ -85,6 +85,7 @@ class MDIMurvane : public QMainWindow {
 
   void Reken();
   QMdiSubWindow* LaadResultaat();
+  void ToonResultaat(QMdiSubWindow& kader);
   void Onderhoud(CatalogusSoort soort);
   void Voer(const Gevolg& gevolg);
   void SluitVensters();

@@ -340,6 +340,12 @@ TEST(Elementlijst, GivesTheFirstElevenRecordsTheirOwnType) {
   for (const int n : {12, 13, 99, 500}) EXPECT_EQ(TypeVanRecord(n), 99);
 }
 
+TEST(Elementlijst, OneElementIsSaidToBeOne) {
+  EXPECT_EQ(AantalGezegd(0), "0 kanaalelementen");
+  EXPECT_EQ(AantalGezegd(1), "1 kanaalelement");
+  EXPECT_EQ(AantalGezegd(2), "2 kanaalelementen");
+}
+
 TEST(Elementlijst, CountsInPanel3) {
   EXPECT_EQ(AantalTekst(0), "0 kanaalelementen");
   EXPECT_EQ(AantalTekst(1), "1 kanaalelementen");

@@ -214,5 +214,22 @@ TEST(Weigering, IsShownInAWarningBox) {
             (Melding{MeldingSoort::Uitroep, "Waarschuwing", "Geen dikte kanaalwand ingevuld"}));
 }
 
+TEST(Schatters, DrawAQuarterWaveSilencerWithoutAWidthRound) {
+  const SchatInvoer invoer;
+  const auto beeld = [&](Schatter soort, const char* breedte) {
+    return BeeldVan(invoer, soort, std::vector<std::string>{"200", breedte, "1", "0,5"}, ',');
+  };
+  for (const char* const rond : {"0", "", "00"})
+    EXPECT_EQ(beeld(Schatter::KwartLambda, rond), "kwartlambda-demper-rond") << rond;
+  for (const char* const recht : {"1", "300", "9999", "x"})  // what is no number is no round duct either
+    EXPECT_EQ(beeld(Schatter::KwartLambda, recht), "kwartlambda-demper") << recht;
+  for (const Schatter soort : {Schatter::Bekleed, Schatter::Plenum, Schatter::Kanaalwand})
+    EXPECT_EQ(beeld(soort, "0"), VensterVan(soort).Beeld);
+  EXPECT_EQ(proef::NummerVan([&] {
+              return BeeldVan(invoer, Schatter::KwartLambda, std::vector<std::string>{"200"}, ',').size();
+            }),
+            9);
+}
+
 }  // namespace
 }  // namespace murvane

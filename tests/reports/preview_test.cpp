@@ -97,6 +97,15 @@ TEST(SizeScrolls, HidesABarOfAPageThatIsSmallerWithItsMargins) {
   }
 }
 
+TEST(BladPlaats, IsInTheMiddleOfMoreRoomAndElseWhereItsBarSays) {
+  const auto balk = [](double pagina) { return SizeScrolls({0, 0, 1000, 9}, pagina, 9).Horizontaal; };
+  EXPECT_EQ(BladPlaats(balk(500), -150, 500), 250);
+  EXPECT_EQ(BladPlaats(balk(699), -150, 699), 150.5);
+  EXPECT_EQ(BladPlaats(balk(700), -150, 700), 150) << "the bar shows, with its margin";
+  EXPECT_EQ(BladPlaats(balk(5000), -150, 5000), 150);
+  EXPECT_EQ(BladPlaats(balk(5000), 4150, 5000), -4150);
+}
+
 TEST(PlaatsHouder, LeavesRoomForToolbarAndBars) {
   EXPECT_EQ(PlaatsHouder(10000, 8000, 420, 255, 240), (Rechthoek{0, 420, 9745, 7340}));
 }

@@ -26,7 +26,8 @@ class KleineLetters {
   QFont gewoon_ = QApplication::font();
 };
 
-constexpr std::array<Tab, 3> Bladen = {Tab::Ventilator, Tab::Ruimtegegevens, Tab::Projectgegevens};
+constexpr std::array<Tab, 4> Bladen = {Tab::Ventilator, Tab::Kanaalelementen, Tab::Ruimtegegevens,
+                                       Tab::Projectgegevens};
 
 class Formaat : private KleineLetters, public Hoofdvenster {
  protected:
@@ -34,7 +35,7 @@ class Formaat : private KleineLetters, public Hoofdvenster {
     Open("kantoor.mrv");
     QCoreApplication::processEvents();
     ontwerp =
-        QSize(175 * HetBlad().fontMetrics().averageCharWidth(), 45 * HetBlad().fontMetrics().lineSpacing());
+        QSize(190 * HetBlad().fontMetrics().averageCharWidth(), 60 * HetBlad().fontMetrics().lineSpacing());
     rand = venster->size() - HetBlad().size();
   }
 
@@ -140,8 +141,8 @@ TEST_F(Formaat, LargerLettersMakeALargerDesign) {
   QApplication::setFont(groot);
   QCoreApplication::processEvents();
   const QFontMetrics maten = HetBlad().fontMetrics();
-  ASSERT_GT(175 * maten.averageCharWidth() + 45 * maten.lineSpacing(), ontwerp.width() + ontwerp.height());
-  ontwerp = QSize(175 * maten.averageCharWidth(), 45 * maten.lineSpacing());
+  ASSERT_GT(190 * maten.averageCharWidth() + 60 * maten.lineSpacing(), ontwerp.width() + ontwerp.height());
+  ontwerp = QSize(190 * maten.averageCharWidth(), 60 * maten.lineSpacing());
   EXPECT_EQ(HetBlad().Blok()->geometry(), Verwacht());
 }
 

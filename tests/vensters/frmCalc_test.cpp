@@ -430,6 +430,23 @@ TEST_F(SchatVensters, VraagShowsTheWindowModallyAndHandsOverTheEstimate) {
   EXPECT_FALSE(frmCalc::Vraag(Schatter::Bekleed, invoer, script, ',', &ouder).has_value());
 }
 
+TEST_F(SchatVensters, AQuarterWaveSilencerWithoutAWidthIsDrawnRound) {
+  invoer.KwartLambda = {200, 0, 1, 0.5};
+  frmCalc demper(Schatter::KwartLambda, invoer, script, ',');
+  demper.show();
+  auto* const tekening = demper.findChild<Tekening*>("Tekening");
+  auto* const breedte = demper.findChild<QLineEdit*>("Text2");
+  const auto beeld = [&] {
+    tekening->Belicht({});
+    return tekening->grab().toImage();
+  };
+  const QImage rond = beeld();
+  breedte->setText("300");
+  EXPECT_NE(beeld(), rond);
+  breedte->setText("0");
+  EXPECT_EQ(beeld(), rond);
+}
+
 TEST_F(SchatVensters, BarsGrowWithTheirValues) {
   Staven staven("R in dB", nullptr);
   staven.resize(280, 200);

@@ -23,6 +23,7 @@
 
 #include "basis/tekst.h"
 #include "basis/vensters_hulp.h"
+#include "catalogue/frmOverzicht.h"
 #include "catalogue/overzicht.h"
 #include "editor/frmMurvane.h"
 #include "estimators/frmCalc.h"
@@ -644,6 +645,23 @@ TEST_F(OnderhoudVensters, ShowSaveAndPrintAnOverview) {
   EXPECT_EQ(proef::Lees(map / "glas é.plf"), OverzichtBytes(verwacht));
   script.InvoerBox({"plafonds - Overzicht op omschrijving", "", ""}, "");
   Actie("mnuZoekNaam")->trigger();
+}
+
+// Steps of a tenth of a point went on below six.
+TEST_F(OnderhoudVensters, AnOverviewIsNeverSmallerThanSixPoints) {
+  for (const int breed : {300, 700, 900, 1000, 1100, 1300, 2000}) {
+    frmOverzicht overzicht(Overzicht(catalogi, CatalogusSoort::Kanaalelementen, OverzichtWijze::Alles,
+                                     ZoekAlles, "20-11-2026", ','),
+                           script);
+    overzicht.show();
+    overzicht.resize(breed, 500);
+    QApplication::processEvents();
+    const double punten = overzicht.findChild<QPlainTextEdit*>("txtOverzicht")->font().pointSizeF();
+    EXPECT_GE(punten, 6.0) << breed;
+    if (breed == 300) {
+      EXPECT_EQ(punten, 6.0);
+    }
+  }
 }
 
 TEST_F(OnderhoudVensters, ShowTheProgressOfAnOverviewUnderTheWaitCursor) {

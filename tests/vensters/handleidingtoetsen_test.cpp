@@ -14,8 +14,10 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTabWidget>
+#include <QTextEdit>
 #include <QToolButton>
 #include <algorithm>
 #include <map>
@@ -190,7 +192,7 @@ class Handleidingtoetsen : public Gestart, public testing::WithParamInterface<Ri
   /// Presses keys by the names that the manual gives them.
   void Druk(const QString& toets, int keer = 1) {
     Qt::KeyboardModifiers met;
-    QStringList delen = toets.split('+');
+    QStringList delen = toets.split(QRegularExpression("\\+(?=.)"));  // the last one may be + itself
     for (const QString& deel : delen) gedrukt_.insert(deel.toStdString());
     const QString laatste = delen.takeLast();
     for (const QString& deel : delen) met |= Bijtoetsen.at(deel);
@@ -506,6 +508,35 @@ void SchuifBlad(Lezer& l) {
   }
 }
 
+void VergrootTekst(Lezer& l) {
+  l.Resultaten();
+  const auto* const tekst = l.Voor()->findChild<QTextEdit*>("RichTextBox1");
+  const auto punten = [tekst] {
+    QTextCursor cursor(tekst->document());
+    cursor.setPosition(1);
+    return cursor.charFormat().fontPointSize();
+  };
+  EXPECT_EQ(punten(), 12);
+  l.Druk("Ctrl++", 2);
+  EXPECT_GT(punten(), 12);
+  l.Druk("Ctrl+-", 3);
+  EXPECT_LT(punten(), 12);
+  l.Druk("Ctrl+0");
+  EXPECT_EQ(punten(), 12);
+}
+
+void VergrootBlad(Lezer& l) {
+  OpenVoorbeeld(l);
+  const auto* const blad = l.Voor()->findChild<QWidget*>("Document");
+  const int breedte = blad->width();
+  l.Druk("Ctrl++", 2);
+  EXPECT_GT(blad->width(), breedte);
+  l.Druk("Ctrl+-", 3);
+  EXPECT_LT(blad->width(), breedte);
+  l.Druk("Ctrl+0");
+  EXPECT_EQ(blad->width(), breedte);
+}
+
 /// In a new straight duct whose height is stored as 250.
 void InHoogte(Lezer& l) {
   l.Nieuw();
@@ -734,6 +765,12 @@ constexpr auto Rijen = std::to_array<Rij>({
      "Blader met Naar beginpagina, Naar vorige pagina, Naar volgende pagina en Naar laatste pagina; "
      "schuif met de pijltjestoetsen, PageUp en PageDown.",
      SchuifBlad},
+    {"resultaten.html",
+     "Ctrl++ en Ctrl+-, of het muiswiel met Ctrl, maken de tekst op het scherm groter en kleiner; Ctrl+0 zet "
+     "hem terug.",
+     VergrootTekst},
+    {"resultaten.html", "Ctrl++ en Ctrl+-, of het muiswiel met Ctrl, vergroten en verkleinen de bladzijde.",
+     VergrootBlad},
     {"toetsen.html", "Alles in MurVane gaat ook zonder muis.", ZonderMuis},
     {"toetsen.html", "Alt | naar de menubalk; daarna de pijltjes, Enter of de onderstreepte letter",
      [](Lezer& l) {
@@ -1023,6 +1060,19 @@ constexpr auto Rijen = std::to_array<Rij>({
        });
      }},
     {"toetsen.html", "afdrukvoorbeeld | pijltjes, PageUp, PageDown | schuift de bladzijde", SchuifBlad},
+    {"toetsen.html",
+     "resultaten, afdrukvoorbeeld | Ctrl++, Ctrl+- | maakt de tekst of de bladzijde op het scherm groter of "
+     "kleiner",
+     [](Lezer& l) {
+       VergrootTekst(l);
+       l.Antwoord(QMessageBox::No, "Afdrukken met grafiek?");
+       l.Voor()->findChild<QToolButton*>("Toolbar1_preview")->click();
+       const auto* const blad = l.Voor()->findChild<QWidget*>("Document");
+       const int breedte = blad->width();
+       l.Druk("Ctrl++");
+       EXPECT_GT(blad->width(), breedte);
+     }},
+    {"toetsen.html", "resultaten, afdrukvoorbeeld | Ctrl+0 | zet de grootte terug", VergrootBlad},
     {"toetsen.html", "kalender | pijltjes, Enter | kiest een dag en neemt hem over",
      [](Lezer& l) {
        l.Nieuw();

@@ -17,6 +17,7 @@
 #include <QTest>
 #include <QTextEdit>
 #include <QToolButton>
+#include <QWheelEvent>
 #include <memory>
 
 #include "basis/bestand.h"
@@ -88,6 +89,14 @@ class Resultaatvensters : public testing::Test {
     Klik("frmResultaat", "preview");
     script.IsKlaar();
     return Zoek<frmPreView>("frmPreView");
+  }
+  /// The wheel over a control, in eighths of a degree, as the window system tells of it.
+  static void Wiel(QWidget& vak, int draai, Qt::KeyboardModifiers met) {
+    const QPointF plek(40, 40);
+    QWheelEvent wiel(plek, vak.mapToGlobal(plek), {}, {0, draai}, Qt::NoButton, met, Qt::NoScrollPhase,
+                     false);
+    QSpontaneKeyEvent::setSpontaneous(&wiel);  // others go no further than the control
+    qApp->notify(&vak, &wiel);
   }
   static bool Kan(QWidget* in, const char* sleutel) {
     return in->findChild<QToolButton*>(QString("Toolbar1_") + sleutel)->isEnabled();
@@ -287,7 +296,8 @@ TEST_F(Resultaatvensters, ThePreviewScrollsItsPage) {
   auto* const preview = OpenVoorbeeld();
   auto* const document = preview->findChild<QWidget*>("Document");
   auto* const v = preview->findChild<QScrollBar*>("VScroll1");
-  EXPECT_EQ(document->pos(), QPoint(10, 10));  // 150 twips
+  const auto* const ruimte = preview->findChild<QWidget*>("DocumentContainer");
+  EXPECT_EQ(document->pos(), QPoint((ruimte->width() - 794) / 2, 10));  // in the middle; 150 twips
   EXPECT_TRUE(v->isVisible());
   EXPECT_FALSE(preview->findChild<QScrollBar*>("HScroll1")->isVisible());  // the page is narrower
   EXPECT_EQ(v->minimum(), -150);
@@ -303,6 +313,92 @@ TEST_F(Resultaatvensters, ThePreviewScrollsItsPage) {
   EXPECT_EQ(v->value(), v->maximum());
   const auto* const houder = preview->findChild<QWidget*>("DocumentContainer");
   EXPECT_NEAR(document->geometry().bottom() + 10, houder->height(), 2);  // the page's end and its margin
+}
+
+TEST_F(Resultaatvensters, ThePreviewIsLargerAndSmallerWithCtrl) {
+  Bereken("overspraak.mrv");
+  auto* const preview = OpenVoorbeeld();
+  auto* const document = preview->findChild<QWidget*>("Document");
+  const auto* const ruimte = preview->findChild<QWidget*>("DocumentContainer");
+  EXPECT_EQ(document->size(), QSize(794, 1100));
+  Wiel(*document, 120, {});
+  EXPECT_EQ(document->size(), QSize(794, 1100)) << "the wheel alone scrolls";
+  Wiel(*document, 120, Qt::ControlModifier);
+  EXPECT_EQ(document->size(), QSize(873, 1210));  // a tenth larger
+  Wiel(*document, -240, Qt::ControlModifier);
+  EXPECT_EQ(document->size(), QSize(722, 1000));
+  QTest::keyClick(document, Qt::Key_0, Qt::ControlModifier);
+  EXPECT_EQ(document->size(), QSize(794, 1100));
+  for (int i = 0; i < 20; ++i) QTest::keyClick(document, Qt::Key_Minus, Qt::ControlModifier);
+  EXPECT_EQ(document->size(), QSize(407, 564)) << "no smaller than about half";
+  EXPECT_EQ(document->pos(),
+            QPoint((ruimte->width() - 407) / 2, (ruimte->height() - 564) / 2));  // within rounding
+  EXPECT_FALSE(preview->findChild<QScrollBar*>("VScroll1")->isVisible());
+  for (int i = 0; i < 20; ++i) QTest::keyClick(document, Qt::Key_Plus, Qt::ControlModifier);
+  EXPECT_EQ(document->size(), QSize(1547, 2143)) << "no larger than about twice";
+  EXPECT_TRUE(preview->findChild<QScrollBar*>("HScroll1")->isVisible());
+}
+
+TEST_F(Resultaatvensters, ThePreviewKeepsItsMiddleWhenItIsEnlarged) {
+  Bereken("overspraak.mrv");
+  auto* const preview = OpenVoorbeeld();
+  auto* const document = preview->findChild<QWidget*>("Document");
+  auto* const v = preview->findChild<QScrollBar*>("VScroll1");
+  const auto* const ruimte = preview->findChild<QWidget*>("DocumentContainer");
+  v->setValue(2000);
+  const auto midden = [&] { return (ruimte->height() / 2.0 - document->y()) / document->height(); };
+  const double was = midden();
+  for (int i = 0; i < 4; ++i) QTest::keyClick(document, Qt::Key_Plus, Qt::ControlModifier);
+  EXPECT_NEAR(midden(), was, 0.005);
+}
+
+TEST_F(Resultaatvensters, TheResultsAreAsWideAsTheirTextInALargeWindow) {
+  venster->resize(1900, 1000);
+  Bereken("kantoor.mrv");
+  QCoreApplication::processEvents();
+  auto* const resultaat = Zoek<frmResultaat>("frmResultaat");
+  const auto* const tekst = resultaat->findChild<QTextEdit*>("RichTextBox1");
+  auto* const kader = qobject_cast<QMdiSubWindow*>(resultaat->parentWidget());
+  EXPECT_FALSE(kader->isMaximized());
+  EXPECT_FALSE(tekst->horizontalScrollBar()->isVisible());
+  EXPECT_LT(tekst->viewport()->width() - tekst->document()->idealWidth(), 40) << "no room to spare";
+  const QRect ruimte = kader->parentWidget()->rect();
+  EXPECT_NEAR(kader->geometry().center().x(), ruimte.center().x(), 1);
+  EXPECT_EQ(kader->height(), ruimte.height());
+  EXPECT_EQ(QApplication::focusWidget(), tekst);
+  Actie("mnuPreview")->trigger();
+  EXPECT_FALSE(kader->isMaximized());
+  kader->close();
+  QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(qobject_cast<QMdiSubWindow*>(Zoek<QWidget>("frmMurvane")->parentWidget())->isMaximized());
+  EXPECT_EQ(venster->windowTitle(), "MurVane - [versie 6.7 - MurVane]");
+}
+
+TEST_F(Resultaatvensters, OpenWithTheAnswerInView) {
+  for (const QSize maat : {QSize(1024, 740), QSize(1900, 1000)}) {
+    venster->resize(maat);
+    for (const char* const naam : {"kantoor.mrv", "plafond.mrv", "overspraak.mrv"}) {
+      Bereken(naam);
+      QCoreApplication::processEvents();
+      auto* const tekst = Zoek<frmResultaat>("frmResultaat")->findChild<QTextEdit*>("RichTextBox1");
+      const QString laatste = VanCp(programma.Rapport.RapResultaat).remove('\r');
+      QTextCursor cursor(tekst->document());
+      for (const int plaats : {static_cast<int>(tekst->toPlainText().size() - laatste.size()),
+                               static_cast<int>(tekst->toPlainText().size() - 1)}) {
+        cursor.setPosition(plaats);
+        EXPECT_TRUE(tekst->viewport()->rect().contains(tekst->cursorRect(cursor).center())) << naam << plaats;
+      }
+      EXPECT_EQ(tekst->textCursor().position(), 0);
+      EXPECT_EQ(tekst->horizontalScrollBar()->value(), 0);
+      script.Box({MeldingSoort::Vraag, "Bestand sluiten",
+                  "Wilt u het bestand sluiten zonder data-opslag van eventueel ingevoerde/gewijzigde "
+                  "bestandsgegevens?",
+                  Knoppen::OkCancel});
+      Actie("mnuSluiten")->trigger();
+      QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+  }
 }
 
 TEST_F(Resultaatvensters, ThePreviewSavesItsPagesAsBitmaps) {

@@ -40,6 +40,7 @@
 #include "catalogue/frmOnderhoud.h"
 #include "catalogue/frmOverzicht.h"
 #include "editor/frmMurvane.h"
+#include "editor/vensters_blad.h"
 #include "editor/vensters_tekening.h"
 #include "editor/vensters_veld.h"
 #include "estimators/frmCalc.h"
@@ -85,12 +86,13 @@ constexpr int Randen = 40;
 /// A program with its main window, as the user has it.
 class Wereld {
  public:
-  Wereld() : script_([](const std::string& fout) { ADD_FAILURE() << fout; }) {
+  explicit Wereld(QSize maat = Scherm() - QSize(0, Randen))
+      : script_([](const std::string& fout) { ADD_FAILURE() << fout; }) {
     programma_.Catalogi = LeesCatalogi(Data);
     programma_.DataDir = map_.Pad();
     programma_.Vandaag = std::string_view("20-11-2026");
     hoofd_ = std::make_unique<MDIMurvane>(programma_, script_);
-    hoofd_->resize(Scherm() - QSize(0, Randen));
+    hoofd_->resize(maat);
     hoofd_->show();
     QApplication::setActiveWindow(hoofd_.get());
   }
@@ -323,15 +325,30 @@ const std::vector<Stand>& Fotos() {
                        w.MaakResultaat("kantoor.mrv");
                        return w.Hoofd();
                      }});
+    fotos.push_back({"afdrukvoorbeeld", [](Wereld& w) {
+                       (void)w.MaakVoorbeeld("kantoor.mrv");
+                       return w.Hoofd();
+                     }});
     return fotos;
   }();
   return tabel;
 }
 
-/// Those in which one window shows; that of the results covers the project's.
+/// Those in which one window shows; those of the results cover the project's.
 std::vector<Stand> EnkeleFotos() {
   std::vector<Stand> fotos = Fotos();
-  std::erase_if(fotos, [](const Stand& foto) { return foto.Naam == "resultaten"; });
+  std::erase_if(
+      fotos, [](const Stand& foto) { return foto.Naam == "resultaten" || foto.Naam == "afdrukvoorbeeld"; });
+  return fotos;
+}
+
+/// Those in which a large screen shows more than a small one.
+std::vector<Stand> GroteFotos() {
+  static const std::set<std::string> groot = {"projectgegevens", "ventilator-prognose", "ventilator-lijst",
+                                              "ruimtegegevens",  "kanaal-rechthoekig",  "resultaten",
+                                              "afdrukvoorbeeld"};
+  std::vector<Stand> fotos = Fotos();
+  std::erase_if(fotos, [](const Stand& foto) { return !groot.contains(foto.Naam); });
   return fotos;
 }
 
@@ -977,6 +994,140 @@ TEST(Rondgang, EveryTextStandsOutFromItsGround) {
   }
 }
 
+/// What a control shows in the four corners of its inside, where no text stands.
+std::set<QRgb> Hoeken(QWidget& venster, const QWidget& vak) {
+  const QRect binnen = Plaats(vak, venster).adjusted(5, 5, -5, -5);
+  const QImage beeld = venster.grab(binnen).toImage();
+  const int x = beeld.width() - 1, y = beeld.height() - 1;
+  return {beeld.pixel(0, 0), beeld.pixel(x, 0), beeld.pixel(0, y), beeld.pixel(x, y)};
+}
+
+TEST(Rondgang, TheActiveListHasTheFixedColourInALightThemeOnly) {
+  const auto grond = [](Wereld& w) {
+    w.MaakElement("mnuVent", elementtype::KanaalRecht, 1);
+    QCoreApplication::processEvents();
+    return w.Zoek<QListWidget>("lstProject")->palette().color(QPalette::Base);
+  };
+  {
+    Wereld wereld;
+    EXPECT_EQ(grond(wereld), KleurVan(ActieveKleur));
+  }
+  for (const QPalette& palet : {Donker(), HoogContrast()}) {
+    const Thema thema(palet);
+    Wereld wereld;
+    EXPECT_LT(Contrast(grond(wereld), palet.color(QPalette::Window)), 2) << "no slab of light";
+    auto* const actief = wereld.Zoek<QListWidget>("lstProject");
+    auto* const ander = wereld.Zoek<QListWidget>("lstTotaal");
+    EXPECT_NE(actief->palette().color(QPalette::Base), ander->palette().color(QPalette::Base));
+    const auto geel = [](QWidget& lijst) {
+      const QImage beeld = lijst.grab().toImage();
+      const QRgb kleur = KleurVan(ActieveKleur).rgb();
+      int pixels = 0;
+      for (int x = 0; x < beeld.width(); ++x) pixels += beeld.pixel(x, beeld.height() / 2) == kleur ? 1 : 0;
+      return pixels;
+    };
+    EXPECT_EQ(geel(*actief), 2) << "a thin line";
+    EXPECT_EQ(geel(*ander), 0);
+  }
+}
+
+// The list follows when the user turns to another theme while it shows.
+TEST(Rondgang, TheActiveListFollowsTheTheme) {
+  Wereld wereld;
+  wereld.MaakElement("mnuVent", elementtype::KanaalRecht, 1);
+  const auto grond = [&wereld] {
+    return wereld.Zoek<QListWidget>("lstProject")->palette().color(QPalette::Base);
+  };
+  {
+    const Thema donker(Donker());
+    EXPECT_NE(grond(), KleurVan(ActieveKleur));
+  }
+  QCoreApplication::processEvents();
+  EXPECT_EQ(grond(), KleurVan(ActieveKleur));
+}
+
+/// The one colour of what is selected; a list that the commands do not act on has no colour.
+TEST(Rondgang, WhatIsSelectedHasOneColourEverywhere) {
+  for (const QPalette& palet : {QApplication::palette(), Donker()}) {
+    const Thema thema(palet);
+    Bezoek(
+        [&palet](Wereld&, QWidget& venster) {
+          for (const QWidget* const vak : Zichtbaar(venster)) {
+            const bool gewoon = qobject_cast<const QLineEdit*>(vak) != nullptr ||
+                                qobject_cast<const QComboBox*>(vak) != nullptr ||
+                                qobject_cast<const QTextEdit*>(vak) != nullptr ||
+                                qobject_cast<const QListWidget*>(vak) != nullptr;
+            const QString naam = vak->objectName();
+            if (!gewoon || naam == "lstTotaal" || naam == "lstProject" || !vak->isEnabled()) continue;
+            EXPECT_EQ(vak->palette().color(QPalette::Highlight), palet.color(QPalette::Highlight))
+                << naam.toStdString();
+          }
+        },
+        EnkeleFotos());
+  }
+}
+
+// Yellow on yellow is no selection: at high contrast a field selects in black and white.
+TEST(Rondgang, WhatIsSelectedShowsAtHighContrast) {
+  Wereld wereld;
+  wereld.MaakTab("mnuUitstraling", false, Tab::Ruimtegegevens);
+  const Thema contrast(HoogContrast());
+  for (const char* const naam : {"txtRLengte", "cmbRkanaal"}) {
+    const QPalette palet = wereld.Zoek<QWidget>(naam)->palette();
+    EXPECT_GE(Contrast(palet.color(QPalette::Highlight), palet.color(QPalette::Base)), 4.5) << naam;
+  }
+}
+
+TEST(Rondgang, AValueThatIsOnlyShownIsNoField) {
+  for (const QPalette& palet : {QApplication::palette(), Donker(), HoogContrast()}) {
+    const Thema thema(palet);
+    Wereld wereld;
+    wereld.MaakElement("mnuVent", elementtype::Catalogus, 2);
+    QCoreApplication::processEvents();
+    wereld.Zoek<QListWidget>("lstProject")->setFocus();
+    const QWidget& pagina = *wereld.Zoek<QWidget>("txtdemp_7")->parentWidget();
+    const QRgb grond = wereld.Hoofd()
+                           ->grab(QRect(Plaats(pagina, *wereld.Hoofd()).topLeft(), QSize(1, 1)))
+                           .toImage()
+                           .pixel(0, 0);
+    for (const char* const naam : {"txtdemp_7", "txtruis_6"}) {
+      const QWidget& vak = *wereld.Zoek<QWidget>(naam);
+      const QImage beeld = wereld.Hoofd()->grab(Plaats(vak, *wereld.Hoofd())).toImage();
+      EXPECT_EQ(beeld.pixel(0, beeld.height() / 2), grond) << naam << " has a rim";
+      EXPECT_EQ(Hoeken(*wereld.Hoofd(), vak), std::set<QRgb>{grond}) << naam;
+    }
+  }
+}
+
+// A window that waits for another one keeps its looks: its fields are fields still.
+TEST(Rondgang, AFieldOfAWaitingWindowStaysAField) {
+  Wereld wereld;
+  wereld.MaakTab("mnuVent", false, Tab::Projectgegevens);
+  wereld.Zoek<frmMurvane>("frmMurvane")->setEnabled(false);
+  EXPECT_EQ(wereld.Zoek<QWidget>("txtProNaam")->palette().color(QPalette::Base), KleurVan(VeldKleur));
+  EXPECT_FALSE(IsWaarde(*wereld.Zoek<QLineEdit>("txtProNaam")));
+}
+
+// The style's own buttons of a maximised window are dark, on a dark menu bar as well.
+TEST(Rondgang, TheButtonsOfAWindowShowInEveryTheme) {
+  for (const QPalette& palet : {QApplication::palette(), Donker(), HoogContrast()}) {
+    const Thema thema(palet);
+    for (const auto knop :
+         {QStyle::SP_TitleBarMinButton, QStyle::SP_TitleBarNormalButton, QStyle::SP_TitleBarCloseButton}) {
+      const QImage beeld = QApplication::style()->standardIcon(knop).pixmap(16, 16).toImage();
+      int zichtbaar = 0;
+      for (int y = 0; y < beeld.height(); ++y) {
+        for (int x = 0; x < beeld.width(); ++x) {
+          const QColor kleur = beeld.pixelColor(x, y);
+          const bool raak = kleur.alpha() > 200 && Contrast(kleur, palet.color(QPalette::Button)) >= 4.5;
+          zichtbaar += raak ? 1 : 0;
+        }
+      }
+      EXPECT_GE(zichtbaar, 8) << knop;
+    }
+  }
+}
+
 // ---- The wheel ----
 
 /// All that the window holds, as text.
@@ -1015,13 +1166,21 @@ std::size_t Kleuren(const QImage& beeld) {
   return kleuren.size();
 }
 
+/// The screen of the tests has 800 by 600 pixels; these windows open larger on an ordinary one.
+void ZetGewoneMaat(QWidget& venster) {
+  if (qobject_cast<frmOnderhoud*>(&venster) != nullptr) venster.resize(980, 520);
+  if (qobject_cast<frmOverzicht*>(&venster) != nullptr) venster.resize(1000, 640);
+}
+
 /// Pictures of the windows; they are kept where MURVANE_BEELDEN names a directory, one of 200 % as name-200.
-void MaakFotos(const QString& soort) {
+void MaakFotos(const QString& soort, const std::vector<Stand>& standen = Fotos(),
+               QSize hoofd = Scherm() - QSize(0, Randen)) {
   const QString map = qEnvironmentVariable("MURVANE_BEELDEN");
-  for (const Stand& stand : Fotos()) {
+  for (const Stand& stand : standen) {
     SCOPED_TRACE(stand.Naam);
-    Wereld wereld;
+    Wereld wereld(hoofd);
     QWidget* const venster = stand.Maak(wereld);
+    ZetGewoneMaat(*venster);
     QCoreApplication::processEvents();
     const QPixmap beeld = venster->grab();
     EXPECT_GT(Kleuren(beeld.toImage()), 4U);
@@ -1046,6 +1205,10 @@ TEST(Rondgang, CanBePicturedAtHighContrast) {
   MaakFotos("-contrast");
 }
 
+TEST(Rondgang, CanBePicturedOnALargeScreen) {
+  MaakFotos("-1920", GroteFotos(), QSize(1920, 1080 - Randen));
+}
+
 TEST(Rondgang, WhatIsDisabledCanBeRead) {
   const auto leesbaar = [] {
     Wereld wereld;
@@ -1066,6 +1229,23 @@ TEST(Rondgang, WhatIsDisabledCanBeRead) {
   leesbaar();
 }
 
+TEST(Rondgang, TheFourTabsHaveOnePlaceInALargeWindow) {
+  Wereld wereld(QSize(1920, 1080 - Randen));
+  wereld.Open(Data / "kantoor.mrv");
+  std::set<std::pair<int, int>> plaatsen, maten;
+  for (std::size_t tab = 0; tab < Tabs.size(); ++tab) {
+    wereld.KiesTab(static_cast<Tab>(tab));
+    QCoreApplication::processEvents();
+    auto* const blad = dynamic_cast<Blad*>(wereld.Zoek<QTabWidget>("SSTab1")->currentWidget());
+    ASSERT_NE(blad, nullptr) << Tabs[tab];
+    const QRect plek = Plaats(*blad->Blok(), *wereld.Hoofd());
+    plaatsen.insert({plek.left(), plek.top()});
+    maten.insert({plek.width(), plek.height()});
+  }
+  EXPECT_EQ(plaatsen.size(), 1U);
+  EXPECT_EQ(maten.size(), 1U);
+}
+
 TEST(Rondgang, ALargeWindowIsUsed) {
   Wereld wereld;
   wereld.MaakElement("mnuVent", elementtype::KanaalRecht, 1);
@@ -1074,7 +1254,7 @@ TEST(Rondgang, ALargeWindowIsUsed) {
   const int rijen = wereld.Zoek<QWidget>("lstProject")->height();
   wereld.Hoofd()->resize(1900, 1040);
   QCoreApplication::processEvents();
-  EXPECT_GT(wereld.Zoek<QWidget>("Tekening")->width(), klein.width() + 300);
+  EXPECT_GT(wereld.Zoek<QWidget>("Tekening")->width(), klein.width() + 100);
   EXPECT_GT(wereld.Zoek<QWidget>("Tekening")->height(), klein.height() + 60);
   EXPECT_GT(wereld.Zoek<QWidget>("lstProject")->height(), rijen + 60);
   wereld.KiesTab(Tab::Projectgegevens);
