@@ -356,16 +356,22 @@ void MDIMurvane::Reken() {
 void MDIMurvane::ToonResultaat(QMdiSubWindow& kader) {
   const QSize vrij = gebied_->viewport()->size();
   const int breed = kader.sizeHint().width();
-  kader.showMaximized();
-  gebied_->setActiveSubWindow(&kader);  // which makes it as large as the project's, when that was in front
-  if (breed > vrij.width()) return;
-  kader.showNormal();
-  kader.setGeometry((vrij.width() - breed) / 2, 0, breed, vrij.height());
+  if (!gebied_->testOption(QMdiArea::DontMaximizeSubWindowOnActivation)) {
+    kader.showMaximized();
+  } else {
+    if (kader.isMaximized() || kader.isMinimized()) kader.showNormal();
+    kader.setGeometry((vrij.width() - breed) / 2, 0, breed, vrij.height());
+    kader.show();
+  }
+  gebied_->setActiveSubWindow(&kader);
 }
 
+/// In front of a window that is maximised the toolkit maximises a new one too, unless it is told before.
 QMdiSubWindow* MDIMurvane::LaadResultaat() {
   resultaat_ = new frmResultaat(programma_.Rapport);
   VerbindResultaat(*resultaat_);
+  const bool past = resultaat_->sizeHint().width() + 2 * Marge <= gebied_->viewport()->width();
+  gebied_->setOption(QMdiArea::DontMaximizeSubWindowOnActivation, past);
   QMdiSubWindow* const kader = gebied_->addSubWindow(resultaat_);
   kader->setAttribute(Qt::WA_DeleteOnClose);
   return kader;
