@@ -6,6 +6,7 @@
 
 #include "basis/tekst.h"
 #include "tests/estimators/hulp.h"
+#include "tests/hulp/bestanden.h"
 
 namespace murvane {
 namespace {
