@@ -64,7 +64,8 @@ TEST(Rookproef, FailsOnAProjectThatIsNotThere) {
   Kopieer(map);
   const Afloop afloop = Start(map.Pad(), {"elders.mrv"});
   EXPECT_EQ(afloop.Status, 1);
-  EXPECT_TRUE(afloop.Geklaagd.contains("Bestand niet gevonden")) << afloop.Geklaagd.toStdString();
+  EXPECT_TRUE(afloop.Geklaagd.contains("Het bestand 'elders.mrv' is niet gevonden"))
+      << afloop.Geklaagd.toStdString();
 }
 
 TEST(Rookproef, FromTheDesktopItWorksInTheUsersOwnDirectory) {

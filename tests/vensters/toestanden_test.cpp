@@ -20,15 +20,20 @@ namespace {
 
 namespace fs = std::filesystem;
 
-Melding Onverwacht(const std::string& procedureEnForm, const std::string& fout) {
+Melding Onverwacht(const std::string& procedureEnForm, const std::string& fout,
+                   Knoppen knoppen = Knoppen::OK) {
   return {MeldingSoort::Kritiek, "MurVane",
-          "Onverwachte fout in procedure " + procedureEnForm + ".\nFout " + fout + "."};
+          "Onverwachte fout in procedure " + procedureEnForm + ".\nFout " + NaarCp1252(fout) + ".", knoppen};
 }
 Melding OpenFout(const std::string& fout) {
-  return Onverwacht("mnuOpen_Click van Form MDIMurvane", fout);
+  return Onverwacht("mnuOpen_Click van Form MDIMurvane", fout, Knoppen::OkCancel);
 }
 Melding OpslagFout(const std::string& fout) {
-  return Onverwacht("OpSlag van Form frmMurvane", fout);
+  return Onverwacht("OpSlag van Form frmMurvane", fout, Knoppen::OkCancel);
+}
+std::string GeenProjectnaam(const std::string& naam) {
+  return "52 - De bestandsnaam '" + naam +
+         "' is ongeldig: een projectbestand eindigt op mrv, in kleine letters";
 }
 
 class Toestanden : public Gestart {
@@ -169,12 +174,12 @@ TEST_F(Toestanden, AFailedSaveLeavesTheProjectAsItWas) {
   Schrijf(map / "bestand", "x");
   const struct {
     const char* Naam;
-    const char* Fout;
+    std::string Fout;
   } rijen[] = {
-      {"zonder extensie", "52 - Ongeldige bestandsnaam"},
-      {"HOOFD.MRV", "52 - Ongeldige bestandsnaam"},
-      {"weg/één.mrv", "76 - Map niet gevonden"},
-      {"map.mrv", "75 - Geen toegang tot het bestand of de map"},
+      {"zonder extensie", GeenProjectnaam("zonder extensie")},
+      {"HOOFD.MRV", GeenProjectnaam("HOOFD.MRV")},
+      {"weg/één.mrv", "76 - De map 'weg' is niet gevonden"},
+      {"map.mrv", "75 - Geen toegang tot het bestand of de map 'map.mrv'"},
   };
   Start();
   Open(BronData / "overspraak.mrv");
@@ -193,10 +198,11 @@ TEST_F(Toestanden, AFailedSaveLeavesTheProjectAsItWas) {
   // OK asks again after a refused name, and writes again after anything else
   const fs::path goed = map / "later" / "goed.mrv";
   script.Opslaan(OpslaanVraag(laatst), map / "fout.txt")
-      .Box(OpslagFout("52 - Ongeldige bestandsnaam"))
+      .Box(OpslagFout(GeenProjectnaam("fout.txt")))
       .Opslaan(OpslaanVraag(map / "fout.txt"), goed)
-      .Box(OpslagFout("76 - Map niet gevonden"))
-      .Box(OpslagFout("76 - Map niet gevonden"), Antwoord::OK, [&] { fs::create_directory(map / "later"); });
+      .Box(OpslagFout("76 - De map 'later' is niet gevonden"))
+      .Box(OpslagFout("76 - De map 'later' is niet gevonden"), Antwoord::OK,
+           [&] { fs::create_directory(map / "later"); });
   toetsen->Menu({"mnuBestand", "mnuOpslaan"});
   IsZonderProject();
   EXPECT_TRUE(Lees(goed) == Lees(BronData / "overspraak.mrv"));
@@ -210,7 +216,8 @@ TEST_F(Toestanden, AFullDiskLeavesTheProjectAndTheOldFile) {
   {
     const Schijfgrens grens(1000);
     script.Opslaan(OpslaanVraag(BronData / "kantoor.mrv"), bestand)
-        .Box(OpslagFout("61 - Schijf vol"), Antwoord::Cancel);
+        .Box(OpslagFout("61 - De schijf is vol; het bestand 'vol één.mrv' is niet geschreven"),
+             Antwoord::Cancel);
     toetsen->Menu({"mnuBestand", "mnuOpslaan"});
   }
   IsOpen("kantoor.mrv");
@@ -231,14 +238,14 @@ TEST_F(Toestanden, AFailedOpenLeavesNoProject) {
   fs::create_directory(map / "map.mrv");
   const struct {
     const char* Naam;
-    const char* Fout;
+    std::string Fout;
   } rijen[] = {
-      {"weg.mrv", "53 - Bestand niet gevonden"},
-      {"weg/weg.mrv", "76 - Map niet gevonden"},
-      {"map.mrv", "75 - Geen toegang tot het bestand of de map"},
-      {"kort.mrv", "62 - Het bestand eindigt te vroeg"},
-      {"lang.mrv", "9 - Index buiten het bereik"},
-      {"GOED.MRV", "52 - Ongeldige bestandsnaam"},
+      {"weg.mrv", "53 - Het bestand 'weg.mrv' is niet gevonden"},
+      {"weg/weg.mrv", "76 - De map 'weg' is niet gevonden"},
+      {"map.mrv", "75 - Geen toegang tot het bestand of de map 'map.mrv'"},
+      {"kort.mrv", "62 - Het bestand 'kort.mrv' eindigt te vroeg"},
+      {"lang.mrv", "9 - Index buiten het bereik in het bestand 'lang.mrv'"},
+      {"GOED.MRV", GeenProjectnaam("GOED.MRV")},
   };
   Start();
   fs::path laatst;
@@ -251,7 +258,7 @@ TEST_F(Toestanden, AFailedOpenLeavesNoProject) {
     EXPECT_EQ(programma.Project.ElementCount, 0);
   }
   script.Open(OpenVraag(laatst), map / "weg.mrv")
-      .Box(OpenFout("53 - Bestand niet gevonden"))
+      .Box(OpenFout("53 - Het bestand 'weg.mrv' is niet gevonden"))
       .Open(OpenVraag(map / "weg.mrv"), BronData / "kantoor.mrv");
   toetsen->Menu({"mnuBestand", "mnuOpen"});
   IsOpen("kantoor.mrv");
@@ -273,8 +280,8 @@ TEST_F(Toestanden, OpensTheProjectOfTheCommandLine) {
 }
 
 TEST_F(Toestanden, ForgetsAProjectOfTheCommandLineThatCannotBeRead) {
-  script.Box(OpenFout("53 - Bestand niet gevonden"))
-      .Box(OpenFout("53 - Bestand niet gevonden"), Antwoord::Cancel);
+  script.Box(OpenFout("53 - Het bestand 'weg één.mrv' is niet gevonden"))
+      .Box(OpenFout("53 - Het bestand 'weg één.mrv' is niet gevonden"), Antwoord::Cancel);
   Start(PadTekst(map / "weg één.mrv"));
   script.IsKlaar();
   IsZonderProject();
