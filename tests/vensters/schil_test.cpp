@@ -226,7 +226,7 @@ TEST_F(Schil, TwoClicksOnTheIconAreADoubleClickWhereTheDesktopTellsOfSingleOnes)
 TEST_F(Schil, ASheetStandsInTheMiddleOfALargeWindow) {
   Blad blad(nullptr);
   blad.Blok()->setMinimumSize(100, 50);
-  const QSize maat(175 * blad.fontMetrics().averageCharWidth(), 45 * blad.fontMetrics().lineSpacing());
+  const QSize maat(190 * blad.fontMetrics().averageCharWidth(), 60 * blad.fontMetrics().lineSpacing());
   const QSize ontwerp = maat + QSize(24, 24);
   blad.show();
   // Int((inner - design) / 2) in twips, 15 to a pixel: 1 pixel more is 7.5 twips, 7, no pixel
