@@ -49,8 +49,8 @@ void VoegToe(std::vector<std::string>& uit, const std::string& naam) {
 }
 
 std::string LeesLijst(const std::string& naam, const Kanalen& kanalen) {
-  const std::string bytes = naam == Standaardstroom ? kanalen.Invoer(GrootsteLijst + 1)
-                                                    : LeesBestand(PadVan(naam), GrootsteLijst + 1);
+  std::string bytes = naam == Standaardstroom ? kanalen.Invoer(GrootsteLijst + 1)
+                                              : LeesBestand(PadVan(naam), GrootsteLijst + 1);
   if (bytes.size() > GrootsteLijst)
     throw Fout(FoutNummer::PadToegang, "Het bestand is te groot voor een lijst van namen", {},
                InvoerNaam(naam));

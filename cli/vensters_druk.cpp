@@ -116,13 +116,13 @@ int DrukNaarMap(const Keuzes& keuzes, Kanalen& kanalen) {
   const Partij partij{*keuzes.Waarde(Optie::UitDruk), Extensies};
   ControleerPartij(keuzes, partij, PlanVan(keuzes));
   const Voorschrift voorschrift = VoorschriftVan(keuzes);
-  const Partijwerk een = [&](const std::string& naam, const fs::path& doel) {
+  const auto een = [&](const std::string& naam, const fs::path& doel) {
     return Druk(naam, voorschrift, kanalen, [&](const Formulier& formulier) {
       Schrijf(PadTekst(doel).append(Extensies[0]), {}, formulier, voorschrift.GrafiekKeuze, kanalen);
     });
   };
   return VoerPartij(
-      keuzes, partij, [&een] { return een; }, kanalen);
+      keuzes, partij, [&een] { return Partijwerk(een); }, kanalen);
 }
 
 }  // namespace

@@ -15,6 +15,7 @@
 #include <QValueAxis>
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 #include "basis/tekst.h"
 #include "basis/vensters_hulp.h"
@@ -38,7 +39,7 @@ constexpr std::array<QColor, Grafiek::MaxKolommen> Kolomkleuren = {QColor(27, 58
 QFont Letter(double punten, bool vet = false) {
   QFont font("Arial");
   font.setStyleHint(QFont::SansSerif);
-  font.setPixelSize(static_cast<int>(punten * 4 / 3 + 0.5));  // 96 units to the inch
+  font.setPixelSize(static_cast<int>(std::lround(punten * 4 / 3)));  // 96 units to the inch
   font.setBold(vet);
   font.setHintingPreference(QFont::PreferNoHinting);
   return font;
@@ -128,7 +129,7 @@ void VoegAssenToe(QChart& kaart, const Grafiek& grafiek, QBarSeries& reeks) {
 QFont LabelFont(const LabelOpmaak& opmaak) {
   QFont font(VanCp(opmaak.FontNaam));
   font.setStyleHint(QFont::SansSerif);
-  font.setPixelSize(static_cast<int>(opmaak.FontSize * 4 / 3 * Fijn + 0.5));
+  font.setPixelSize(static_cast<int>(std::lround(opmaak.FontSize * 4 / 3 * Fijn)));
   font.setBold(opmaak.Stijl == 1);
   font.setHintingPreference(QFont::PreferNoHinting);
   return font;
